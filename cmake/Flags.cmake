@@ -1,0 +1,47 @@
+# What all targets of the project are compiled with.
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
+
+set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG" CACHE STRING "flags of release builds")
+
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE Release CACHE STRING "build type" FORCE)
+endif()
+
+add_compile_options(-Wall -Wextra -Wpedantic -Werror -Wconversion -Wshadow -Wnon-virtual-dtor)
+
+# Comma-separated sanitizers: address,undefined or thread.
+set(VELMAR_SANITIZE "" CACHE STRING "sanitizers to build with")
+if(VELMAR_SANITIZE)
+  add_compile_options(-fsanitize=${VELMAR_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${VELMAR_SANITIZE})
+endif()
+
+include(CheckLinkerFlag)
+check_linker_flag(CXX "LINKER:-z,pack-relative-relocs" VELMAR_HAS_PACKED_RELOCATIONS)
+
+# A shared library of the project: versions, no undefined symbols, and calls between its own members
+# that do not go through the symbol table.
+function(velmar_shared_library target)
+  set_target_properties(${target} PROPERTIES
+    VERSION ${PROJECT_VERSION}
+    SOVERSION ${PROJECT_VERSION_MAJOR})
+  target_compile_options(${target} PRIVATE -fno-semantic-interposition -fno-reorder-blocks-and-partition)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
+    # The thousands of signature texts need no 32-byte alignment.
+    target_compile_options(${target} PRIVATE -malign-data=abi)
+  endif()
+  target_link_options(${target} PRIVATE LINKER:-Bsymbolic-functions)
+  if(NOT VELMAR_SANITIZE)
+    target_link_options(${target} PRIVATE LINKER:-z,defs)
+  endif()
+  if(VELMAR_HAS_PACKED_RELOCATIONS)
+    target_link_options(${target} PRIVATE LINKER:-z,pack-relative-relocs)
+  endif()
+endfunction()

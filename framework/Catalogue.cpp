@@ -1,0 +1,94 @@
+#include "Velmar/Catalogue.h"
+
+#include "framework/AllClasses.h"
+
+namespace Velmar {
+namespace Catalogue {
+
+U32 chipCount() { return Framework::chipCount; }
+Chip chip(U32 index) {
+  const Framework::ChipName& chip = Framework::chipNames[index];
+  return {chip.name, chip.number};
+}
+
+const char* valueTypeName(ValueType type) {
+  switch (type) {
+    case ValueType::u8:
+      return "U8";
+    case ValueType::u16:
+      return "U16";
+    case ValueType::u32:
+      return "U32";
+    case ValueType::u64:
+      return "U64";
+    case ValueType::raw128:
+      return "Raw128";
+    case ValueType::bitmap:
+      break;
+  }
+  return "Oru::PerUnitBitmap";
+}
+
+const char* Table::name() const { return data_->name; }
+const char* Table::purpose() const { return data_->purpose; }
+Kind Table::kind() const {
+  return data_->kind == Framework::Kind::table ? Kind::table : Kind::registerArray;
+}
+U32 Table::rawBytes() const { return 4 * data_->rawWords; }
+U32 Table::allFieldsBytes() const { return data_->allFieldsBytes; }
+
+U32 Table::fieldCount() const { return data_->fields; }
+
+Field Table::field(U32 index) const {
+  const Framework::FieldFacts& facts = data_->fieldFacts[index];
+  return {FieldId::accessorName(facts.id),
+          FieldId::hardwareName(facts.id),
+          facts.meaning,
+          facts.id,
+          static_cast<ValueType>(facts.type),
+          facts.overlap == Framework::Overlap::marked};
+}
+
+U32 Table::fieldIndex(U32 id) const {
+  U32 index = 0;
+  while (index < data_->fields && data_->fieldFacts[index].id != id) ++index;
+  return index;
+}
+
+bool Table::isOn(U32 chipType) const { return data_->rowOfChip(chipType) != data_->rows; }
+bool Table::isOn(U32 chipType, U8 variant) const {
+  return data_->rowOf(chipType, variant) != data_->rows;
+}
+
+Geometry Table::geometry(U32 chipType) const {
+  if (!isOn(chipType)) return {};
+  const Framework::RowFacts& facts = data_->facts[data_->rowOfChip(chipType)];
+  return {static_cast<Variants>(facts.variants),
+          facts.width,
+          facts.entries,
+          facts.arrayElements,
+          facts.addrStride,
+          facts.identifiers,
+          facts.identifierTerm,
+          facts.fieldCount,
+          facts.base,
+          facts.accessType,
+          static_cast<U32>(data_->block)};
+}
+
+BitRange Table::range(U32 index, U32 chipType) const {
+  const Framework::FieldSlot& slot = data_->slot(index, data_->rowOfChip(chipType));
+  return {slot.offset, slot.width};
+}
+
+bool Table::isFieldBit(U32 bit, U32 chipType) const {
+  if (!isOn(chipType) || bit >= 32 * data_->rawWords) return false;
+  const U32* mask = data_->masks + data_->rowOfChip(chipType) * data_->rawWords;
+  return (mask[bit / 32] >> bit % 32 & 1U) != 0;
+}
+
+U32 tableCount() { return Framework::classCount; }
+Table table(U32 index) { return Table(*Framework::classes[index]); }
+
+}  // namespace Catalogue
+}  // namespace Velmar

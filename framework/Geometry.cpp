@@ -1,0 +1,54 @@
+#include "framework/Geometry.h"
+
+namespace Velmar {
+namespace Framework {
+namespace {
+
+/// The row of a chip and variant; fails where the class lacks them, with the variant's text as the
+/// caller names it.
+U32 knownRow(const ClassData& data, U32 chipType, U8 variant, const char* variantText, Site site) {
+  const U32 row = data.rowOf(chipType, variant);
+  if (__builtin_expect(row == data.rows, false)) {
+    fail(data.rowOfChip(chipType) == data.rows ? "0" : variantText, site);
+  }
+  return row;
+}
+
+}  // namespace
+
+const RowFacts& facts(const ClassData& data, U32 chipType, U8 variant, Site site) {
+  return data.facts[knownRow(data, chipType, variant, "variant == 0", site)];
+}
+
+const RowFacts& tracedFacts(const ClassData& data, U32 chipType, U8 variant, Site site) {
+  traceStatic(chipType, variant, site);
+  return facts(data, chipType, variant, site);
+}
+
+bool hasIdentifier(const ClassData& data, U32 chipType, U8 variant, U32 identifier, Site site) {
+  traceIdentifier(chipType, variant, identifier, site);
+  return identifier < facts(data, chipType, variant, site).identifiers;
+}
+
+Raw8192 allFieldsMask(const ClassData& data, U32 chipType, U8 variant, Site site) {
+  const U32 row = knownRow(data, chipType, variant, "variant == 0", site);
+  Raw8192 mask{};
+  std::memcpy(mask.words, data.masks + row * data.rawWords, 4 * data.rawWords);
+  return mask;
+}
+
+void allFields(const ClassData& data, ViewState state, Site site, U32* entry, int words) {
+  traceMember(state, site);
+  const U32 row = knownRow(data, state.chipType, state.variant, "variant_ == 0", site);
+  if (state.len < data.allFieldsBytes) failDecimal("len_ >= ", data.allFieldsBytes, site);
+  maskBuf(reinterpret_cast<const U32*>(state.buf), data.allFieldsBytes / 4, entry, words,
+          data.masks + row * data.rawWords, static_cast<int>(data.rawWords));
+}
+
+void checkConstruction(const ClassData& data, U32 chipType, U8 variant, Site site) {
+  if (!isKnown(data, chipType, variant)) failClassMissing(data.name, chipType, variant, site);
+  traceConstruction(data, chipType, site);
+}
+
+}  // namespace Framework
+}  // namespace Velmar

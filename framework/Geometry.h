@@ -1,0 +1,53 @@
+#pragma once
+
+#include "framework/PlatformAdapter.h"
+#include "framework/Reports.h"
+
+// What a class says of a chip and variant without looking at an entry: construction, geometry and
+// masks.
+
+namespace Velmar {
+namespace Framework {
+
+/// Whether the class knows the chip and variant.
+inline bool isKnown(const ClassData& data, U32 chipType, U8 variant) {
+  return data.rowOf(chipType, variant) != data.rows;
+}
+
+/// The facts of a chip and variant; fails where the class lacks them.
+const RowFacts& facts(const ClassData& data, U32 chipType, U8 variant, Site site);
+/// The same for the members that trace.
+const RowFacts& tracedFacts(const ClassData& data, U32 chipType, U8 variant, Site site);
+
+bool hasIdentifier(const ClassData& data, U32 chipType, U8 variant, U32 identifier, Site site);
+
+Raw8192 allFieldsMask(const ClassData& data, U32 chipType, U8 variant, Site site);
+
+/// Fills `words` 32-bit words with the entry, zero at all bits that belong to no field. Words
+/// beyond those that the class needs of the buffer stay zero.
+void allFields(const ClassData& data, ViewState state, Site site, U32* entry, int words);
+
+/// getAllFields in the type that the class returns.
+template <class Raw>
+Raw allFieldsAs(const ClassData& data, ViewState state, Site site) {
+  U32 words[sizeof(Raw) / sizeof(U32)];
+  allFields(data, state, site, words, sizeof(Raw) / sizeof(U32));
+  Raw entry;
+  std::memcpy(&entry, words, sizeof(entry));
+  return entry;
+}
+
+/// Traces a construction, or fails it where the class lacks the chip or variant.
+[[gnu::cold]] void checkConstruction(const ClassData& data, U32 chipType, U8 variant, Site site);
+
+/// The constructor's work beyond its base.
+template <const auto& table, const auto& data>
+inline void construct(U32 chipType, U8 variant, Site site) {
+  const bool isWrong = table.rowOf(chipType, variant) == table.rows;
+  if (__builtin_expect(isWrong || traceMayBeOn(entryLevel), false)) {
+    checkConstruction(data, chipType, variant, site);
+  }
+}
+
+}  // namespace Framework
+}  // namespace Velmar

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "AsicUtils/Types.h"
+
+namespace Velmar {
+namespace Framework {
+
+constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
+constexpr char toLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
+constexpr char toUpper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; }
+
+constexpr bool sameText(const char* a, const char* b) {
+  while (*a != '\0' && *a == *b) ++a, ++b;
+  return *a == *b;
+}
+
+/// Writes the accessor name of a hardware name: lower case, each underscore dropped and the
+/// character after it in upper case. `accessor` has room for `hardwareName` and a zero.
+constexpr void writeAccessorName(char* accessor, const char* hardwareName) {
+  bool afterUnderscore = false;
+  for (; *hardwareName != '\0'; ++hardwareName) {
+    if (*hardwareName != '_') {
+      *accessor++ = afterUnderscore ? *hardwareName : toLower(*hardwareName);
+    }
+    afterUnderscore = *hardwareName == '_';
+  }
+  *accessor = '\0';
+}
+
+/// Order of names in which a run of digits compares as a number.
+constexpr bool naturallyBefore(const char* a, const char* b) {
+  while (*a != '\0' && *b != '\0') {
+    if (isDigit(*a) && isDigit(*b)) {
+      U64 left = 0;
+      U64 right = 0;
+      while (isDigit(*a)) left = left * 10 + static_cast<U64>(*a++ - '0');
+      while (isDigit(*b)) right = right * 10 + static_cast<U64>(*b++ - '0');
+      if (left != right) return left < right;
+    } else {
+      if (*a != *b) return *a < *b;
+      ++a, ++b;
+    }
+  }
+  return *a == '\0' && *b != '\0';
+}
+
+}  // namespace Framework
+}  // namespace Velmar

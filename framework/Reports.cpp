@@ -1,0 +1,184 @@
+#include "framework/Reports.h"
+
+#include <cstdio>
+#include <cstring>
+
+#include "AsicUtils/ChipAndVariant.h"
+#include "Velmar/ChipAndVariantText.h"
+#include "framework/ChipCatalogue.h"
+#include "framework/Names.h"
+#include "framework/PlatformAdapter.h"
+
+// Declared here and not taken from <cassert>: that declaration promises not to throw, and checks
+// must stay on in every build.
+extern "C" [[noreturn]] void __assert_fail(const char* expression, const char* file,
+                                           unsigned int line, const char* function);
+
+namespace Velmar {
+
+Kiv::TraceStream& operator<<(Kiv::TraceStream& stream,
+                             const AsicUtils::ChipAndVariant& chipAndVariant) {
+  return stream << " chipType: " << chipAndVariant.chipType
+                << " variant: " << static_cast<int>(chipAndVariant.variant);
+}
+
+namespace Framework {
+namespace {
+
+constexpr const char* sourceFile = "VelmarMetaInfo";
+
+/// The short function name in a signature: what stands between the last ':' or ' ' before the
+/// parameters and the parameters.
+class ShortName {
+ public:
+  explicit ShortName(const char* signature) {
+    const char* end = std::strchr(signature, '(');
+    if (end == nullptr) end = signature + std::strlen(signature);
+    const char* begin = end;
+    while (begin != signature && begin[-1] != ':' && begin[-1] != ' ') --begin;
+    std::snprintf(text_, sizeof(text_), "%.*s", static_cast<int>(end - begin), begin);
+  }
+  const char* text() const { return text_; }
+
+ private:
+  char text_[64];
+};
+
+/// Writes one line, unless its level is off: what is streamed in, under the member's name.
+template <class Write>
+void traceLine(U32 level, Site site, Write write) {
+  if (!traceIsOn(level)) return;
+  const ShortName function(site.signature);
+  Kiv::TraceHelper line(traceHandle, level, sourceFile, site.line, function.text());
+  write(line.stream());
+}
+
+template <class Write>
+[[noreturn]] void failSoftly(U32 chipType, U8 variant, Site site, Write write) {
+  {
+    Kiv::SassertHelper report("0", sourceFile, site.line, site.signature);
+    report.stream() << AsicUtils::ChipAndVariant{chipType, variant};
+    write(report.stream());
+  }
+  fail("\"0\" == nullptr", site);
+}
+
+/// Value types as signatures spell them.
+const char* valueName(ValueType type) {
+  switch (type) {
+    case ValueType::u8:
+      return "U8";
+    case ValueType::u16:
+      return "U16";
+    case ValueType::u32:
+      return "U32";
+    case ValueType::u64:
+      return "U64";
+    case ValueType::raw128:
+      return "Raw128";
+    case ValueType::bitmap:
+      break;
+  }
+  return "Oru::PerUnitBitmap";
+}
+
+/// Setter parameters as signatures spell them.
+const char* parameterName(ValueType type) {
+  switch (type) {
+    case ValueType::u64:
+      return "const U64&";
+    case ValueType::raw128:
+      return "const Raw128&";
+    default:
+      return valueName(type);
+  }
+}
+
+/// What follows the name in each member's signature.
+constexpr const char* suffixes[] = {"() const", "Is(", "Len() const", "Offset() const",
+                                    "Valid() const"};
+
+}  // namespace
+
+FieldSite::FieldSite(const ClassData& data, U32 field, Member member) : line_(data.line) {
+  const FieldFacts& facts = data.fieldFacts[field];
+  const char* const accessor = FieldId::accessorName(facts.id);
+  const bool isSetter = member == Member::setter;
+  const bool isValidity = member == Member::validity;
+  const char capital[] = {toUpper(accessor[0]), '\0'};
+
+  char* end = text_;
+  for (const char* piece :
+       {isSetter                   ? "void"
+        : isValidity               ? "bool"
+        : member == Member::getter ? valueName(facts.type)
+                                   : "U16",
+        " Velmar::", data.name, "::", isValidity ? "is" : "", isValidity ? capital : "",
+        isValidity ? accessor + 1 : accessor, suffixes[static_cast<int>(member)],
+        isSetter ? parameterName(facts.type) : "", isSetter ? ")" : ""}) {
+    const std::size_t length = std::strlen(piece);
+    std::memcpy(end, piece, length + 1);
+    end += length;
+  }
+}
+
+void fail(const char* expression, Site site) {
+  __assert_fail(expression, sourceFile, site.line, site.signature);
+}
+
+void failDecimal(const char* expression, U32 number, Site site) {
+  char text[64];
+  std::snprintf(text, sizeof(text), "%s%u", expression, number);
+  fail(text, site);
+}
+
+void failHexadecimal(const char* expression, U64 number, Site site) {
+  char text[64];
+  std::snprintf(text, sizeof(text), "%s0x%llx", expression,
+                static_cast<unsigned long long>(number));
+  fail(text, site);
+}
+
+void failFieldMissing(U32 fieldId, U32 chipType, U8 variant, Site site) {
+  failSoftly(chipType, variant, site, [&](Kiv::TraceStream& stream) {
+    stream << " does not have field " << FieldId::hardwareName(fieldId);
+  });
+}
+
+void failClassMissing(const char* className, U32 chipType, U8 variant, Site site) {
+  failSoftly(chipType, variant, site, [&](Kiv::TraceStream& stream) {
+    stream << " not in metainfo for " << className << "!";
+  });
+}
+
+void traceMember(ViewState state, Site site) { traceStatic(state.chipType, state.variant, site); }
+
+void traceStatic(U32 chipType, U8 variant, Site site) {
+  traceLine(entryLevel, site, [&](Kiv::TraceStream& stream) {
+    stream << site.signature << AsicUtils::ChipAndVariant{chipType, variant};
+  });
+}
+
+void traceIdentifier(U32 chipType, U8 variant, U32 identifier, Site site) {
+  traceLine(entryLevel, site, [&](Kiv::TraceStream& stream) {
+    stream << site.signature << AsicUtils::ChipAndVariant{chipType, variant}
+           << " identifier: " << identifier;
+  });
+}
+
+void traceFailure(U32 chipType, U8 variant, Site site) {
+  traceLine(failureLevel, site, [&](Kiv::TraceStream& stream) {
+    stream << site.signature << AsicUtils::ChipAndVariant{chipType, variant} << " failed.";
+  });
+}
+
+void traceConstruction(const ClassData& data, U32 chipType, Site site) {
+  const Variants variants = data.facts[data.rowOfChip(chipType)].variants;
+  traceLine(entryLevel, site, [&](Kiv::TraceStream& stream) {
+    stream << data.name << " chipType: " << chipName(chipType)
+           << " variant: " << (variants == Variants::any ? "None" : "0");
+  });
+}
+
+}  // namespace Framework
+}  // namespace Velmar

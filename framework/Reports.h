@@ -1,0 +1,103 @@
+#pragma once
+
+#include "framework/PlatformAdapter.h"
+#include "framework/TableData.h"
+
+// The three doors through which the library reports: trace lines, soft assertions and assertions.
+// All of them are out of line; texts are built only when a report is made.
+
+namespace Velmar {
+namespace Framework {
+
+/// The member that reports: its whole signature and its source line.
+struct Site {
+  const char* signature;
+  U32 line;
+};
+
+/// The members of the field quintet.
+enum class Member : U8 { getter, setter, length, offset, validity };
+
+/// The site of a quintet member. Its signature is put together only when a report is made: stored
+/// for each of the accessors, the texts would be a quarter of the library.
+class FieldSite {
+ public:
+  FieldSite(const ClassData& data, U32 field, Member member);
+  operator Site() const { return {text_, line_}; }  // NOLINT(google-explicit-constructor)
+
+ private:
+  char text_[160];
+  U32 line_;
+};
+
+/// Level of the lines that members write on entry.
+constexpr U32 entryLevel = 8;
+/// Level of the line that a failed address look-up writes.
+constexpr U32 failureLevel = 0;
+
+/// Reads what the views keep to themselves.
+struct ViewAccess {
+  template <class View>
+  static U8* buf(const View& view) {
+    return view.buf_;
+  }
+  template <class View>
+  static U16 len(const View& view) {
+    return view.len_;
+  }
+  template <class View>
+  static U8 chipType(const View& view) {
+    return view.chipType_;
+  }
+  template <class View>
+  static U8 variant(const View& view) {
+    return view.variant_;
+  }
+};
+
+/// What a routine out of line gets to know of a view.
+struct ViewState {
+  U8* buf;
+  U16 len;
+  U8 chipType;
+  U8 variant;
+
+  template <class View>
+  explicit ViewState(const View& view)
+      : buf(ViewAccess::buf(view)),
+        len(ViewAccess::len(view)),
+        chipType(ViewAccess::chipType(view)),
+        variant(ViewAccess::variant(view)) {}
+};
+
+/// Fails an assertion. May be left by an exception: a test may replace the C library's report.
+[[noreturn, gnu::cold]] void fail(const char* expression, Site site);
+/// Fails an assertion whose expression ends in a decimal number: "len_ >= 44".
+[[noreturn, gnu::cold]] void failDecimal(const char* expression, U32 number, Site site);
+/// Fails an assertion whose expression ends in a hexadecimal number: "value <= 0x1ff".
+[[noreturn, gnu::cold]] void failHexadecimal(const char* expression, U64 number, Site site);
+
+/// Reports "<chip and variant> does not have field <HARDWARE_NAME>" softly, then fails.
+[[noreturn, gnu::cold]] void failFieldMissing(U32 fieldId, U32 chipType, U8 variant, Site site);
+/// Reports "<chip and variant> not in metainfo for <Class>!" softly, then fails.
+[[noreturn, gnu::cold]] void failClassMissing(const char* className, U32 chipType, U8 variant,
+                                              Site site);
+
+/// The line that a member of a view writes on entry, where the level is on.
+[[gnu::cold]] void traceMember(ViewState state, Site site);
+/// The same, out of line only where the level may be on.
+template <class View>
+inline void traceEntry(const View& view, Site site) {
+  if (__builtin_expect(traceMayBeOn(entryLevel), false)) traceMember(ViewState(view), site);
+}
+/// The line that a static member writes on entry, where the level is on.
+[[gnu::cold]] void traceStatic(U32 chipType, U8 variant, Site site);
+/// The same with the identifier asked for.
+[[gnu::cold]] void traceIdentifier(U32 chipType, U8 variant, U32 identifier, Site site);
+/// The line of a failed address look-up, where its level is on.
+[[gnu::cold]] void traceFailure(U32 chipType, U8 variant, Site site);
+/// The constructor's line, where the level is on.
+[[gnu::cold]] void traceConstruction(const ClassData& data, U32 chipType, Site site);
+
+}  // namespace Framework
+}  // namespace Velmar

@@ -1,0 +1,102 @@
+#pragma once
+
+#include "AsicUtils/Types.h"
+#include "Velmar/Export.h"
+
+namespace Velmar {
+
+namespace Framework {
+struct ClassData;
+}  // namespace Framework
+
+/// What the library knows, as data: every chip, class and field, with layout, geometry and address
+/// rule. It is read from the rows that the views themselves use. Nothing here fails or allocates;
+/// every text lives as long as the library.
+namespace Catalogue {
+
+struct Chip {
+  const char* name;  ///< such as "BCM56990_B0"
+  U32 number;        ///< the ChipType_ value
+};
+
+/// The chips, in ascending order of their numbers.
+VELMAR_EXPORT U32 chipCount();
+/// Chip `index`, below chipCount().
+VELMAR_EXPORT Chip chip(U32 index);
+
+enum class Kind : U8 { table, registerArray };
+enum class ValueType : U8 { u8, u16, u32, u64, raw128, bitmap };
+enum class Variants : U8 { any, zeroOnly };
+
+/// The name of a value type as signatures have it, such as "U16" or "Oru::PerUnitBitmap".
+VELMAR_EXPORT const char* valueTypeName(ValueType type);
+
+/// One field of a class, whatever the chip.
+struct Field {
+  const char* accessor;      ///< such as "fidId"
+  const char* hardwareName;  ///< such as "FID_ID"
+  const char* meaning;       ///< a few words
+  U32 id;                    ///< identifier
+  ValueType type;            ///< what its getter returns
+  bool overlaps;             ///< names bits that other fields of the class name too
+};
+
+/// Where a field lies in an entry, in bits.
+struct BitRange {
+  U16 offset;
+  U16 width;  ///< 0: the chip does not have the field
+};
+
+/// Shape and address of a class on one chip.
+struct Geometry {
+  Variants variants;   ///< whether the chip takes any variant or variant 0 only
+  U16 width;           ///< entry width in 32-bit words
+  U32 entries;         ///< number of entries; 1 for a register array
+  U32 arrayElements;   ///< number of array elements; 1 for a table
+  U32 addrStride;      ///< address distance between array elements; 0 for a table
+  U32 identifiers;     ///< number of instance identifiers accepted, from 0
+  U32 identifierTerm;  ///< what one identifier adds to the address
+  U32 fieldCount;      ///< number of fields that the chip has
+  U32 base;            ///< S-channel address of entry 0, element 0, identifier 0
+  U32 accessType;      ///< S-channel access code
+  U32 block;           ///< pipeline block: 1 ingress, 2 egress
+};
+
+/// One view class. A small value; copy it freely.
+class VELMAR_EXPORT Table {
+ public:
+  explicit Table(const Framework::ClassData& data) : data_(&data) {}
+
+  const char* name() const;     ///< class name, such as "VlanEntry"
+  const char* purpose() const;  ///< what it holds, in a few words
+  Kind kind() const;
+  U32 rawBytes() const;        ///< size of the type that getAllFields returns
+  U32 allFieldsBytes() const;  ///< buffer bytes that getAllFields needs
+
+  U32 fieldCount() const;        ///< number of fields that the class declares
+  Field field(U32 index) const;  ///< field `index`, below fieldCount(), in declaration order
+  /// Index of the field of an identifier; fieldCount() where the class does not declare it.
+  U32 fieldIndex(U32 id) const;
+
+  /// Whether the class exists on a chip.
+  bool isOn(U32 chipType) const;
+  /// Whether a chip and variant are known to the class.
+  bool isOn(U32 chipType, U8 variant) const;
+  /// Geometry on a chip; all zero where the class does not exist there.
+  Geometry geometry(U32 chipType) const;
+  /// Place of field `index` on a chip; width 0 where the chip does not have it.
+  BitRange range(U32 index, U32 chipType) const;
+  /// Whether bit `bit` of an entry on a chip belongs to a field.
+  bool isFieldBit(U32 bit, U32 chipType) const;
+
+ private:
+  const Framework::ClassData* data_;
+};
+
+/// The view classes, in a fixed order.
+VELMAR_EXPORT U32 tableCount();
+/// Class `index`, below tableCount().
+VELMAR_EXPORT Table table(U32 index);
+
+}  // namespace Catalogue
+}  // namespace Velmar

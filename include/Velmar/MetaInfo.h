@@ -1,0 +1,62 @@
+#pragma once
+
+#include "Velmar/Catalogue.h"
+#include "Velmar/ChipAndVariantText.h"
+#include "Velmar/EgrVlan2Entry.h"
+#include "Velmar/EgrVlanEntry.h"
+#include "Velmar/EgrVlanStgBEntry.h"
+#include "Velmar/EgrVlanStgEntry.h"
+#include "Velmar/EgrVlanVfiMembershipEntry.h"
+#include "Velmar/EgrVlanVfiUntagEntry.h"
+#include "Velmar/EgrVpVlanMembershipEccEntry.h"
+#include "Velmar/EgrVpVlanMembershipEntry.h"
+#include "Velmar/EgrVpVlanMembershipHashControl.h"
+#include "Velmar/FieldId.h"
+#include "Velmar/IgmpMldPktControl.h"
+#include "Velmar/IngVlanVfiMembershipEntry.h"
+#include "Velmar/IngVpVlanMembershipEccEntry.h"
+#include "Velmar/IngVpVlanMembershipEntry.h"
+#include "Velmar/IngVpVlanMembershipHashControl.h"
+#include "Velmar/PortBitmapProfileEntry.h"
+#include "Velmar/ProtocolPktControl.h"
+#include "Velmar/VfiProfile2Entry.h"
+#include "Velmar/VfiProfileEntry.h"
+#include "Velmar/Vlan2Entry.h"
+#include "Velmar/VlanAttrs1Entry.h"
+#include "Velmar/VlanEntry.h"
+#include "Velmar/VlanMplsEntry.h"
+#include "Velmar/VlanProfile2Entry.h"
+#include "Velmar/VlanProfileEntry.h"
+#include "Velmar/VlanStg2Entry.h"
+#include "Velmar/VlanStgBEntry.h"
+#include "Velmar/VlanStgEntry.h"
+
+/// Every view class of the library, once: CLASS(name). The lists of classes are made from this one.
+#define VELMAR_FOR_EACH_CLASS(CLASS)    \
+  CLASS(VlanEntry)                      \
+  CLASS(Vlan2Entry)                     \
+  CLASS(VlanAttrs1Entry)                \
+  CLASS(VlanMplsEntry)                  \
+  CLASS(VlanProfileEntry)               \
+  CLASS(VlanProfile2Entry)              \
+  CLASS(EgrVlanEntry)                   \
+  CLASS(EgrVlan2Entry)                  \
+  CLASS(VlanStgEntry)                   \
+  CLASS(VlanStg2Entry)                  \
+  CLASS(VlanStgBEntry)                  \
+  CLASS(EgrVlanStgEntry)                \
+  CLASS(EgrVlanStgBEntry)               \
+  CLASS(VfiProfileEntry)                \
+  CLASS(VfiProfile2Entry)               \
+  CLASS(IngVlanVfiMembershipEntry)      \
+  CLASS(EgrVlanVfiMembershipEntry)      \
+  CLASS(EgrVlanVfiUntagEntry)           \
+  CLASS(PortBitmapProfileEntry)         \
+  CLASS(IngVpVlanMembershipEntry)       \
+  CLASS(EgrVpVlanMembershipEntry)       \
+  CLASS(IngVpVlanMembershipEccEntry)    \
+  CLASS(EgrVpVlanMembershipEccEntry)    \
+  CLASS(IngVpVlanMembershipHashControl) \
+  CLASS(EgrVpVlanMembershipHashControl) \
+  CLASS(IgmpMldPktControl)              \
+  CLASS(ProtocolPktControl)

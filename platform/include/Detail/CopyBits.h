@@ -1,0 +1,117 @@
+#pragma once
+
+#include <cstring>
+
+#include "AsicUtils/Types.h"
+#include "Detail/CopyBitsLoop.h"
+
+// The bit copy works through a window of up to 8 bytes that always lies inside the buffer: it is
+// read, and for a destination written back, as one little-endian integer.
+static_assert(__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__,
+              "the bit copy reads entries as little-endian integers");
+
+namespace Detail {
+
+/// These few lines are the body of every accessor: inline them whatever the compiler thinks.
+#define DETAIL_INLINE [[gnu::always_inline]] inline
+
+template <class T>
+DETAIL_INLINE T loadBytes(const U8* from) {
+  T value;
+  std::memcpy(&value, from, sizeof(value));
+  return value;
+}
+
+template <class T>
+DETAIL_INLINE void storeBytes(U8* into, T value) {
+  std::memcpy(into, &value, sizeof(value));
+}
+
+/// A whole buffer of 1 to 8 bytes as an integer.
+DETAIL_INLINE U64 loadShort(const U8* from, int len) {
+  if (len == 8) return loadBytes<U64>(from);
+  if (len >= 4) {
+    return loadBytes<U32>(from) | static_cast<U64>(loadBytes<U32>(from + len - 4)) << 8 * (len - 4);
+  }
+  if (len == 1) return from[0];
+  return loadBytes<U16>(from) | static_cast<U64>(loadBytes<U16>(from + len - 2)) << 8 * (len - 2);
+}
+
+/// Writes a whole buffer of 1 to 8 bytes.
+DETAIL_INLINE void storeShort(U8* into, int len, U64 value) {
+  if (len == 8) {
+    storeBytes<U64>(into, value);
+  } else if (len >= 4) {
+    storeBytes<U32>(into, static_cast<U32>(value));
+    storeBytes<U32>(into + len - 4, static_cast<U32>(value >> 8 * (len - 4)));
+  } else if (len == 1) {
+    into[0] = static_cast<U8>(value);
+  } else {
+    storeBytes<U16>(into, static_cast<U16>(value));
+    storeBytes<U16>(into + len - 2, static_cast<U16>(value >> 8 * (len - 2)));
+  }
+}
+
+/// First byte of the window for `bits` bits at `offset` in a buffer of 8 bytes or more. Windows on
+/// multiples of 8 bytes are preferred: then a field written just before is forwarded whole to the
+/// next access. A range that straddles two of them gets a window of its own.
+DETAIL_INLINE int windowStart(int len, int offset, int bits) {
+  const int own = offset >> 3;
+  const int aligned = own & ~7;
+  const int start = (offset & 63) + bits <= 64 ? aligned : own;
+  return start < len - 8 ? start : len - 8;
+}
+
+/// The most bits that one window takes at any offset.
+constexpr int windowBits = 57;
+
+/// `bits` (1 to 57) bits at `offset`, in the low bits of the result; the bits above are arbitrary.
+DETAIL_INLINE U64 readWindow(const U8* src, int len, int offset, int bits) {
+  if (len <= 8) return loadShort(src, len) >> offset;
+  const int start = windowStart(len, offset, bits);
+  return loadBytes<U64>(src + start) >> (offset - 8 * start);
+}
+
+/// Puts the low `bits` (1 to 57) bits of `value` at `offset`.
+DETAIL_INLINE void writeWindow(U8* dst, int len, int offset, int bits, U64 value) {
+  const U64 mask = ~U64{0} >> (64 - bits);
+  if (len <= 8) {
+    const U64 old = loadShort(dst, len);
+    storeShort(dst, len, (old & ~(mask << offset)) | (value & mask) << offset);
+    return;
+  }
+  const int start = windowStart(len, offset, bits);
+  const int shift = offset - 8 * start;
+  const U64 old = loadBytes<U64>(dst + start);
+  storeBytes<U64>(dst + start, (old & ~(mask << shift)) | (value & mask) << shift);
+}
+
+/// Copies more bits than one window takes.
+inline void copyBitsWide(U8* dst, int dstLen, const U8* src, int srcLen, int bits, int dstOffset,
+                         int srcOffset) {
+  constexpr int step = 32;
+  while (bits > 0) {
+    const int count = bits < step ? bits : step;
+    writeWindow(dst, dstLen, dstOffset, count, readWindow(src, srcLen, srcOffset, count));
+    dstOffset += count;
+    srcOffset += count;
+    bits -= count;
+  }
+}
+
+/// Copies `bits` bits from bit `srcOffset` of `src` to bit `dstOffset` of `dst`. Lengths are in
+/// bytes; bit n of a buffer is bit n % 8 of byte n / 8. The bits of `dst` outside the range stay as
+/// they are. Both ranges must lie inside their buffers and the buffers must not overlap; nothing
+/// outside the buffers is read or written, and neither needs any alignment.
+DETAIL_INLINE void copyBits(U8* dst, int dstLen, const U8* src, int srcLen, int bits, int dstOffset,
+                            int srcOffset) {
+  if (bits > windowBits) {
+    copyBitsWide(dst, dstLen, src, srcLen, bits, dstOffset, srcOffset);
+  } else if (bits > 0) {
+    writeWindow(dst, dstLen, dstOffset, bits, readWindow(src, srcLen, srcOffset, bits));
+  }
+}
+
+#undef DETAIL_INLINE
+
+}  // namespace Detail

@@ -1,0 +1,37 @@
+#include "Velmar/VfiProfile2Entry.h"
+
+#include "framework/Definitions.h"
+
+namespace Velmar {
+namespace {
+
+using namespace Framework;
+
+constexpr ClassRow about = {"second VFI profile table, block masks and their selectors", ingress};
+
+// clang-format off
+enum : U8 { c56870, c56470, c5699x, columns };
+
+constexpr FieldRow<columns> layout[] = {
+  //                                   56870       56470      5699x
+  {FieldId::BCAST_MASK_SEL,         {{280,   2}, {150,  2}, {  0,   2}}},
+  {FieldId::UNKNOWN_UCAST_MASK_SEL, {{282,   2}, {152,  2}, {550,   2}}},
+  {FieldId::KNOWN_MCAST_MASK_SEL,   {{286,   2}, {156,  2}, {546,   2}}},
+  {FieldId::UNKNOWN_MCAST_MASK_SEL, {{284,   2}, {154,  2}, {548,   2}}},
+  {FieldId::BLOCK_MASK_A,           {{  0, 132}, {  0, 72}, {  2, 272}}},
+  {FieldId::BLOCK_MASK_B,           {{140, 132}, { 75, 72}, {274, 272}}},
+};
+
+constexpr ChipRow chips[] = {
+  // chips                                               column  variants    words  entries base        access
+  {{BCM56870_A0, BCM56770_A0},                           c56870, anyVariant,   10,     128, 0x80ec0000,    9},
+  {{BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0}, c56470, anyVariant,    6,     128, 0x80ec0000,    0},
+  {bcm5699x,                                             c5699x, anyVariant,   18,     128, 0x20f80000,   17},
+};
+// clang-format on
+
+}  // namespace
+
+VELMAR_DEFINE_TABLE(VfiProfile2Entry, Raw1024)
+
+}  // namespace Velmar

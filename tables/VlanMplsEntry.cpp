@@ -1,0 +1,39 @@
+#include "Velmar/VlanMplsEntry.h"
+
+#include "framework/Definitions.h"
+
+namespace Velmar {
+namespace {
+
+using namespace Framework;
+
+constexpr ClassRow about = {
+    "ingress VLAN MPLS table, tunnel enables and layer-3 interface per VLAN", ingress};
+
+// clang-format off
+enum : U8 { c56960, c56980, columns };
+
+constexpr FieldRow<columns> layout[] = {
+  //                                   56960    56980
+  {FieldId::MPLS_ENABLE,            {{0,  1}, {13,  1}}},
+  {FieldId::MIM_TERM_ENABLE,        {{1,  1}, none}},
+  {FieldId::L3_IIF,                 {{2, 13}, { 0, 13}}},
+  {FieldId::EN_IFILTER,             {none,    none}},  // on no chip of this class, and dispatched all the same
+  {FieldId::MEMBERSHIP_PROFILE_PTR, {none,    none}},  // likewise
+  {FieldId::VFI,                    {none,    none}},  // likewise
+};
+
+constexpr ChipRow chips[] = {
+  // chips                                  column  variants     words  entries base        access
+  {{BCM56960_A0, BCM56965_A0, BCM56968_A0}, c56960, anyVariant,     1,    4096, 0x34000000,    9},
+  {{BCM56970_A0},                           c56960, anyVariant,     1,    4096, 0x58000000,    9},
+  {{BCM56980_A0},                           c56980, anyVariant,     1,    4096, 0x08240000,    9},
+  {bcm5699x,                                c56980, variantZero,    1,    8192, 0x08380000,   17},
+};
+// clang-format on
+
+}  // namespace
+
+VELMAR_DEFINE_TABLE(VlanMplsEntry, U32)
+
+}  // namespace Velmar

@@ -1,0 +1,36 @@
+#include "Velmar/VlanStgEntry.h"
+
+#include "framework/Definitions.h"
+
+namespace Velmar {
+namespace {
+
+using namespace Framework;
+
+constexpr ClassRow about = {"ingress spanning-tree groups, a state per port", ingress};
+
+// clang-format off
+enum : U8 { c56960, c56870, c56470, c56980, columns };
+
+//                                    first  bits  ports: 56960 56870 56470 56980
+constexpr PortRule<columns> states = {0,     2,          {136,  132,  72,   160}};
+constexpr auto layout = portRows<160>(states);
+
+constexpr ChipRow chips[] = {
+  // chips                                  column  variants     words  entries base        access
+  {{BCM56960_A0, BCM56965_A0, BCM56968_A0}, c56960, anyVariant,     9,     512, 0x38100000,    9},
+  {{BCM56970_A0},                           c56960, anyVariant,     9,     512, 0x5c300000,    9},
+  {{BCM56870_A0, BCM56770_A0},              c56870, anyVariant,    14,     512, 0x64400000,    9},
+  {{BCM56470_A0},                           c56470, anyVariant,    11,     512, 0x68440000,    0},
+  {{BCM56370_A0},                           c56470, anyVariant,    11,     512, 0x64400000,    0},
+  {{BCM56275_A0, BCM56175_A0},              c56470, anyVariant,    11,     256, 0x64400000,    0},
+  {{BCM56980_A0},                           c56980, anyVariant,    12,      64, 0x0c800000,   14},
+  {bcm5699x,                                c56960, variantZero,   10,      64, 0x0c880000,   22},
+};
+// clang-format on
+
+}  // namespace
+
+VELMAR_DEFINE_TABLE(VlanStgEntry, Raw512)
+
+}  // namespace Velmar
