@@ -1,0 +1,94 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "AsicUtils/BcmAsicBase.h"
+#include "Velmar/MetaInfo.h"
+
+// Every class and field in one shape, made from the public field lists, so that a sweep is written
+// once and runs over all of them through the public accessors.
+
+namespace VelmarTest {
+
+using Base = AsicUtils::BcmAsicBase;
+
+/// A field's value as 32-bit words, lowest first.
+using Words = std::vector<U32>;
+
+struct FieldProbe {
+  std::string accessor;
+  std::string capitalised;
+  std::string hardwareName;
+  U32 id;
+  std::string type;       ///< as the golden files name it
+  std::string value;      ///< as signatures spell what the getter returns
+  std::string parameter;  ///< as signatures spell what the setter takes
+  U32 typeBits;           ///< bits of a scalar's type; 0 for other fields
+
+  U16 (Base::*length)() const;
+  U16 (Base::*offset)() const;
+  bool (Base::*isValid)() const;
+  std::function<Words(const Base&)> get;
+  std::function<void(Base&, const Words&)> set;
+
+  bool isScalar() const { return typeBits != 0; }
+  /// Signatures of the quintet.
+  std::string getterSignature(const std::string& view) const;
+  std::string setterSignature(const std::string& view) const;
+  std::string lengthSignature(const std::string& view) const;
+  std::string offsetSignature(const std::string& view) const;
+  std::string validitySignature(const std::string& view) const;
+};
+
+/// A static geometry member and its const form.
+struct GeometryProbe {
+  std::string name;
+  std::string type;  ///< as signatures spell the result
+  bool isTraced;
+  std::function<U32(U32, U8)> ofChip;
+  std::function<U32(const Base&)> ofView;
+};
+
+struct SchanTriple {
+  U32 address;
+  U32 accessType;
+  U32 block;
+};
+
+struct ClassProbe {
+  std::string name;
+  std::string rawName;  ///< type that getAllFields returns
+  bool isTable;
+  std::vector<FieldProbe> fields;
+  std::vector<GeometryProbe> geometry;
+
+  /// A view as a caller makes it.
+  std::function<std::unique_ptr<Base>(U32 chipType, U8* buf, U16 len, U8 variant)> make;
+  /// A view in a state that construction would refuse.
+  std::function<std::unique_ptr<Base>(U32 chipType, U8* buf, U16 len, U8 variant)> open;
+
+  bool (*chipTypeVariantValid)(ChipType_, U8);
+  bool (*hasIdentifier)(U32, U8, U32);
+  Raw8192 (*allFieldsMask)(U32, U8);
+  std::function<bool(U32, U8, SchanTriple&, U16, U32, U16)> getSchanAddress;
+  std::function<Words(const Base&)> getAllFields;
+  std::function<bool(const Base&)> isPrimary;
+
+  // Tables only.
+  AsicUtils::EntrySpans (*entrySpans)(U32, U8);
+  U32 (*tableVariantCount)(U32);
+  std::vector<const AsicUtils::EntrySpan*> spanMembers;
+
+  const FieldProbe& field(const std::string& accessor) const;
+};
+
+const std::vector<ClassProbe>& classProbes();
+const ClassProbe& classProbe(const std::string& name);
+
+/// A chip on which the class exists.
+U32 anyChipOf(const ClassProbe& probe);
+
+}  // namespace VelmarTest

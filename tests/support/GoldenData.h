@@ -1,0 +1,61 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "AsicUtils/Types.h"
+
+namespace VelmarTest {
+
+/// The independent copy of every number of the library, as read from the golden files.
+struct GoldenField {
+  std::string accessor;
+  std::string hardwareName;
+  U32 id;
+  std::string type;  ///< U8 to U64, Raw128 or PerUnitBitmap
+  struct Place {
+    U32 offset;
+    U32 width;
+  };
+  std::map<U32, Place> places;  ///< by chip; a chip that lacks the field has none
+};
+
+struct GoldenChip {
+  bool anyVariant;
+  U32 words;
+  std::optional<U32> entries;  ///< none for a register array
+  U32 arrayElements;
+  U32 base;
+  U32 accessType;
+  U32 block;
+  U32 rawBytesNeeded;
+};
+
+struct GoldenClass {
+  std::string name;
+  bool isTable;
+  std::map<U32, GoldenChip> chips;
+  std::vector<GoldenField> fields;
+};
+
+const std::vector<GoldenClass>& goldenClasses();
+const GoldenClass& goldenClass(const std::string& name);
+
+/// Number of rows in each golden file, for the tests that must meet them all.
+struct GoldenRows {
+  U32 places;   ///< fields on chips
+  U32 nowhere;  ///< fields that no chip of their class has
+  U32 tables;
+};
+GoldenRows goldenRows();
+
+/// Whether a class on a chip knows a variant.
+bool knowsVariant(const GoldenChip& chip, U8 variant);
+
+/// The chips by number, from the golden files' names and the enumeration.
+U32 chipNumber(const std::string& name);
+const std::map<U32, std::string>& chipNames();
+
+}  // namespace VelmarTest
