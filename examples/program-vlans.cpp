@@ -1,9 +1,7 @@
 // Plays the switch agent: programs a set of VLANs into a buffer for the whole ingress VLAN table of
 // a BCM56990_B0, through views, and saves the buffer as the agent would.
 
-#include <cstdio>
-#include <cstring>
-
+#include "CommandLine.h"
 #include "Dump.h"
 #include "Velmar/VlanEntry.h"
 #include "WriteFile.h"
@@ -72,22 +70,16 @@ void program(Velmar::VlanEntry entry, const VlanRange& range, U32 step) {
   entry.virtualPortEnIs((range.flags & virtualPorts) != 0);
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-  if (argc == 2 && std::strcmp(argv[1], "--help") == 0) {
-    std::fputs(usage, stdout);
-    return 0;
-  }
-  if (argc != 2 || argv[1][0] == '-' || argv[1][0] == '\0') {
-    std::fputs(usage, stderr);
-    return 2;
-  }
+bool programVlans(const std::string& path) {
   Examples::Dump<Velmar::VlanEntry> table(chip, Velmar::VlanEntry::entries(chip, 0));
   for (const VlanRange& range : vlans) {
     for (U32 step = 0; step < range.count; ++step) {
       program(table.entry(range.first + step), range, step);
     }
   }
-  return Examples::writeFile("program-vlans", argv[1], table.bytes()) ? 0 : 2;
+  return Examples::writeFile("program-vlans", path, table.bytes());
 }
+
+}  // namespace
+
+int main(int argc, char** argv) { return Examples::runWithPath(argc, argv, usage, programVlans); }
