@@ -24,16 +24,15 @@ bool writeFile(const char* program, const std::string& path, const std::vector<U
   // The new file takes the old one's place, which a device or a pipe must not suffer.
   std::error_code ignored;
   if (std::filesystem::exists(path, ignored) && !std::filesystem::is_regular_file(path, ignored)) {
-    std::fprintf(stderr, "%s: %s: not a regular file; name a file to write\n", program,
-                 path.c_str());
+    std::fprintf(stderr, "%s: %s: not a regular file; name another\n", program, path.c_str());
     return false;
   }
   const std::string partial = path + ".partial";
   if (writeBytes(partial, bytes) && std::rename(partial.c_str(), path.c_str()) == 0) return true;
   const int error = errno;
   std::remove(partial.c_str());
-  std::fprintf(stderr, "%s: %s: %s; name a file in a directory that can be written\n", program,
-               path.c_str(), std::strerror(error));
+  std::fprintf(stderr, "%s: %s: %s; nothing was written\n", program, path.c_str(),
+               std::strerror(error));
   return false;
 }
 

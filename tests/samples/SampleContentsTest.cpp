@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include "ReadFile.h"
+#include <vector>
+
 #include "Velmar/MetaInfo.h"
+#include "support/Files.h"
 
 namespace {
 
@@ -17,17 +19,18 @@ class Sample {
   Sample(const char* name, ChipType_ chip)
       : chip_(chip),
         entryBytes_(4U * View::width(chip, 0)),
-        bytes_(readFile(SAMPLES_DIR "/" + std::string(name))) {}
+        bytes_(VelmarTest::readFile(SAMPLES_DIR "/" + std::string(name))) {}
 
   U32 entries() const { return static_cast<U32>(bytes_.size() / entryBytes_); }
   View entry(U32 index) {
-    return View(chip_, &bytes_.at(index * entryBytes_), static_cast<U16>(entryBytes_), false, 0);
+    U8* bytes = reinterpret_cast<U8*>(&bytes_.at(index * entryBytes_));
+    return View(chip_, bytes, static_cast<U16>(entryBytes_), false, 0);
   }
 
  private:
   ChipType_ chip_;
   U32 entryBytes_;
-  std::vector<U8> bytes_;
+  std::string bytes_;
 };
 
 std::string text(const Oru::PerUnitBitmap& ports) { return ports.ranges().c_str(); }

@@ -1,0 +1,120 @@
+// Verifies that the committed reference documents are what the rows make now, that a search for an
+// accessor finds its page, and that the pages say what is known of some fields and chips.
+
+#include <gtest/gtest.h>
+
+#include <cctype>
+#include <set>
+#include <sstream>
+
+#include "support/Files.h"
+
+namespace {
+
+using namespace VelmarTest;
+
+const std::map<std::string, std::string>& pages() {
+  static const auto pages = filesIn(REFERENCE_DIR);
+  return pages;
+}
+
+TEST(Reference, IsFresh) {
+  const ScratchDirectory scratch;
+  ASSERT_EQ(0, run(quoted(REFERENCE_PAGES) + " " + quoted(scratch.path())));
+  const auto made = filesIn(scratch.path());
+  for (const auto& [name, text] : made) {
+    EXPECT_TRUE(pages().count(name) == 1 && pages().at(name) == text)
+        << "docs/reference/" << name
+        << " is stale; to refresh: cmake --build --preset release --target reference";
+  }
+  for (const auto& [name, text] : pages()) {
+    EXPECT_TRUE(made.count(name) == 1) << "docs/reference/" << name << " has no class; delete it";
+  }
+}
+
+TEST(Reference, CannotBeWrittenNowhere) {
+  EXPECT_EQ(2, run(quoted(REFERENCE_PAGES)));
+  EXPECT_EQ(2, run(quoted(REFERENCE_PAGES) + " /no/such/place"));
+}
+
+std::set<std::string> wordsOf(const std::string& text) {
+  std::set<std::string> words;
+  std::istringstream stream(text);
+  for (std::string word; stream >> word;) words.insert(word);
+  return words;
+}
+
+/// Class and accessor names, independent of the rows that the pages are made from.
+std::map<std::string, std::set<std::string>> accessorsByClass() {
+  std::map<std::string, std::set<std::string>> accessors;
+  std::ifstream file(GOLDEN_DIR "/fields.tsv");
+  std::string line;
+  std::getline(file, line);
+  while (std::getline(file, line)) {
+    std::istringstream cells(line);
+    std::string className;
+    std::string accessor;
+    cells >> className >> accessor;
+    accessors[className].insert(accessor);
+  }
+  return accessors;
+}
+
+TEST(Reference, HasEveryAccessorOnThePageOfItsClass) {
+  const auto accessors = accessorsByClass();
+  ASSERT_FALSE(accessors.empty());
+  EXPECT_EQ(accessors.size() + 1, pages().size());
+  for (const auto& [className, names] : accessors) {
+    ASSERT_EQ(1U, pages().count(className + ".md")) << className;
+    const std::set<std::string> words = wordsOf(pages().at(className + ".md"));
+    for (const std::string& name : names) {
+      std::string capitalised = name;
+      capitalised[0] = static_cast<char>(std::toupper(name[0]));
+      for (const std::string& accessor :
+           {name, name + "Is", name + "Len", name + "Offset", "is" + capitalised + "Valid"}) {
+        EXPECT_EQ(1U, words.count(accessor)) << className << " lacks " << accessor;
+      }
+    }
+  }
+}
+
+/// A text whose runs of blanks are single ones, so that a wider column changes nothing.
+std::string withSingleBlanks(const std::string& text) {
+  std::string single;
+  for (const char c : text) {
+    if (c != ' ' || single.empty() || single.back() != ' ') single += c;
+  }
+  return single;
+}
+
+struct Statement {
+  const char* page;
+  const char* text;
+};
+
+class Says : public testing::TestWithParam<Statement> {};
+
+TEST_P(Says, OnItsPage) {
+  const Statement& statement = GetParam();
+  EXPECT_NE(std::string::npos, withSingleBlanks(pages().at(statement.page)).find(statement.text))
+      << statement.page << " lacks: " << statement.text;
+}
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Reference, Says, testing::Values(
+    Statement{"README.md", "| [EgrVlan2Entry](EgrVlan2Entry.md) | table | egress | 5 | 1 |"},
+    Statement{"README.md", "| BCM56990_B0 | 33 |"},
+    Statement{"VlanEntry.md", "| BCM56992_B0 | BCM56990_B0 | 0 only | 4 | 16 | 8192 | 15 |"},
+    Statement{"VlanEntry.md", "| BCM56990_B0 | 0x0c7c0000 | 17 | 1 | 1 | 16384 |"},
+    Statement{"VlanEntry.md", "| STG | stg | 585 | U16 | 272/9 | - | 141/9 | 141/9 | 141/9 | 141/8 | 141/8 | - | 42/6 |"},
+    Statement{"VlanStgEntry.md", "| BCM56870_A0 | 0 to 131 | 2 | 2 * n |"},
+    Statement{"VlanStgBEntry.md", "| BCM56990_B0 | 136 to 271 | 2 | 2 * (n - 136) |"},
+    Statement{"VlanStgBEntry.md", "identifier 244 + n"},
+    Statement{"VlanStgBEntry.md", "| BCM56990_B0 | BCM56990_B0 | any | 10 | 40 | 64 | 136 |"},
+    Statement{"IngVpVlanMembershipEntry.md", "- `DATA`: `TABLE_FIELDS`, `SP_TREE`\n"},
+    Statement{"IngVpVlanMembershipEccEntry.md", "returns 16 bytes and needs a buffer of 12"},
+    Statement{"IgmpMldPktControl.md", "address = base + stride * element"},
+    Statement{"IgmpMldPktControl.md", "| BCM56980_A0 | 0x12000400 | 9 | 1 | 2 | 256 |"}));
+// clang-format on
+
+}  // namespace

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "Velmar/Catalogue.h"
+
+namespace Reference {
+
+/// The chips on which every field of a class lies alike, named after the first of them.
+struct Layout {
+  std::string name;
+  std::vector<U32> chips;
+
+  U32 chipType() const { return chips.front(); }
+};
+
+/// The layouts of a class, in the order of their first chips.
+std::vector<Layout> layoutsOf(const Velmar::Catalogue::Table& table);
+
+/// The layout of a chip that the class has.
+const Layout& layoutOf(const std::vector<Layout>& layouts, U32 chipType);
+
+/// Numbered fields that lie by rule in every layout: of each layout the first so many, all of one
+/// width, at even distances.
+struct Family {
+  U32 first;           ///< index of its first field
+  U32 count;           ///< number of its fields
+  U32 number;          ///< number in the name of the first field
+  std::string prefix;  ///< hardware name without the number
+};
+
+/// The families of a class. Few fields are no family: a row each says more than a rule.
+std::vector<Family> familiesOf(const Velmar::Catalogue::Table& table,
+                               const std::vector<Layout>& layouts);
+
+/// What a family is in one layout.
+struct FamilyRule {
+  bool holds;   ///< whether the fields lie by rule
+  U32 present;  ///< number of fields that the chips have
+  U32 width;    ///< bits of each
+  U32 offset;   ///< first bit of the first field
+  U32 step;     ///< bits from field to field
+};
+FamilyRule ruleOf(const Velmar::Catalogue::Table& table, const Family& family,
+                  const Layout& layout);
+
+}  // namespace Reference

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+#include "Velmar/Catalogue.h"
+
+namespace Reference {
+
+/// The page of a class, in Markdown.
+std::string pageOf(const Velmar::Catalogue::Table& table);
+
+/// The page that lists all classes and says how to read their pages.
+std::string indexPage();
+
+}  // namespace Reference
