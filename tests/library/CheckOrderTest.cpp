@@ -105,9 +105,9 @@ class CheckOrder : public testing::TestWithParam<std::size_t> {
                   field.getterSignature(probe_.name));
     std::vector<U64> values = {0};
     if (model.checksValues(field)) {
-      values = {model.largest(), model.largest() + 1, ~U64{0} >> (64 - field.typeBits)};
+      values = {model.largest(), model.largest() + 1, ~U64{0} >> (64 - field.typeBits())};
     } else if (field.isScalar()) {
-      values = {~U64{0} >> (64 - field.typeBits)};
+      values = {~U64{0} >> (64 - field.typeBits())};
     }
     for (const U64 value : values) {
       buffer = before;

@@ -55,8 +55,8 @@ TEST(Catalogue, agreesWithEveryAccessor) {
     ASSERT_EQ(table.fieldCount(), probe.fields.size());
     for (U32 f = 0; f < table.fieldCount(); ++f) {
       const Catalogue::Field field = table.field(f);
-      EXPECT_EQ(field.accessor, probe.fields[f].accessor);
-      EXPECT_EQ(field.hardwareName, probe.fields[f].hardwareName);
+      EXPECT_STREQ(field.accessor, probe.fields[f].accessor);
+      EXPECT_STREQ(field.hardwareName, probe.fields[f].hardwareName);
       EXPECT_EQ(field.id, probe.fields[f].id);
       EXPECT_EQ(Catalogue::valueTypeName(field.type), probe.fields[f].value);
       EXPECT_EQ(table.fieldIndex(field.id), f);

@@ -55,7 +55,7 @@ TEST(GenericAccess, setField64NarrowsThenChecks) {
         }
         const U64 largest = ~U64{0} >> (64 - place.width);
         // Bits beyond the type are dropped before the check.
-        const U64 beyond = field.typeBits < 64 ? U64{1} << field.typeBits : 0;
+        const U64 beyond = field.typeBits() < 64 ? U64{1} << field.typeBits() : 0;
         view->setField64(field.id, largest | beyond);
         EXPECT_EQ(field.get(*view)[0], static_cast<U32>(largest));
         if (place.width % 8 == 0) continue;

@@ -61,7 +61,7 @@ TEST(Trace, quintetOfEveryField) {
       ((*view).*field.isValid)();
       ASSERT_EQ(records.lines.size(), 5U);
       EXPECT_EQ(records.lines[0].function, field.accessor);
-      EXPECT_EQ(records.lines[4].function, "is" + field.capitalised + "Valid");
+      EXPECT_EQ(records.lines[4].function, std::string("is") + field.capitalised + "Valid");
       EXPECT_EQ(records.takeTexts(), (Texts{field.getterSignature(probe.name) + where,
                                             field.setterSignature(probe.name) + where,
                                             field.lengthSignature(probe.name) + where,

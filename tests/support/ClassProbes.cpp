@@ -41,22 +41,27 @@ T valueOf(const Words& words) {
   }
 }
 
-template <class T>
-constexpr U32 scalarBits = std::is_integral_v<T> ? 8 * sizeof(T) : 0;
+/// A member of a view as one that any view of its class can be called through.
+template <class View, class T>
+constexpr T (Base::*ofBase(T (View::*member)() const))() const {
+  return static_cast<T (Base::*)() const>(member);
+}
+template <class View, class T>
+void (Base::*erased(T (View::*getter)() const))() const {
+  return reinterpret_cast<void (Base::*)() const>(ofBase(getter));
+}
+template <class View, class T>
+void (Base::*erased(void (View::*setter)(T)))() {
+  return reinterpret_cast<void (Base::*)()>(static_cast<void (Base::*)(T)>(setter));
+}
 
-template <class View, class T, class Parameter>
-FieldProbe makeField(FieldProbe probe, T (View::*get)() const, void (View::*set)(Parameter),
-                     U16 (View::*length)() const, U16 (View::*offset)() const,
-                     bool (View::*isValid)() const) {
-  probe.typeBits = scalarBits<T>;
-  probe.length = static_cast<U16 (Base::*)() const>(length);
-  probe.offset = static_cast<U16 (Base::*)() const>(offset);
-  probe.isValid = static_cast<bool (Base::*)() const>(isValid);
-  probe.get = [get](const Base& view) { return wordsOf((static_cast<const View&>(view).*get)()); };
-  probe.set = [set](Base& view, const Words& words) {
-    (static_cast<View&>(view).*set)(valueOf<T>(words));
-  };
-  return probe;
+template <class T>
+Words callGetter(const Base& view, void (Base::*getter)() const) {
+  return wordsOf((view.*reinterpret_cast<T (Base::*)() const>(getter))());
+}
+template <class T, class Parameter>
+void callSetter(Base& view, void (Base::*setter)(), const Words& words) {
+  (view.*reinterpret_cast<void (Base::*)(Parameter)>(setter))(valueOf<T>(words));
 }
 
 /// Reaches into a view, as a caller's test class can.
@@ -138,20 +143,17 @@ ClassProbe makeClass(const char* name, const char* rawName, std::vector<FieldPro
 #define VELMAR_SPELLING_Raw128 "raw128", "Raw128", "const Raw128&"
 #define VELMAR_SPELLING_Bitmap "bitmap", "Oru::PerUnitBitmap", "Oru::PerUnitBitmap"
 
-#define VELMAR_FIELD_PROBE(accessor, Accessor, HARDWARE_NAME, TYPE, meaning)  \
-  makeField<View>({#accessor,                                                 \
-                   #Accessor,                                                 \
-                   #HARDWARE_NAME,                                            \
-                   Velmar::FieldId::HARDWARE_NAME,                            \
-                   VELMAR_SPELLING_##TYPE,                                    \
-                   0,                                                         \
-                   nullptr,                                                   \
-                   nullptr,                                                   \
-                   nullptr,                                                   \
-                   {},                                                        \
-                   {}},                                                       \
-                  &View::accessor, &View::accessor##Is, &View::accessor##Len, \
-                  &View::accessor##Offset, &View::is##Accessor##Valid),
+#define VELMAR_FIELD_PROBE(accessor, Accessor, HARDWARE_NAME, TYPE, meaning) \
+  {#accessor,                                                                \
+   #Accessor,                                                                \
+   #HARDWARE_NAME,                                                           \
+   Velmar::FieldId::HARDWARE_NAME,                                           \
+   VELMAR_SPELLING_##TYPE,                                                   \
+   ofBase(&View::accessor##Len),                                             \
+   ofBase(&View::accessor##Offset),                                          \
+   ofBase(&View::is##Accessor##Valid),                                       \
+   erased(&View::accessor),                                                  \
+   erased(&View::accessor##Is)},
 #define VELMAR_SPAN_POINTER(CHIP) View::_entrySpans_##CHIP,
 
 template <class Raw>
@@ -167,19 +169,42 @@ const char* rawNameOf() {
 #define VELMAR_CLASS_PROBE(CLASS)                                                              \
   ClassProbe makeProbe_##CLASS() {                                                             \
     using View = Velmar::CLASS;                                                                \
+    static const FieldProbe fields[] = {VELMAR_FIELDS_##CLASS(VELMAR_FIELD_PROBE)};            \
     return makeClass<View>(#CLASS, rawNameOf<decltype(std::declval<View>().getAllFields())>(), \
-                           {VELMAR_FIELDS_##CLASS(VELMAR_FIELD_PROBE)},                        \
+                           {std::begin(fields), std::end(fields)},                             \
                            {VELMAR_SPANS_##CLASS(VELMAR_SPAN_POINTER)});                       \
   }
 VELMAR_FOR_EACH_CLASS(VELMAR_CLASS_PROBE)
 
 }  // namespace
 
+Words FieldProbe::get(const Base& view) const {
+  if (type == "U8") return callGetter<U8>(view, getter);
+  if (type == "U16") return callGetter<U16>(view, getter);
+  if (type == "U32") return callGetter<U32>(view, getter);
+  if (type == "U64") return callGetter<U64>(view, getter);
+  if (type == "raw128") return callGetter<Raw128>(view, getter);
+  return callGetter<Oru::PerUnitBitmap>(view, getter);
+}
+
+void FieldProbe::set(Base& view, const Words& words) const {
+  if (type == "U8") return callSetter<U8, U8>(view, setter, words);
+  if (type == "U16") return callSetter<U16, U16>(view, setter, words);
+  if (type == "U32") return callSetter<U32, U32>(view, setter, words);
+  if (type == "U64") return callSetter<U64, const U64&>(view, setter, words);
+  if (type == "raw128") return callSetter<Raw128, const Raw128&>(view, setter, words);
+  callSetter<Oru::PerUnitBitmap, Oru::PerUnitBitmap>(view, setter, words);
+}
+
+U32 FieldProbe::typeBits() const {
+  return type[0] == 'U' ? static_cast<U32>(std::stoul(std::string(type.substr(1)))) : 0;
+}
+
 std::string FieldProbe::getterSignature(const std::string& view) const {
-  return value + " Velmar::" + view + "::" + accessor + "() const";
+  return std::string(value) + " Velmar::" + view + "::" + accessor + "() const";
 }
 std::string FieldProbe::setterSignature(const std::string& view) const {
-  return "void Velmar::" + view + "::" + accessor + "Is(" + parameter + ")";
+  return "void Velmar::" + view + "::" + accessor + "Is(" + std::string(parameter) + ")";
 }
 std::string FieldProbe::lengthSignature(const std::string& view) const {
   return "U16 Velmar::" + view + "::" + accessor + "Len() const";

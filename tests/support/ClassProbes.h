@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "AsicUtils/BcmAsicBase.h"
@@ -18,23 +19,29 @@ using Base = AsicUtils::BcmAsicBase;
 /// A field's value as 32-bit words, lowest first.
 using Words = std::vector<U32>;
 
+/// A field, with its members as pointers that any view can be called through. Plain data: hundreds
+/// of these are made when the tests are compiled.
 struct FieldProbe {
-  std::string accessor;
-  std::string capitalised;
-  std::string hardwareName;
+  const char* accessor;
+  const char* capitalised;
+  const char* hardwareName;
   U32 id;
-  std::string type;       ///< as the golden files name it
-  std::string value;      ///< as signatures spell what the getter returns
-  std::string parameter;  ///< as signatures spell what the setter takes
-  U32 typeBits;           ///< bits of a scalar's type; 0 for other fields
+  std::string_view type;       ///< as the golden files name it
+  std::string_view value;      ///< as signatures spell what the getter returns
+  std::string_view parameter;  ///< as signatures spell what the setter takes
 
   U16 (Base::*length)() const;
   U16 (Base::*offset)() const;
   bool (Base::*isValid)() const;
-  std::function<Words(const Base&)> get;
-  std::function<void(Base&, const Words&)> set;
+  void (Base::*getter)() const;  ///< of the type that `type` says
+  void (Base::*setter)();        ///< likewise
 
-  bool isScalar() const { return typeBits != 0; }
+  Words get(const Base& view) const;
+  void set(Base& view, const Words& value) const;
+
+  /// Bits of a scalar's type; 0 for other fields.
+  U32 typeBits() const;
+  bool isScalar() const { return typeBits() != 0; }
   /// Signatures of the quintet.
   std::string getterSignature(const std::string& view) const;
   std::string setterSignature(const std::string& view) const;
