@@ -1,0 +1,212 @@
+#include <algorithm>
+
+#include "EntryWriter.h"
+#include "Failure.h"
+#include "IndexSet.h"
+#include "Progress.h"
+#include "Target.h"
+#include "Text.h"
+#include "Value.h"
+#include "Verb.h"
+
+namespace Tool {
+namespace {
+
+/// A condition of --where.
+class Condition {
+ public:
+  Condition(const Layout& layout, const std::string& text)
+      : entryBytes_(layout.entryBytes()), place_(parsePlace(layout, text)), value_(place_.width) {
+    const size_t sign = text.find('=');
+    value_ = parseValue(place_, trim(std::string_view(text).substr(sign + 1)));
+    wantsEqual_ = text[sign - 1] != '!';
+  }
+
+  bool holdsFor(const U8* bytes) const {
+    return (Value::read(place_, bytes, entryBytes_) == value_) == wantsEqual_;
+  }
+
+ private:
+  static FieldPlace parsePlace(const Layout& layout, const std::string& text) {
+    size_t end = text.find('=');
+    if (end == std::string::npos || end == 0) {
+      fail("--where {}: no condition; give FIELD=VALUE or FIELD!=VALUE", inQuotes(text));
+    }
+    if (text[end - 1] == '!') --end;
+    return layout.find(trim(std::string_view(text).substr(0, end)));
+  }
+
+  U32 entryBytes_;
+  FieldPlace place_;
+  Value value_;
+  bool wantsEqual_;
+};
+
+/// Which entries are to be shown.
+class Selection {
+ public:
+  Selection(const Arguments& arguments, const Layout& layout)
+      : nonzero_(arguments.nonzero), zeros_(layout.entryBytes()) {
+    if (!arguments.index.empty()) indexes_ = IndexSet(arguments.index);
+    for (const std::string& text : arguments.where) conditions_.emplace_back(layout, text);
+  }
+
+  bool has(const Entry& entry) const {
+    if (!indexes_.has(entry.index)) return false;
+    if (nonzero_ && std::equal(zeros_.begin(), zeros_.end(), entry.bytes)) return false;
+    return std::all_of(
+        conditions_.begin(), conditions_.end(),
+        [&entry](const Condition& condition) { return condition.holdsFor(entry.bytes); });
+  }
+  U64 last() const { return indexes_.last(); }
+  bool isByIndex() const { return !indexes_.isAll(); }
+
+ private:
+  bool nonzero_;
+  std::vector<U8> zeros_;
+  IndexSet indexes_;
+  std::vector<Condition> conditions_;
+};
+
+std::string onlyFile(const Arguments& arguments) {
+  if (arguments.files.size() > 1) {
+    fail("more than one dump: {} and {}; give one", arguments.files[0], arguments.files[1]);
+  }
+  return arguments.files.empty() ? "" : arguments.files.front();
+}
+
+/// Goes through the selected entries of a dump.
+class Walk {
+ public:
+  Walk(const Arguments& arguments, const Layout& layout, Output& output)
+      : layout_(layout),
+        selection_(arguments, layout),
+        reader_(openEntries(onlyFile(arguments), layout, inputOptionsOf(arguments),
+                            [&output] { output.flush(); })) {}
+
+  bool next(Entry& entry) {
+    while (reader_->next(entry)) {
+      progress_.step();
+      if (entry.index > selection_.last() && reader_->isAscending()) break;
+      if (!selection_.has(entry)) continue;
+      ++selected_;
+      if (entry.index >= layout_.indexCount()) ++beyond_;
+      return true;
+    }
+    return false;
+  }
+
+  /// Tells of what the result does not show.
+  void report() const {
+    if (beyond_ != 0) {
+      std::fprintf(stderr,
+                   "velmar: note: %llu of the entries lie beyond the %u of %s on %s; check table "
+                   "and chip\n",
+                   static_cast<unsigned long long>(beyond_), layout_.indexCount(), layout_.name(),
+                   layout_.chip().name);
+    }
+    if (selected_ == 0 && selection_.isByIndex()) {
+      std::fprintf(stderr, "velmar: note: no entry of the dump has such an index\n");
+    }
+  }
+
+ private:
+  const Layout& layout_;
+  Selection selection_;
+  std::unique_ptr<EntryReader> reader_;
+  Progress progress_;
+  U64 selected_ = 0;
+  U64 beyond_ = 0;
+};
+
+int decode(const Arguments& arguments, const Layout& layout, Output& output) {
+  const auto writer =
+      makeEntryWriter(output, layout, fieldsOf(arguments, layout), formatOf(arguments.format));
+  Walk walk(arguments, layout, output);
+  writer->begin();
+  for (Entry entry; walk.next(entry); output.flushIfLarge()) writer->write(entry);
+  writer->end();
+  output.finish();
+  walk.report();
+  return exitSuccess;
+}
+
+/// The set bits of an entry outside all fields, as ranges such as "127:96".
+std::vector<std::string> strayBits(const Layout& layout, const U8* bytes) {
+  std::vector<std::string> ranges;
+  const auto isStray = [&](U32 bit) {
+    return (layout.outsideMask()[bit / 8] & bytes[bit / 8] & 1U << bit % 8) != 0;
+  };
+  const U32 bits = 8 * layout.entryBytes();
+  for (U32 bit = 0; bit < bits; ++bit) {
+    if (!isStray(bit)) continue;
+    const U32 first = bit;
+    while (bit + 1 < bits && isStray(bit + 1)) ++bit;
+    ranges.push_back(first == bit ? fmt::format("{}", bit) : fmt::format("{}:{}", bit, first));
+  }
+  return ranges;
+}
+
+/// The findings of --check, each printed as it is found.
+int check(const Arguments& arguments, const Layout& layout, Output& output) {
+  const Format format = formatOf(arguments.format);
+  Walk walk(arguments, layout, output);
+  if (format == Format::csv) output.write("index,beyondEnd,bits\n");
+  if (format == Format::json) output.write("[");
+  bool found = false;
+  for (Entry entry; walk.next(entry); output.flushIfLarge()) {
+    const std::vector<std::string> bits = strayBits(layout, entry.bytes);
+    const bool beyond = entry.index >= layout.indexCount();
+    if (bits.empty() && !beyond) continue;
+    if (format == Format::table) {
+      output.print("{} {}:", layout.name(), entry.index);
+      if (beyond) output.write(" beyond the end of the table");
+      if (!bits.empty()) {
+        output.print("{} bits outside all fields: {}", beyond ? ";" : "", join(bits, " "));
+      }
+    } else if (format == Format::csv) {
+      output.print("{},{},{}", entry.index, beyond, join(bits, " "));
+    } else {
+      if (format == Format::json) output.write(found ? ",\n " : "\n ");
+      output.print(R"({{"index":{},"beyondEnd":{},"bits":{}}})", entry.index, beyond,
+                   Cell(bits).json());
+    }
+    if (format != Format::json) output.write("\n");
+    found = true;
+  }
+  if (format == Format::json) output.write(found ? "\n]\n" : "]\n");
+  output.finish();
+  return found ? exitFinding : exitSuccess;
+}
+
+int run(const Arguments& arguments) {
+  const Layout layout = layoutOf(arguments);
+  Output output(arguments.output, arguments.color);
+  return arguments.check ? check(arguments, layout, output) : decode(arguments, layout, output);
+}
+
+}  // namespace
+
+Verb decodeVerb() {
+  return {
+      "decode",
+      "Decodes a dump of a table: address and fields of each entry.",
+      "A dump is raw binary (little-endian, entries one behind the other), hex text (an entry a "
+      "line, with an optional \"index:\" before it and # comments), the output of xxd, or the "
+      "JSON of this command. In hex text, groups of two digits are bytes and groups of eight "
+      "are 32-bit words; for anything else, and for groups of eight in xxd output, say "
+      "--hex-order. A dump is read as a stream and may have any size; a line of text and a "
+      "JSON entry may have 1 MiB.",
+      {Positionals::table(), Positionals::dump()},
+      {Options::chip(), Options::variant(), Options::index(), Options::fields(), Options::where(),
+       Options::nonzero(), Options::check(), Options::input(), Options::hexOrder(),
+       Options::stride(), Options::first(), Options::listFormat(), Options::output(),
+       Options::color()},
+      {"velmar encode VlanEntry --chip 56990_B0 valid=1 stg=5 | velmar decode VlanEntry --chip "
+       "56990_B0",
+       "velmar encode VlanMpls --chip 56980 --index 7 mplsEnable=1 --whole -f raw | velmar "
+       "decode VlanMpls --chip 56980 --nonzero --format jsonl -"},
+      run};
+}
+
+}  // namespace Tool

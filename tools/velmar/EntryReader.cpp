@@ -1,0 +1,61 @@
+#include "EntryReader.h"
+
+#include <algorithm>
+
+#include "Failure.h"
+#include "Text.h"
+
+namespace Tool {
+namespace {
+
+constexpr size_t headBytes = 16;
+
+bool isText(std::string_view head) {
+  return std::all_of(head.begin(), head.end(), [](char letter) {
+    return (letter >= ' ' && letter <= '~') || isBlank(letter) || letter == '\n';
+  });
+}
+
+/// Whether a line starts as those of xxd do: an offset of at least 7 digits, and a colon.
+bool startsWithOffset(std::string_view text) {
+  const size_t digits = text.find_first_not_of("0123456789abcdefABCDEF");
+  return digits != std::string_view::npos && digits >= 7 && text[digits] == ':';
+}
+
+std::string detectFormat(ByteStream& stream) {
+  stream.need(headBytes);
+  const std::string_view head = stream.text();
+  if (head.empty() || !isText(head)) return "raw";
+  const size_t first = head.find_first_not_of(" \t\r\n");
+  if (first == std::string_view::npos) return "hex";
+  if (head[first] == '{' || head[first] == '[') return "json";
+  return startsWithOffset(head.substr(first)) ? "xxd" : "hex";
+}
+
+}  // namespace
+
+U32 strideOf(const InputOptions& options, const Layout& layout) {
+  if (options.stride == 0) return layout.entryBytes();
+  if (options.stride < layout.entryBytes()) {
+    fail("--stride {} is shorter than an entry of {} on {}, which has {} bytes; give at least {}",
+         options.stride, layout.name(), layout.chip().name, layout.entryBytes(),
+         layout.entryBytes());
+  }
+  return options.stride;
+}
+
+std::string entrySizeText(U32 stride, const Layout& layout) {
+  if (stride != layout.entryBytes()) return fmt::format("{}, the stride", stride);
+  return fmt::format("{}, an entry of {} on {}", stride, layout.name(), layout.chip().name);
+}
+
+std::unique_ptr<EntryReader> openEntries(const std::string& path, const Layout& layout,
+                                         const InputOptions& options,
+                                         std::function<void()> beforeWait) {
+  auto stream = std::make_unique<ByteStream>(path, std::move(beforeWait));
+  const std::string format = options.format == "auto" ? detectFormat(*stream) : options.format;
+  if (format == "raw") return readRaw(std::move(stream), layout, options);
+  return readRaw(std::move(stream), layout, options);
+}
+
+}  // namespace Tool

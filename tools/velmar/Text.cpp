@@ -1,0 +1,65 @@
+#include "Text.h"
+
+#include <charconv>
+
+namespace Tool {
+
+bool isBlank(char letter) { return letter == ' ' || letter == '\t' || letter == '\r'; }
+
+int hexDigit(char letter) {
+  if (letter >= '0' && letter <= '9') return letter - '0';
+  if (letter >= 'a' && letter <= 'f') return letter - 'a' + 10;
+  if (letter >= 'A' && letter <= 'F') return letter - 'A' + 10;
+  return -1;
+}
+
+std::optional<U64> parseNumber(std::string_view text) {
+  int base = 10;
+  if (text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X')) {
+    base = 16;
+    text.remove_prefix(2);
+  }
+  U64 value = 0;
+  const char* end = text.data() + text.size();
+  const auto result = std::from_chars(text.data(), end, value, base);
+  if (result.ec != std::errc{} || result.ptr != end) return std::nullopt;
+  return value;
+}
+
+std::string_view trim(std::string_view text) {
+  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+std::vector<std::string> split(std::string_view text, char separator) {
+  std::vector<std::string> parts;
+  for (;;) {
+    const size_t end = text.find(separator);
+    parts.emplace_back(trim(text.substr(0, end)));
+    if (end == std::string_view::npos) return parts;
+    text.remove_prefix(end + 1);
+  }
+}
+
+std::string join(const std::vector<std::string>& parts, std::string_view separator) {
+  std::string text;
+  for (const std::string& part : parts) {
+    if (!text.empty()) text += separator;
+    text += part;
+  }
+  return text;
+}
+
+std::string inQuotes(std::string_view text) {
+  constexpr size_t longest = 60;
+  std::string safe = "\"";
+  for (const char letter : text.substr(0, longest)) {
+    const bool printable = letter >= ' ' && letter <= '~';
+    safe += printable ? letter : '?';
+  }
+  safe += text.size() > longest ? "...\"" : "\"";
+  return safe;
+}
+
+}  // namespace Tool

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "AsicUtils/Types.h"
+
+// Small services on texts that several verbs and input formats share.
+
+namespace Tool {
+
+/// A decimal number, or a hexadecimal one after "0x"; nothing else, and not above 64 bits.
+std::optional<U64> parseNumber(std::string_view text);
+
+/// The parts between the separators, without surrounding blanks.
+std::vector<std::string> split(std::string_view text, char separator);
+std::string join(const std::vector<std::string>& parts, std::string_view separator);
+
+std::string_view trim(std::string_view text);
+bool isBlank(char letter);
+
+/// Value of a hexadecimal digit; negative for any other letter.
+int hexDigit(char letter);
+
+/// A text made fit for an error message: short, and without unprintable bytes.
+std::string inQuotes(std::string_view text);
+
+}  // namespace Tool
