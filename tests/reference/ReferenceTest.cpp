@@ -32,6 +32,15 @@ TEST(Reference, IsFresh) {
   }
 }
 
+TEST(Reference, HasAPageForEachTable) {
+  for (const auto& [name, text] : filesIn(TABLES_DIR)) {
+    const std::string className = name.substr(0, name.find('.'));
+    if (className == "AllClasses") continue;
+    EXPECT_EQ(1U, pages().count(className + ".md"))
+        << "tables/" << name << " has no page; add the class to the list in Velmar/MetaInfo.h";
+  }
+}
+
 TEST(Reference, CannotBeWrittenNowhere) {
   EXPECT_EQ(2, run(quoted(REFERENCE_PAGES)));
   EXPECT_EQ(2, run(quoted(REFERENCE_PAGES) + " /no/such/place"));
