@@ -1,12 +1,12 @@
-# Installed: both libraries with their headers, the CMake package VelmarMetaInfo and a pkg-config
-# file, and the command where it is built.
+# Installed: the library with its headers, the CMake package VelmarMetaInfo and a pkg-config file, and
+# the command where it is built. The platform installs itself.
 
 include(CMakePackageConfigHelpers)
 
-install(TARGETS VelmarMetaInfo VelmarPlatform
+install(TARGETS VelmarMetaInfo
   EXPORT VelmarMetaInfoTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(DIRECTORY include/ platform/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 
 set(VELMAR_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/VelmarMetaInfo)
 install(EXPORT VelmarMetaInfoTargets NAMESPACE Velmar:: DESTINATION ${VELMAR_PACKAGE_DIR})
