@@ -1,7 +1,7 @@
 #pragma once
 
 #include "framework/Addressing.h"
-#include "framework/FieldAccess.h"
+#include "framework/GenericAccess.h"
 #include "framework/Geometry.h"
 #include "framework/Proofs.h"
 
@@ -27,42 +27,19 @@
    meaning},
 #define VELMAR_FIELD_INDEX(accessor, Accessor, HARDWARE_NAME, TYPE, meaning) HARDWARE_NAME,
 
-/// The quintet of a field. Not inlined into the identifier switches: those would double the
-/// library.
-#define VELMAR_DEFINE_FIELD(accessor, Accessor, HARDWARE_NAME, TYPE, meaning) \
-  [[gnu::noinline]] VELMAR_VALUE_##TYPE View::accessor() const {              \
-    return ViewFields::get<VELMAR_VALUE_##TYPE>(*this, Index::HARDWARE_NAME); \
-  }                                                                           \
-  [[gnu::noinline]] void View::accessor##Is(VELMAR_PARAMETER_##TYPE value) {  \
-    ViewFields::set<VELMAR_VALUE_##TYPE>(*this, Index::HARDWARE_NAME, value); \
-  }                                                                           \
-  [[gnu::noinline]] U16 View::accessor##Len() const {                         \
-    return ViewFields::length(*this, Index::HARDWARE_NAME);                   \
-  }                                                                           \
-  [[gnu::noinline]] U16 View::accessor##Offset() const {                      \
-    return ViewFields::offset(*this, Index::HARDWARE_NAME);                   \
-  }                                                                           \
-  [[gnu::noinline]] bool View::is##Accessor##Valid() const {                  \
-    return ViewFields::isValid(*this, Index::HARDWARE_NAME);                  \
+/// The quintet of a field.
+#define VELMAR_DEFINE_FIELD(accessor, Accessor, HARDWARE_NAME, TYPE, meaning)                    \
+  VELMAR_VALUE_##TYPE View::accessor() const {                                                   \
+    return ViewFields::get<VELMAR_VALUE_##TYPE>(*this, Index::HARDWARE_NAME);                    \
+  }                                                                                              \
+  void View::accessor##Is(VELMAR_PARAMETER_##TYPE value) {                                       \
+    ViewFields::set<VELMAR_VALUE_##TYPE>(*this, value, Index::HARDWARE_NAME);                    \
+  }                                                                                              \
+  U16 View::accessor##Len() const { return ViewFields::length(*this, Index::HARDWARE_NAME); }    \
+  U16 View::accessor##Offset() const { return ViewFields::offset(*this, Index::HARDWARE_NAME); } \
+  bool View::is##Accessor##Valid() const {                                                       \
+    return ViewFields::isValid(*this, Index::HARDWARE_NAME);                                     \
   }
-
-/// The cases of the identifier switches: each forwards to the field's own member.
-#define VELMAR_CASE_OFFSET(accessor, Accessor, HARDWARE_NAME, TYPE, meaning) \
-  case FieldId::HARDWARE_NAME:                                               \
-    return accessor##Offset();
-#define VELMAR_CASE_LENGTH(accessor, Accessor, HARDWARE_NAME, TYPE, meaning) \
-  case FieldId::HARDWARE_NAME:                                               \
-    return accessor##Len();
-#define VELMAR_CASE_VALID(accessor, Accessor, HARDWARE_NAME, TYPE, meaning) \
-  case FieldId::HARDWARE_NAME:                                              \
-    return is##Accessor##Valid();
-#define VELMAR_CASE_SET(accessor, Accessor, HARDWARE_NAME, TYPE, meaning)             \
-  case FieldId::HARDWARE_NAME:                                                        \
-    if constexpr (::Velmar::Framework::isScalar(                                      \
-                      ::Velmar::Framework::valueTypeOf<VELMAR_VALUE_##TYPE>)) {       \
-      return accessor##Is(::Velmar::Framework::narrowed<VELMAR_VALUE_##TYPE>(value)); \
-    }                                                                                 \
-    break;
 
 /// A geometry value and its const form; READ is facts, or tracedFacts where the member traces.
 #define VELMAR_DEFINE_GEOMETRY(TYPE, member, READ)                            \
@@ -120,14 +97,15 @@
         VELMAR_SPANS_##CLASS(VELMAR_SPAN_MEMBER){ChipType_{}, nullptr}};                          \
     constexpr U32 rawWords = sizeof(RAW) / 4;                                                     \
     VELMAR_PROVE(CLASS, KIND)                                                                     \
-    constexpr auto table = Framework::makeTable<rawWords>(KIND, list, layout, chips, spans);      \
+    constexpr auto table = Framework::makeTable<rawWords, Framework::idRangeOf(list).count>(      \
+        KIND, list, layout, chips, spans);                                                        \
   }                                                                                               \
   extern const Framework::ClassData classData_##CLASS;                                            \
   constexpr Framework::ClassData classData_##CLASS =                                              \
       Framework::makeClassData(#CLASS, __LINE__, KIND, about, table);                             \
   namespace {                                                                                     \
   constexpr const Framework::ClassData& classData = classData_##CLASS;                            \
-  using ViewFields = Framework::Fields<View, table, classData_##CLASS>;                           \
+  using ViewFields = Framework::Fields<table, classData_##CLASS>;                                 \
   using ViewAddressing = Framework::Addressing<table, classData_##CLASS>;                         \
   }                                                                                               \
                                                                                                   \
@@ -146,29 +124,20 @@
                                                                                                   \
       U16                                                                                         \
       View::fieldOffset(U32 fieldId) const {                                                      \
-    Framework::traceEntry(*this, VELMAR_SITE);                                                    \
-    switch (fieldId) { VELMAR_FIELDS_##CLASS(VELMAR_CASE_OFFSET) }                                \
-    Framework::fail("false", VELMAR_SITE);                                                        \
+    return Framework::offsetOfId(*this, fieldId, classData, VELMAR_SITE);                         \
   }                                                                                               \
   U16 View::fieldWidth(U32 fieldId) const {                                                       \
-    Framework::traceEntry(*this, VELMAR_SITE);                                                    \
-    if (!isFieldValid(fieldId)) return 0;                                                         \
-    switch (fieldId) { VELMAR_FIELDS_##CLASS(VELMAR_CASE_LENGTH) }                                \
-    Framework::fail("false", VELMAR_SITE);                                                        \
+    return Framework::widthOfId(*this, fieldId, classData, VELMAR_SITE);                          \
   }                                                                                               \
   bool View::isFieldValid(U32 fieldId) const {                                                    \
-    Framework::traceEntry(*this, VELMAR_SITE);                                                    \
-    switch (fieldId) { VELMAR_FIELDS_##CLASS(VELMAR_CASE_VALID) }                                 \
-    return false;                                                                                 \
+    return Framework::isIdValid(*this, fieldId, classData, VELMAR_SITE);                          \
   }                                                                                               \
   void View::setField64(U32 fieldId, U64 value) {                                                 \
-    Framework::traceEntry(*this, VELMAR_SITE);                                                    \
-    switch (fieldId) { VELMAR_FIELDS_##CLASS(VELMAR_CASE_SET) }                                   \
-    Framework::fail("false", VELMAR_SITE);                                                        \
+    Framework::setById(*this, fieldId, value, classData, VELMAR_SITE);                            \
   }                                                                                               \
                                                                                                   \
   RAW View::getAllFields() const {                                                                \
-    return Framework::allFieldsAs<RAW>(classData, Framework::ViewState(*this), VELMAR_SITE);      \
+    return Framework::allFieldsAs<RAW>(classData, *this, VELMAR_SITE);                            \
   }                                                                                               \
   Raw8192 View::allFieldsMask(U32 chipType, U8 variant) {                                         \
     return Framework::allFieldsMask(classData, chipType, variant, VELMAR_SITE);                   \

@@ -4,36 +4,35 @@ namespace Velmar {
 namespace Framework {
 namespace {
 
-/// The slot on the view's chip and variant, absent where the view does not have the field.
-const FieldSlot& slotOf(const ClassData& data, U32 field, ViewState state) {
-  return data.slot(field, data.rowOf(state.chipType, state.variant));
-}
-
 /// The field's slot, after the checks that getter, setter and offset share.
-const FieldSlot& checkPresent(const ClassData& data, U32 field, ViewState state, Site site) {
-  const FieldSlot& slot = data.slot(field, data.rowOfChip(state.chipType));
+const FieldSlot& checkPresent(const EntryView& view, U32 field, const ClassData& data, Site site) {
+  const FieldSlot& slot = data.slot(field, data.rowOfChip(ViewAccess::chipType(view)));
   if (slot.width == 0) fail("0", site);
-  if (slotOf(data, field, state).width == 0) fail("variant_ == 0", site);
+  if (data.slot(field, rowOf(view, data)).width == 0) fail("variant_ == 0", site);
   return slot;
 }
 
-/// The same, after the check that the buffer reaches the field's last bit.
-const FieldSlot& checkReach(const ClassData& data, U32 field, ViewState state, Site site) {
-  const FieldSlot& slot = checkPresent(data, field, state, site);
-  if (state.len <= slot.lastByte) failDecimal("len_ >= ", slot.lastByte + 1U, site);
-  return slot;
+/// Trace and checks of a member that reads or writes the entry.
+[[gnu::cold, gnu::noinline]] void traceAndCheck(const EntryView& view, U32 field,
+                                                const ClassData& data, Member member,
+                                                U64 value = 0) {
+  const FieldSite site(data, field, member);
+  traceMember(view, site);
+  const FieldSlot& slot = checkPresent(view, field, data, site);
+  if (ViewAccess::len(view) < bytesUpTo(slot)) failDecimal("len_ >= ", bytesUpTo(slot), site);
+  if (value > largestValue(slot)) failHexadecimal("value <= ", largestValue(slot), site);
 }
 
-/// The whole entry of a getter or setter that copies more than one word: trace and checks where the
-/// straight way is not open.
-const FieldSlot& enter(const ClassData& data, U32 field, ViewState state, Member member) {
-  const FieldSlot& slot = slotOf(data, field, state);
-  if (mustCheck(state.len <= slot.lastByte)) {
-    const FieldSite site(data, field, member);
-    traceMember(state, site);
-    checkReach(data, field, state, site);
-  }
-  return slot;
+/// Whether the view's buffer holds the field; false where the view does not have it.
+bool isHeld(const EntryView& view, const FieldSlot& slot) {
+  return slot.width != 0 && ViewAccess::len(view) >= bytesUpTo(slot);
+}
+
+/// Writes a value that was checked, in memory as the copy takes it.
+template <class T>
+void put(const EntryView& view, const T& value, const FieldSlot& slot) {
+  Detail::copyBits(ViewAccess::buf(view), ViewAccess::len(view), bytesOf(value), sizeof(value),
+                   slot.width, slot.offset, 0);
 }
 
 /// Bits of word `index` of a bitmap that is `width` bits wide.
@@ -42,81 +41,98 @@ int wordBits(int width, U32 index) {
   return left < 32 ? left : 32;
 }
 
+void read(const EntryView& view, const FieldSlot& slot, Oru::PerUnitBitmap& bitmap) {
+  for (U32 i = 0; 32 * i < slot.width; ++i) {
+    U32 word = 0;
+    Detail::copyBits(bytesOf(word), sizeof(word), ViewAccess::buf(view), ViewAccess::len(view),
+                     wordBits(slot.width, i), 0, slot.offset + 32 * static_cast<int>(i));
+    bitmap.bitListIs(i, word);
+  }
+}
+
+template <class T>
+void read(const EntryView& view, const FieldSlot& slot, T& value) {
+  Detail::copyBits(bytesOf(value), sizeof(value), ViewAccess::buf(view), ViewAccess::len(view),
+                   slot.width, 0, slot.offset);
+}
+
 }  // namespace
 
-U64 checkedGet(const ClassData& data, U32 field, ViewState state) {
-  const FieldSite site(data, field, Member::getter);
-  traceMember(state, site);
-  const FieldSlot& slot = checkReach(data, field, state, site);
-  U64 value = 0;
-  Detail::copyBits(bytesOf(value), sizeof(value), state.buf, state.len, slot.width, 0, slot.offset);
+template <class T>
+T wholeGet(const EntryView& view, const FieldSlot& slot, const ClassData& data) {
+  if (mustCheck(!isHeld(view, slot))) {
+    traceAndCheck(view, data.fieldOf(slot), data, Member::getter);
+  }
+  T value{};
+  read(view, slot, value);
   return value;
 }
 
-void checkedSet(const ClassData& data, U32 field, ViewState state, U64 value) {
-  const FieldSite site(data, field, Member::setter);
-  traceMember(state, site);
-  const FieldSlot& slot = checkReach(data, field, state, site);
-  if (value > largestValue(slot)) failHexadecimal("value <= ", largestValue(slot), site);
-  Detail::copyBits(state.buf, state.len, bytesOf(value), sizeof(value), slot.width, slot.offset, 0);
-}
+template U8 wholeGet<U8>(const EntryView&, const FieldSlot&, const ClassData&);
+template U16 wholeGet<U16>(const EntryView&, const FieldSlot&, const ClassData&);
+template U32 wholeGet<U32>(const EntryView&, const FieldSlot&, const ClassData&);
+template U64 wholeGet<U64>(const EntryView&, const FieldSlot&, const ClassData&);
+template Raw128 wholeGet<Raw128>(const EntryView&, const FieldSlot&, const ClassData&);
+template Oru::PerUnitBitmap wholeGet<Oru::PerUnitBitmap>(const EntryView&, const FieldSlot&,
+                                                         const ClassData&);
 
-U16 checkedOffset(const ClassData& data, U32 field, ViewState state) {
-  const FieldSite site(data, field, Member::offset);
-  traceMember(state, site);
-  return checkPresent(data, field, state, site).offset;
-}
-
-U16 checkedLength(const ClassData& data, U32 field, ViewState state) {
-  const FieldSite site(data, field, Member::length);
-  traceMember(state, site);
-  const FieldSlot& slot = slotOf(data, field, state);
-  if (slot.width == 0) {
-    failFieldMissing(data.fieldFacts[field].id, state.chipType, state.variant, site);
+template <class T>
+void wholeSet(const EntryView& view, T value, const FieldSlot& slot, const ClassData& data) {
+  if (mustCheck(!isHeld(view, slot) || value > largestValue(slot))) {
+    traceAndCheck(view, data.fieldOf(slot), data, Member::setter, value);
   }
-  return slot.width;
+  put(view, value, slot);
 }
 
-bool checkedIsValid(const ClassData& data, U32 field, ViewState state) {
-  const FieldSite site(data, field, Member::validity);
-  traceMember(state, site);
-  return slotOf(data, field, state).width != 0;
-}
+template void wholeSet<U8>(const EntryView&, U8, const FieldSlot&, const ClassData&);
+template void wholeSet<U16>(const EntryView&, U16, const FieldSlot&, const ClassData&);
+template void wholeSet<U32>(const EntryView&, U32, const FieldSlot&, const ClassData&);
+template void wholeSet<U64>(const EntryView&, U64, const FieldSlot&, const ClassData&);
 
-Oru::PerUnitBitmap getBitmap(const ClassData& data, U32 field, ViewState state) {
-  const FieldSlot& slot = enter(data, field, state, Member::getter);
-  Oru::PerUnitBitmap bitmap;
-  for (U32 i = 0; 32 * i < slot.width; ++i) {
-    U32 word = 0;
-    Detail::copyBits(bytesOf(word), sizeof(word), state.buf, state.len, wordBits(slot.width, i), 0,
-                     slot.offset + 32 * static_cast<int>(i));
-    bitmap.bitListIs(i, word);
+void setBitmap(const EntryView& view, const Oru::PerUnitBitmap& value, const FieldSlot& slot,
+               const ClassData& data) {
+  if (mustCheck(!isHeld(view, slot))) {
+    traceAndCheck(view, data.fieldOf(slot), data, Member::setter);
   }
-  return bitmap;
-}
-
-void setBitmap(const ClassData& data, U32 field, ViewState state, const Oru::PerUnitBitmap& value) {
-  const FieldSlot& slot = enter(data, field, state, Member::setter);
   for (U32 i = 0; 32 * i < slot.width; ++i) {
     if (i >= wordCountOf(value)) {
       Morvo::Impl::throwVectorOutOfRangeException(i, wordCountOf(value));
     }
     const U32 word = wordOf(value, i);
-    Detail::copyBits(state.buf, state.len, bytesOf(word), sizeof(word), wordBits(slot.width, i),
-                     slot.offset + 32 * static_cast<int>(i), 0);
+    Detail::copyBits(ViewAccess::buf(view), ViewAccess::len(view), bytesOf(word), sizeof(word),
+                     wordBits(slot.width, i), slot.offset + 32 * static_cast<int>(i), 0);
   }
 }
 
-Raw128 getRaw(const ClassData& data, U32 field, ViewState state) {
-  const FieldSlot& slot = enter(data, field, state, Member::getter);
-  Raw128 value{};
-  Detail::copyBits(bytesOf(value), sizeof(value), state.buf, state.len, slot.width, 0, slot.offset);
-  return value;
+void setRaw(const EntryView& view, const Raw128& value, const FieldSlot& slot,
+            const ClassData& data) {
+  if (mustCheck(!isHeld(view, slot))) {
+    traceAndCheck(view, data.fieldOf(slot), data, Member::setter);
+  }
+  put(view, value, slot);
 }
 
-void setRaw(const ClassData& data, U32 field, ViewState state, const Raw128& value) {
-  const FieldSlot& slot = enter(data, field, state, Member::setter);
-  Detail::copyBits(state.buf, state.len, bytesOf(value), sizeof(value), slot.width, slot.offset, 0);
+U16 checkedOffset(const EntryView& view, const FieldSlot& slot, const ClassData& data) {
+  const U32 field = data.fieldOf(slot);
+  const FieldSite site(data, field, Member::offset);
+  traceMember(view, site);
+  return checkPresent(view, field, data, site).offset;
+}
+
+U16 checkedLength(const EntryView& view, const FieldSlot& slot, const ClassData& data) {
+  const U32 field = data.fieldOf(slot);
+  const FieldSite site(data, field, Member::length);
+  traceMember(view, site);
+  if (slot.width == 0) {
+    failFieldMissing(data.fieldFacts[field].id, ViewAccess::chipType(view),
+                     ViewAccess::variant(view), site);
+  }
+  return slot.width;
+}
+
+bool checkedIsValid(const EntryView& view, const FieldSlot& slot, const ClassData& data) {
+  traceMember(view, FieldSite(data, data.fieldOf(slot), Member::validity));
+  return slot.width != 0;
 }
 
 }  // namespace Framework

@@ -37,12 +37,14 @@ Raw8192 allFieldsMask(const ClassData& data, U32 chipType, U8 variant, Site site
   return mask;
 }
 
-void allFields(const ClassData& data, ViewState state, Site site, U32* entry, int words) {
-  traceMember(state, site);
-  const U32 row = knownRow(data, state.chipType, state.variant, "variant_ == 0", site);
-  if (state.len < data.allFieldsBytes) failDecimal("len_ >= ", data.allFieldsBytes, site);
-  maskBuf(reinterpret_cast<const U32*>(state.buf), data.allFieldsBytes / 4, entry, words,
-          data.masks + row * data.rawWords, static_cast<int>(data.rawWords));
+void allFields(const ClassData& data, const EntryView& view, Site site, U32* entry, int words) {
+  traceMember(view, site);
+  const U32 row =
+      knownRow(data, ViewAccess::chipType(view), ViewAccess::variant(view), "variant_ == 0", site);
+  if (ViewAccess::len(view) < data.allFieldsBytes)
+    failDecimal("len_ >= ", data.allFieldsBytes, site);
+  maskBuf(reinterpret_cast<const U32*>(ViewAccess::buf(view)), data.allFieldsBytes / 4, entry,
+          words, data.masks + row * data.rawWords, static_cast<int>(data.rawWords));
 }
 
 void checkConstruction(const ClassData& data, U32 chipType, U8 variant, Site site) {

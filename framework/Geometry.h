@@ -25,13 +25,13 @@ Raw8192 allFieldsMask(const ClassData& data, U32 chipType, U8 variant, Site site
 
 /// Fills `words` 32-bit words with the entry, zero at all bits that belong to no field. Words
 /// beyond those that the class needs of the buffer stay zero.
-void allFields(const ClassData& data, ViewState state, Site site, U32* entry, int words);
+void allFields(const ClassData& data, const EntryView& view, Site site, U32* entry, int words);
 
 /// getAllFields in the type that the class returns.
 template <class Raw>
-Raw allFieldsAs(const ClassData& data, ViewState state, Site site) {
+Raw allFieldsAs(const ClassData& data, const EntryView& view, Site site) {
   U32 words[sizeof(Raw) / sizeof(U32)];
-  allFields(data, state, site, words, sizeof(Raw) / sizeof(U32));
+  allFields(data, view, site, words, sizeof(Raw) / sizeof(U32));
   Raw entry;
   std::memcpy(&entry, words, sizeof(entry));
   return entry;

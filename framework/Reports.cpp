@@ -151,7 +151,9 @@ void failClassMissing(const char* className, U32 chipType, U8 variant, Site site
   });
 }
 
-void traceMember(ViewState state, Site site) { traceStatic(state.chipType, state.variant, site); }
+void traceMember(const EntryView& view, Site site) {
+  traceStatic(ViewAccess::chipType(view), ViewAccess::variant(view), site);
+}
 
 void traceStatic(U32 chipType, U8 variant, Site site) {
   traceLine(entryLevel, site, [&](Kiv::TraceStream& stream) {

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "framework/EntryView.h"
 #include "framework/PlatformAdapter.h"
-#include "framework/TableData.h"
 
 // The three doors through which the library reports: trace lines, soft assertions and assertions.
 // All of them are out of line; texts are built only when a report is made.
@@ -35,41 +35,6 @@ constexpr U32 entryLevel = 8;
 /// Level of the line that a failed address look-up writes.
 constexpr U32 failureLevel = 0;
 
-/// Reads what the views keep to themselves.
-struct ViewAccess {
-  template <class View>
-  static U8* buf(const View& view) {
-    return view.buf_;
-  }
-  template <class View>
-  static U16 len(const View& view) {
-    return view.len_;
-  }
-  template <class View>
-  static U8 chipType(const View& view) {
-    return view.chipType_;
-  }
-  template <class View>
-  static U8 variant(const View& view) {
-    return view.variant_;
-  }
-};
-
-/// What a routine out of line gets to know of a view.
-struct ViewState {
-  U8* buf;
-  U16 len;
-  U8 chipType;
-  U8 variant;
-
-  template <class View>
-  explicit ViewState(const View& view)
-      : buf(ViewAccess::buf(view)),
-        len(ViewAccess::len(view)),
-        chipType(ViewAccess::chipType(view)),
-        variant(ViewAccess::variant(view)) {}
-};
-
 /// Fails an assertion. May be left by an exception: a test may replace the C library's report.
 [[noreturn, gnu::cold]] void fail(const char* expression, Site site);
 /// Fails an assertion whose expression ends in a decimal number: "len_ >= 44".
@@ -84,12 +49,7 @@ struct ViewState {
                                               Site site);
 
 /// The line that a member of a view writes on entry, where the level is on.
-[[gnu::cold]] void traceMember(ViewState state, Site site);
-/// The same, out of line only where the level may be on.
-template <class View>
-inline void traceEntry(const View& view, Site site) {
-  if (__builtin_expect(traceMayBeOn(entryLevel), false)) traceMember(ViewState(view), site);
-}
+[[gnu::cold]] void traceMember(const EntryView& view, Site site);
 /// The line that a static member writes on entry, where the level is on.
 [[gnu::cold]] void traceStatic(U32 chipType, U8 variant, Site site);
 /// The same with the identifier asked for.

@@ -25,12 +25,6 @@
 #define VELMAR_PARAMETER_Raw128 const Raw128&
 #define VELMAR_PARAMETER_Bitmap Oru::PerUnitBitmap
 
-namespace Velmar {
-namespace Framework {
-struct ViewAccess;
-}  // namespace Framework
-}  // namespace Velmar
-
 /// The five members of a field. Each traces at level 8 before it does anything else.
 ///  - `F()`: the value, zero-extended. Fails "0" where the chip lacks the field, "variant_ == 0"
 ///  for
@@ -99,9 +93,7 @@ struct ViewAccess;
   VELMAR_DECLARE_GEOMETRY(U16, width, override)                                                    \
   VELMAR_DECLARE_GEOMETRY(U32, arrayElements, override)                                            \
   VELMAR_DECLARE_GEOMETRY(U32, instanceCount, override)                                            \
-  VELMAR_FIELDS_##CLASS(VELMAR_DECLARE_FIELD)                                                      \
-                                                                                                   \
-      private : friend struct ::Velmar::Framework::ViewAccess;
+  VELMAR_FIELDS_##CLASS(VELMAR_DECLARE_FIELD)
 
 /// The valid entry indices of the chip, and of the chips with as many entries.
 #define VELMAR_DECLARE_SPAN(CHIP) static const AsicUtils::EntrySpan _entrySpans_##CHIP[1];
@@ -113,7 +105,6 @@ struct ViewAccess;
 ///  - `tableVariantCount`: 1 where the chip has the memory, else 0. Never fails.
 #define VELMAR_DECLARE_TABLE(CLASS, RAW)                    \
   VELMAR_DECLARE_VIEW(CLASS, RAW)                           \
- public:                                                    \
   static U16 tableWidth(U32 chipType, U8 variant);          \
   VELMAR_DECLARE_GEOMETRY(U32, entries, override)           \
   VELMAR_DECLARE_GEOMETRY(U32, index_min, )                 \
@@ -129,7 +120,6 @@ struct ViewAccess;
 ///  - `maxIdentifier`: 0 on every chip, also where `hasIdentifier` accepts more.
 #define VELMAR_DECLARE_REGISTER(CLASS, RAW)      \
   VELMAR_DECLARE_VIEW(CLASS, RAW)                \
- public:                                         \
   static U16 regWidth(U32 chipType, U8 variant); \
   VELMAR_DECLARE_GEOMETRY(U32, addrStride, )     \
   VELMAR_DECLARE_GEOMETRY(U32, maxIdentifier, override)

@@ -12,6 +12,11 @@ static_assert(__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__,
 
 namespace Detail {
 
+/// Bytes of a window, where the buffer is that long.
+constexpr U32 windowBytes = 8;
+/// The most bits that one window takes at any offset.
+constexpr U32 windowBits = 57;
+
 /// These few lines are the body of every accessor: inline them whatever the compiler thinks.
 #define DETAIL_INLINE [[gnu::always_inline]] inline
 
@@ -27,9 +32,8 @@ DETAIL_INLINE void storeBytes(U8* into, T value) {
   std::memcpy(into, &value, sizeof(value));
 }
 
-/// A whole buffer of 1 to 8 bytes as an integer.
-DETAIL_INLINE U64 loadShort(const U8* from, int len) {
-  if (len == 8) return loadBytes<U64>(from);
+/// A whole buffer of 1 to 7 bytes as an integer.
+DETAIL_INLINE U64 loadShort(const U8* from, U32 len) {
   if (len >= 4) {
     return loadBytes<U32>(from) | static_cast<U64>(loadBytes<U32>(from + len - 4)) << 8 * (len - 4);
   }
@@ -37,11 +41,9 @@ DETAIL_INLINE U64 loadShort(const U8* from, int len) {
   return loadBytes<U16>(from) | static_cast<U64>(loadBytes<U16>(from + len - 2)) << 8 * (len - 2);
 }
 
-/// Writes a whole buffer of 1 to 8 bytes.
-DETAIL_INLINE void storeShort(U8* into, int len, U64 value) {
-  if (len == 8) {
-    storeBytes<U64>(into, value);
-  } else if (len >= 4) {
+/// Writes a whole buffer of 1 to 7 bytes.
+DETAIL_INLINE void storeShort(U8* into, U32 len, U64 value) {
+  if (len >= 4) {
     storeBytes<U32>(into, static_cast<U32>(value));
     storeBytes<U32>(into + len - 4, static_cast<U32>(value >> 8 * (len - 4)));
   } else if (len == 1) {
@@ -55,43 +57,40 @@ DETAIL_INLINE void storeShort(U8* into, int len, U64 value) {
 /// First byte of the window for `bits` bits at `offset` in a buffer of 8 bytes or more. Windows on
 /// multiples of 8 bytes are preferred: then a field written just before is forwarded whole to the
 /// next access. A range that straddles two of them gets a window of its own.
-DETAIL_INLINE int windowStart(int len, int offset, int bits) {
-  const int own = offset >> 3;
-  const int aligned = own & ~7;
-  const int start = (offset & 63) + bits <= 64 ? aligned : own;
-  return start < len - 8 ? start : len - 8;
+DETAIL_INLINE U32 windowStart(U32 len, U32 offset, U32 bits) {
+  const U32 own = offset / 8;
+  const U32 aligned = (offset + bits - 1) / 64 * 8;
+  const U32 start = own < aligned ? own : aligned;
+  return start < len - windowBytes ? start : len - windowBytes;
 }
 
-/// The most bits that one window takes at any offset.
-constexpr int windowBits = 57;
-
 /// `bits` (1 to 57) bits at `offset`, in the low bits of the result; the bits above are arbitrary.
-DETAIL_INLINE U64 readWindow(const U8* src, int len, int offset, int bits) {
-  if (len <= 8) return loadShort(src, len) >> offset;
-  const int start = windowStart(len, offset, bits);
+DETAIL_INLINE U64 readWindow(const U8* src, U32 len, U32 offset, U32 bits) {
+  if (len < windowBytes) return loadShort(src, len) >> offset;
+  const U32 start = windowStart(len, offset, bits);
   return loadBytes<U64>(src + start) >> (offset - 8 * start);
 }
 
 /// Puts the low `bits` (1 to 57) bits of `value` at `offset`.
-DETAIL_INLINE void writeWindow(U8* dst, int len, int offset, int bits, U64 value) {
-  const U64 mask = ~U64{0} >> (64 - bits);
-  if (len <= 8) {
+DETAIL_INLINE void writeWindow(U8* dst, U32 len, U32 offset, U32 bits, U64 value) {
+  const U64 mask = ~(~U64{0} << bits);
+  if (len < windowBytes) {
     const U64 old = loadShort(dst, len);
     storeShort(dst, len, (old & ~(mask << offset)) | (value & mask) << offset);
     return;
   }
-  const int start = windowStart(len, offset, bits);
-  const int shift = offset - 8 * start;
+  const U32 start = windowStart(len, offset, bits);
+  const U32 shift = offset - 8 * start;
   const U64 old = loadBytes<U64>(dst + start);
   storeBytes<U64>(dst + start, (old & ~(mask << shift)) | (value & mask) << shift);
 }
 
 /// Copies more bits than one window takes.
-inline void copyBitsWide(U8* dst, int dstLen, const U8* src, int srcLen, int bits, int dstOffset,
-                         int srcOffset) {
-  constexpr int step = 32;
+inline void copyBitsWide(U8* dst, U32 dstLen, const U8* src, U32 srcLen, U32 bits, U32 dstOffset,
+                         U32 srcOffset) {
+  constexpr U32 step = 32;
   while (bits > 0) {
-    const int count = bits < step ? bits : step;
+    const U32 count = bits < step ? bits : step;
     writeWindow(dst, dstLen, dstOffset, count, readWindow(src, srcLen, srcOffset, count));
     dstOffset += count;
     srcOffset += count;
@@ -105,10 +104,15 @@ inline void copyBitsWide(U8* dst, int dstLen, const U8* src, int srcLen, int bit
 /// outside the buffers is read or written, and neither needs any alignment.
 DETAIL_INLINE void copyBits(U8* dst, int dstLen, const U8* src, int srcLen, int bits, int dstOffset,
                             int srcOffset) {
-  if (bits > windowBits) {
-    copyBitsWide(dst, dstLen, src, srcLen, bits, dstOffset, srcOffset);
+  const U32 into = static_cast<U32>(dstOffset);
+  const U32 from = static_cast<U32>(srcOffset);
+  const U32 count = static_cast<U32>(bits);
+  const U32 intoLen = static_cast<U32>(dstLen);
+  const U32 fromLen = static_cast<U32>(srcLen);
+  if (bits > static_cast<int>(windowBits)) {
+    copyBitsWide(dst, intoLen, src, fromLen, count, into, from);
   } else if (bits > 0) {
-    writeWindow(dst, dstLen, dstOffset, bits, readWindow(src, srcLen, srcOffset, bits));
+    writeWindow(dst, intoLen, into, count, readWindow(src, fromLen, from, count));
   }
 }
 

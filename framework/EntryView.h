@@ -1,0 +1,28 @@
+#pragma once
+
+#include "AsicUtils/AsicBase.h"
+#include "framework/TableData.h"
+
+namespace Velmar {
+namespace Framework {
+
+/// A view of any class.
+using EntryView = AsicUtils::AsicBase;
+
+/// Reads what the views keep to themselves. None is ever made: a derived class may name the
+/// members.
+class ViewAccess : public EntryView {
+ public:
+  static U8* buf(const EntryView& view) { return view.*(&ViewAccess::buf_); }
+  static U16 len(const EntryView& view) { return view.*(&ViewAccess::len_); }
+  static U8 chipType(const EntryView& view) { return view.*(&ViewAccess::chipType_); }
+  static U8 variant(const EntryView& view) { return view.*(&ViewAccess::variant_); }
+};
+
+/// The row of a view's chip and variant.
+inline U32 rowOf(const EntryView& view, const ClassData& data) {
+  return data.rowOf(ViewAccess::chipType(view), ViewAccess::variant(view));
+}
+
+}  // namespace Framework
+}  // namespace Velmar

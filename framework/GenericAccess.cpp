@@ -1,0 +1,56 @@
+#include "framework/GenericAccess.h"
+
+namespace Velmar {
+namespace Framework {
+namespace {
+
+/// The slot of the field that an identifier names; that of an unknown one is absent.
+const FieldSlot& slotOfId(const EntryView& view, U32 id, const ClassData& data) {
+  return data.slot(data.fieldOfId(id), rowOf(view, data));
+}
+
+/// The value as the setter's parameter takes it: high bits that the type lacks are dropped.
+U64 narrowed(U64 value, ValueType type) { return value & (~U64{0} >> (64 - bitsOf(type))); }
+
+}  // namespace
+
+U16 offsetOfId(const EntryView& view, U32 id, const ClassData& data, Site site) {
+  const FieldSlot& slot = slotOfId(view, id, data);
+  if (mustCheck(slot.width == 0)) {
+    traceMember(view, site);
+    if (!data.hasId(id)) fail("false", site);
+    return checkedOffset(view, slot, data);
+  }
+  return slot.offset;
+}
+
+U16 widthOfId(const EntryView& view, U32 id, const ClassData& data, Site site) {
+  if (mustCheck(false)) traceMember(view, site);
+  if (!view.isFieldValid(id)) return 0;
+  const FieldSlot& slot = slotOfId(view, id, data);
+  if (mustCheck(slot.width == 0)) {
+    if (!data.hasId(id)) fail("false", site);
+    return checkedLength(view, slot, data);
+  }
+  return slot.width;
+}
+
+bool isIdValid(const EntryView& view, U32 id, const ClassData& data, Site site) {
+  const FieldSlot& slot = slotOfId(view, id, data);
+  if (mustCheck(false)) {
+    traceMember(view, site);
+    return data.hasId(id) && checkedIsValid(view, slot, data);
+  }
+  return slot.width != 0;
+}
+
+void setById(const EntryView& view, U32 id, U64 value, const ClassData& data, Site site) {
+  if (mustCheck(false)) traceMember(view, site);
+  const U32 field = data.fieldOfId(id);
+  if (field == data.fields || !isScalar(data.fieldFacts[field].type)) fail("false", site);
+  wholeSet<U64>(view, narrowed(value, data.fieldFacts[field].type),
+                data.slot(field, rowOf(view, data)), data);
+}
+
+}  // namespace Framework
+}  // namespace Velmar

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "framework/FieldAccess.h"
+
+// Fields chosen by identifier. Each operation answers as the member of the field's quintet does;
+// where it traces, its own line comes first and the field member's line after it.
+
+namespace Velmar {
+namespace Framework {
+
+U16 offsetOfId(const EntryView& view, U32 id, const ClassData& data, Site site);
+U16 widthOfId(const EntryView& view, U32 id, const ClassData& data, Site site);
+bool isIdValid(const EntryView& view, U32 id, const ClassData& data, Site site);
+void setById(const EntryView& view, U32 id, U64 value, const ClassData& data, Site site);
+
+}  // namespace Framework
+}  // namespace Velmar
