@@ -23,13 +23,13 @@ std::shared_ptr<std::vector<Offsets>> someOffsets() {
 }
 
 constexpr int bufferBytes = 64;
-U8 destination[bufferBytes];
+U8 destinations[itemCount][bufferBytes];
 U8 source[bufferBytes];
 
 void addCopy(const std::string& name, Floors::Copy copy, int bits) {
   add("copy/" + name + " " + std::to_string(bits), someOffsets(),
-      [copy, bits](const Offsets& offsets, U32) {
-        copy(destination, bufferBytes, source, bufferBytes, bits, offsets.dst, offsets.src);
+      [copy, bits](const Offsets& offsets, U32 i) {
+        copy(destinations[i], bufferBytes, source, bufferBytes, bits, offsets.dst, offsets.src);
       });
 }
 

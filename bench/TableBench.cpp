@@ -56,6 +56,13 @@ void encode(View& view, U32 i) {
 #undef BENCH_SET
 }
 
+/// What an agent does that programs and verifies: each entry is read back at once.
+template <class View>
+void readBack(View& view, U32 i) {
+  encode(view, i);
+  decode(view, i);
+}
+
 /// All that a caller without the class can do: every identifier of the class through the base.
 void walk(const AsicUtils::AsicBase& view, const U8* entry) {
   U64 sum = 0;
@@ -86,6 +93,8 @@ const bool added = [] {
   addTable<VlanEntry>("decode/8192 VLANs", &decode<VlanEntry>);
   addTable<Floors::Vlan>("encode/floor", &encode<Floors::Vlan>);
   addTable<VlanEntry>("encode/8192 VLANs", &encode<VlanEntry>);
+  addTable<Floors::Vlan>("read back/floor", &readBack<Floors::Vlan>);
+  addTable<VlanEntry>("read back/8192 VLANs", &readBack<VlanEntry>);
   addWalk<Floors::Vlan>("walk/floor");
   addWalk<VlanEntry>("walk/generic");
   return true;

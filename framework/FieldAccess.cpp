@@ -1,5 +1,7 @@
 #include "framework/FieldAccess.h"
 
+#include <algorithm>
+
 namespace Velmar {
 namespace Framework {
 namespace {
@@ -28,32 +30,36 @@ bool isHeld(const EntryView& view, const FieldSlot& slot) {
   return slot.width != 0 && ViewAccess::len(view) >= bytesUpTo(slot);
 }
 
-/// Writes a value that was checked, in memory as the copy takes it.
-template <class T>
-void put(const EntryView& view, const T& value, const FieldSlot& slot) {
-  Detail::copyBits(ViewAccess::buf(view), ViewAccess::len(view), bytesOf(value), sizeof(value),
-                   slot.width, slot.offset, 0);
-}
-
-/// Bits of word `index` of a bitmap that is `width` bits wide.
-int wordBits(int width, U32 index) {
-  const int left = width - 32 * static_cast<int>(index);
-  return left < 32 ? left : 32;
-}
-
-void read(const EntryView& view, const FieldSlot& slot, Oru::PerUnitBitmap& bitmap) {
-  for (U32 i = 0; 32 * i < slot.width; ++i) {
-    U32 word = 0;
-    Detail::copyBits(bytesOf(word), sizeof(word), ViewAccess::buf(view), ViewAccess::len(view),
-                     wordBits(slot.width, i), 0, slot.offset + 32 * static_cast<int>(i));
-    bitmap.bitListIs(i, word);
-  }
-}
+// The work itself, after the checks.
 
 template <class T>
 void read(const EntryView& view, const FieldSlot& slot, T& value) {
   Detail::copyBits(bytesOf(value), sizeof(value), ViewAccess::buf(view), ViewAccess::len(view),
                    slot.width, 0, slot.offset);
+}
+
+template <class T>
+void write(const EntryView& view, const FieldSlot& slot, const T& value) {
+  Detail::copyBits(ViewAccess::buf(view), ViewAccess::len(view), bytesOf(value), sizeof(value),
+                   slot.width, slot.offset, 0);
+}
+
+U32 wordsOf(const FieldSlot& slot) { return (slot.width + 31U) / 32; }
+
+void read(const EntryView& view, const FieldSlot& slot, Oru::PerUnitBitmap& bitmap) {
+  U32 words[mostBitmapWords] = {};
+  read(view, slot, words);
+  for (U32 i = 0; i < wordsOf(slot); ++i) bitmap.bitListIs(i, words[i]);
+}
+
+/// Writes the words that the bitmap has, then throws where the field has more.
+void write(const EntryView& view, const FieldSlot& slot, const Oru::PerUnitBitmap& bitmap) {
+  const U32 given = std::min(wordsOf(slot), wordCountOf(bitmap));
+  U32 words[mostBitmapWords];
+  for (U32 i = 0; i < given; ++i) words[i] = wordOf(bitmap, i);
+  Detail::copyBits(ViewAccess::buf(view), ViewAccess::len(view), bytesOf(words), sizeof(words),
+                   std::min<int>(slot.width, static_cast<int>(32 * given)), slot.offset, 0);
+  if (given < wordsOf(slot)) Morvo::Impl::throwVectorOutOfRangeException(given, given);
 }
 
 }  // namespace
@@ -81,7 +87,7 @@ void wholeSet(const EntryView& view, T value, const FieldSlot& slot, const Class
   if (mustCheck(!isHeld(view, slot) || value > largestValue(slot))) {
     traceAndCheck(view, data.fieldOf(slot), data, Member::setter, value);
   }
-  put(view, value, slot);
+  write(view, slot, value);
 }
 
 template void wholeSet<U8>(const EntryView&, U8, const FieldSlot&, const ClassData&);
@@ -94,14 +100,7 @@ void setBitmap(const EntryView& view, const Oru::PerUnitBitmap& value, const Fie
   if (mustCheck(!isHeld(view, slot))) {
     traceAndCheck(view, data.fieldOf(slot), data, Member::setter);
   }
-  for (U32 i = 0; 32 * i < slot.width; ++i) {
-    if (i >= wordCountOf(value)) {
-      Morvo::Impl::throwVectorOutOfRangeException(i, wordCountOf(value));
-    }
-    const U32 word = wordOf(value, i);
-    Detail::copyBits(ViewAccess::buf(view), ViewAccess::len(view), bytesOf(word), sizeof(word),
-                     wordBits(slot.width, i), slot.offset + 32 * static_cast<int>(i), 0);
-  }
+  write(view, slot, value);
 }
 
 void setRaw(const EntryView& view, const Raw128& value, const FieldSlot& slot,
@@ -109,7 +108,7 @@ void setRaw(const EntryView& view, const Raw128& value, const FieldSlot& slot,
   if (mustCheck(!isHeld(view, slot))) {
     traceAndCheck(view, data.fieldOf(slot), data, Member::setter);
   }
-  put(view, value, slot);
+  write(view, slot, value);
 }
 
 U16 checkedOffset(const EntryView& view, const FieldSlot& slot, const ClassData& data) {

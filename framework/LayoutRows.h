@@ -113,7 +113,10 @@ template <>
 constexpr ValueType valueTypeOf<Raw128> = ValueType::raw128;
 
 constexpr bool isScalar(ValueType type) { return type <= ValueType::u64; }
-/// Bits of a scalar or raw value type; no bound for bitmaps.
+/// Words of the widest bitmap that a field may be.
+constexpr U32 mostBitmapWords = 9;
+
+/// The most bits that a field of a value type may have.
 constexpr U32 bitsOf(ValueType type) {
   switch (type) {
     case ValueType::u8:
@@ -129,7 +132,7 @@ constexpr U32 bitsOf(ValueType type) {
     case ValueType::bitmap:
       break;
   }
-  return ~0U;
+  return 32 * mostBitmapWords;
 }
 
 /// One row of a class's field list.

@@ -1,5 +1,6 @@
 #include "framework/Reports.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 
@@ -36,7 +37,9 @@ class ShortName {
     if (end == nullptr) end = signature + std::strlen(signature);
     const char* begin = end;
     while (begin != signature && begin[-1] != ':' && begin[-1] != ' ') --begin;
-    std::snprintf(text_, sizeof(text_), "%.*s", static_cast<int>(end - begin), begin);
+    const std::size_t length = std::min(static_cast<std::size_t>(end - begin), sizeof(text_) - 1);
+    std::memcpy(text_, begin, length);
+    text_[length] = '\0';
   }
   const char* text() const { return text_; }
 

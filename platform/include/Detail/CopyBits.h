@@ -54,24 +54,21 @@ DETAIL_INLINE void storeShort(U8* into, U32 len, U64 value) {
   }
 }
 
-/// First byte of the window for `bits` bits at `offset` in a buffer of 8 bytes or more. Windows on
-/// multiples of 8 bytes are preferred: then a field written just before is forwarded whole to the
-/// next access. A range that straddles two of them gets a window of its own.
-DETAIL_INLINE U32 windowStart(U32 len, U32 offset, U32 bits) {
-  const U32 own = offset / 8;
-  const U32 aligned = (offset + bits - 1) / 64 * 8;
-  const U32 start = own < aligned ? own : aligned;
+/// A byte from which a whole window lies inside the buffer: `start`, or as near as can be.
+DETAIL_INLINE U32 windowStart(U32 len, U32 start) {
   return start < len - windowBytes ? start : len - windowBytes;
 }
 
-/// `bits` (1 to 57) bits at `offset`, in the low bits of the result; the bits above are arbitrary.
-DETAIL_INLINE U64 readWindow(const U8* src, U32 len, U32 offset, U32 bits) {
+/// Up to 57 bits at `offset`, in the low bits of the result; the bits above are arbitrary.
+DETAIL_INLINE U64 readWindow(const U8* src, U32 len, U32 offset) {
   if (len < windowBytes) return loadShort(src, len) >> offset;
-  const U32 start = windowStart(len, offset, bits);
+  const U32 start = windowStart(len, offset / 8);
   return loadBytes<U64>(src + start) >> (offset - 8 * start);
 }
 
-/// Puts the low `bits` (1 to 57) bits of `value` at `offset`.
+/// Puts the low `bits` (1 to 57) bits of `value` at `offset`. A window on a multiple of 8 bytes is
+/// preferred: what one write left is then read whole by the next. Bits that straddle two of those
+/// get a window from their own first byte.
 DETAIL_INLINE void writeWindow(U8* dst, U32 len, U32 offset, U32 bits, U64 value) {
   const U64 mask = ~(~U64{0} << bits);
   if (len < windowBytes) {
@@ -79,23 +76,49 @@ DETAIL_INLINE void writeWindow(U8* dst, U32 len, U32 offset, U32 bits, U64 value
     storeShort(dst, len, (old & ~(mask << offset)) | (value & mask) << offset);
     return;
   }
-  const U32 start = windowStart(len, offset, bits);
+  const U32 own = offset / 8;
+  const U32 aligned = (offset + bits - 1) / 64 * 8;
+  const U32 start = windowStart(len, own < aligned ? own : aligned);
   const U32 shift = offset - 8 * start;
   const U64 old = loadBytes<U64>(dst + start);
   storeBytes<U64>(dst + start, (old & ~(mask << shift)) | (value & mask) << shift);
 }
 
-/// Copies more bits than one window takes.
-inline void copyBitsWide(U8* dst, U32 dstLen, const U8* src, U32 srcLen, U32 bits, U32 dstOffset,
-                         U32 srcOffset) {
-  constexpr U32 step = 32;
-  while (bits > 0) {
-    const U32 count = bits < step ? bits : step;
-    writeWindow(dst, dstLen, dstOffset, count, readWindow(src, srcLen, srcOffset, count));
-    dstOffset += count;
-    srcOffset += count;
-    bits -= count;
+/// 64 bits from bit `shift` (0 to 7) of the first byte; reads no byte beyond the last of them.
+DETAIL_INLINE U64 read64(const U8* src, U32 shift) {
+  // The ninth byte, or the eighth again where `shift` is 0 and it adds nothing.
+  const U64 high = src[(shift + 63) / 8];
+  return loadBytes<U64>(src) >> shift | high << 1 << (63 - shift);
+}
+
+/// Copies more bits than one window takes, 8 bytes of `dst` at a time. Of `dst` nothing is read but
+/// the bytes that the range shares with other bits, so that no read waits for a write.
+[[gnu::noinline]] inline void copyBitsWide(U8* dst, U32 dstLen, const U8* src, U32 srcLen, U32 bits,
+                                           U32 dstOffset, U32 srcOffset) {
+  if (bits < 64) {
+    const U32 half = bits / 2;
+    writeWindow(dst, dstLen, dstOffset, half, readWindow(src, srcLen, srcOffset));
+    writeWindow(dst, dstLen, dstOffset + half, bits - half,
+                readWindow(src, srcLen, srcOffset + half));
+    return;
   }
+  const U32 first = dstOffset / 8;
+  const U32 last = (dstOffset + bits - 1) / 8;
+  const U32 below = dstOffset % 8;                      // bits of the first byte that stay
+  const U32 above = 8 * (last + 1) - dstOffset - bits;  // bits of the last byte that stay
+  const U32 end = srcOffset + bits - 64;                // the last 64 bits
+  const U64 head = read64(src + srcOffset / 8, srcOffset % 8) << below;
+  const U64 tail = read64(src + end / 8, end % 8) >> above;
+  const U64 firstByte = dst[first] & ((1U << below) - 1);
+  const U64 lastByte = dst[last] & ~(0xffU >> above);
+
+  storeBytes<U64>(dst + first, head | firstByte);
+  const U32 next = srcOffset + 64 - below;
+  const U8* from = src + next / 8;
+  for (U32 into = first + 8; into < last - 7; into += 8, from += 8) {
+    storeBytes<U64>(dst + into, read64(from, next % 8));
+  }
+  storeBytes<U64>(dst + last - 7, tail | lastByte << 56);
 }
 
 /// Copies `bits` bits from bit `srcOffset` of `src` to bit `dstOffset` of `dst`. Lengths are in
@@ -109,10 +132,10 @@ DETAIL_INLINE void copyBits(U8* dst, int dstLen, const U8* src, int srcLen, int 
   const U32 count = static_cast<U32>(bits);
   const U32 intoLen = static_cast<U32>(dstLen);
   const U32 fromLen = static_cast<U32>(srcLen);
-  if (bits > static_cast<int>(windowBits)) {
-    copyBitsWide(dst, intoLen, src, fromLen, count, into, from);
+  if (count - 1 < windowBits) {
+    writeWindow(dst, intoLen, into, count, readWindow(src, fromLen, from));
   } else if (bits > 0) {
-    writeWindow(dst, intoLen, into, count, readWindow(src, fromLen, from, count));
+    copyBitsWide(dst, intoLen, src, fromLen, count, into, from);
   }
 }
 
