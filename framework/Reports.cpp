@@ -108,20 +108,23 @@ FieldSite::FieldSite(const ClassData& data, U32 field, Member member) : line_(da
   const char* const accessor = FieldId::accessorName(facts.id);
   const bool isSetter = member == Member::setter;
   const bool isValidity = member == Member::validity;
-  const char capital[] = {toUpper(accessor[0]), '\0'};
 
   char* end = text_;
-  for (const char* piece :
-       {isSetter                   ? "void"
-        : isValidity               ? "bool"
-        : member == Member::getter ? valueName(facts.type)
-                                   : "U16",
-        " Velmar::", data.name, "::", isValidity ? "is" : "", isValidity ? capital : "",
-        isValidity ? accessor + 1 : accessor, suffixes[static_cast<int>(member)],
-        isSetter ? parameterName(facts.type) : "", isSetter ? ")" : ""}) {
-    const std::size_t length = std::strlen(piece);
-    std::memcpy(end, piece, length + 1);
-    end += length;
+  const auto append = [&end](const char* text) { end = stpcpy(end, text); };
+  append(isSetter                   ? "void"
+         : isValidity               ? "bool"
+         : member == Member::getter ? valueName(facts.type)
+                                    : "U16");
+  append(" Velmar::");
+  append(data.name);
+  append(isValidity ? "::is" : "::");
+  char* const name = end;
+  append(accessor);
+  if (isValidity) *name = toUpper(*name);
+  append(suffixes[static_cast<int>(member)]);
+  if (isSetter) {
+    append(parameterName(facts.type));
+    append(")");
   }
 }
 
