@@ -69,16 +69,15 @@ class Row {
     for (const Piece& piece : pieces) put(line, piece);
     const std::string margin =
         isFirstLane ? fmt::format("{:>4} {:>3}", (row_ + 1) * rowBits - 1, "") : std::string();
+    line.erase(line.find_last_not_of(' ') + 1);
     output_.print("{:<{}}{}", margin, marginColumns, line);
     if (isFirstLane) output_.print(" {}", row_ * rowBits);
     output_.write("\n");
   }
 
   void explain() {
-    if (!legend_.empty()) {
-      for (const std::string& line : legend_) {
-        output_.print("{:<{}}{}\n", "", marginColumns, line);
-      }
+    for (const std::string& line : legend_) {
+      output_.print("{:<{}}{}\n", "", marginColumns, line);
     }
   }
 

@@ -55,7 +55,9 @@ std::unique_ptr<EntryReader> openEntries(const std::string& path, const Layout& 
   auto stream = std::make_unique<ByteStream>(path, std::move(beforeWait));
   const std::string format = options.format == "auto" ? detectFormat(*stream) : options.format;
   if (format == "raw") return readRaw(std::move(stream), layout, options);
-  return readRaw(std::move(stream), layout, options);
+  if (format == "xxd") return readXxd(std::move(stream), layout, options);
+  if (format == "json") return readJson(std::move(stream), layout, options);
+  return readHex(std::move(stream), layout, options);
 }
 
 }  // namespace Tool

@@ -30,7 +30,7 @@ std::string addressRule(const Layout& layout) {
   std::string rule = addressText(geometry.base);
   rule += layout.isRegisterArray() ? fmt::format(" + element * {}", geometry.addrStride)
                                    : std::string(" + index");
-  if (geometry.identifierTerm != 0) {
+  if (geometry.identifiers > 1 && geometry.identifierTerm != 0) {
     rule += fmt::format(" + identifier * {}", geometry.identifierTerm);
   }
   return rule;
@@ -61,8 +61,9 @@ void printHead(Output& output, const Layout& layout) {
                geometry.variants == Catalogue::Variants::any ? "any" : "0 only");
   output.print("  address   {}, access {}, block {}\n", addressRule(layout), geometry.accessType,
                blockText(geometry.block));
-  if (geometry.identifiers != 1) {
-    output.print("  identifiers 0 to {}\n", geometry.identifiers - 1);
+  if (geometry.identifiers > 1) {
+    output.print("  instances {}, identifier 0 to {}\n", geometry.identifiers,
+                 geometry.identifiers - 1);
   }
   output.write("\n");
 }

@@ -68,6 +68,11 @@ Option index() {
   return textOption("--index", "LIST", "only these entries, such as 100, 0-99 or 1,5,100-199",
                     &Arguments::index);
 }
+Option changeIndex() {
+  return textOption("--index", "LIST",
+                    "the entries to make, or with --base to change, such as 100 or 1,5,100-199",
+                    &Arguments::index);
+}
 Option entryIndex() {
   return textOption("--index", "N", "the entry; for a register array its element",
                     &Arguments::index);
@@ -107,11 +112,10 @@ Option input() {
                       &Arguments::input, {"auto", "raw", "hex", "xxd", "json"});
 }
 Option hexOrder() {
-  return choiceOption(
-      "--hex-order", "ORDER",
-      "how to read hex digits: bytes (first byte first), words (32-bit words, first "
-      "word first) or int (one number, highest digit first)",
-      &Arguments::hexOrder, {"bytes", "words", "int"});
+  return choiceOption("--hex-order", "ORDER",
+                      "how to read hex digits; bytes: the first byte first; words: 32-bit words, "
+                      "the first word first; int: one number, highest digit first",
+                      &Arguments::hexOrder, {"bytes", "words", "int"});
 }
 Option stride() {
   return textOption("--stride", "BYTES",

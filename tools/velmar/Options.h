@@ -80,6 +80,7 @@ Option listFormat();
 Option output();
 Option color();
 Option index();
+Option changeIndex();
 Option entryIndex();
 Option array();
 Option identifier();

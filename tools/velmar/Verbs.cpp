@@ -3,9 +3,9 @@
 namespace Tool {
 
 const std::vector<VerbName> verbs = {
-    {"decode", decodeVerb}, {"addr", addrVerb},     {"layout", layoutVerb},
-    {"chips", chipsVerb},   {"tables", tablesVerb}, {"fields", fieldsVerb},
-
+    {"decode", decodeVerb}, {"encode", encodeVerb},   {"diff", diffVerb},   {"addr", addrVerb},
+    {"layout", layoutVerb}, {"compare", compareVerb}, {"chips", chipsVerb}, {"tables", tablesVerb},
+    {"fields", fieldsVerb}, {"export", exportVerb},
 };
 
 }  // namespace Tool
