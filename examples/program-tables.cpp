@@ -23,9 +23,9 @@ Oru::PerUnitBitmap portRange(U32 ports, U32 first, U32 last) {
 
 /// Bitmaps: the member and untagged ports of the first VLANs.
 Bytes programEgressVlans() {
-  constexpr U32 ports = 160;
-  constexpr U32 uplink = 156;  ///< ports from here on carry every VLAN, tagged
   Examples::Dump<Velmar::EgrVlanEntry> table(BCM56980_A0, 8);
+  const U32 ports = table.entry(0).portBitmapLen();
+  const U32 uplink = ports - 4;  // ports from here on carry every VLAN, tagged
   for (U32 vlan = 1; vlan < 8; ++vlan) {
     if (vlan == 5) continue;  // not set up
     const U32 firstAccess = 20 * vlan;
@@ -46,13 +46,13 @@ Bytes programEgressVlans() {
 /// Port families: the state of each port in four spanning-tree groups.
 Bytes programSpanningTreeGroups() {
   enum State : U8 { disabled, blocking, learning, forwarding };
-  constexpr U32 ports = 160;
   Examples::Dump<Velmar::VlanStgEntry> table(BCM56980_A0, 4);
+  const U32 ports = table.entry(0).fieldCount();
   for (U32 group = 1; group < 4; ++group) {
     Velmar::VlanStgEntry entry = table.entry(group);
     for (U32 port = 0; port < ports; ++port) {
       // Most ports forward; each group blocks uplinks of its own, and one port is still learning.
-      const bool isBlocked = port >= 156 && port % 4 != group;
+      const bool isBlocked = port >= ports - 4 && port % 4 != group;
       const State state = isBlocked ? blocking : port == 10 * group ? learning : forwarding;
       entry.setField64(Velmar::FieldId::firstPort + port, state);
     }

@@ -1,11 +1,13 @@
 // Verifies that the committed reference documents are what the rows make now, that a search for an
-// accessor finds its page, and that the pages say what is known of some fields and chips.
+// accessor finds its page, that the pages say what is known of some fields and chips, and that the
+// other documents name files that exist.
 
 #include <gtest/gtest.h>
 
 #include <cctype>
 #include <set>
 #include <sstream>
+#include <vector>
 
 #include "support/Files.h"
 
@@ -14,7 +16,7 @@ namespace {
 using namespace VelmarTest;
 
 const std::map<std::string, std::string>& pages() {
-  static const auto pages = filesIn(REFERENCE_DIR);
+  static const auto pages = filesIn(ROOT_DIR "/docs/reference");
   return pages;
 }
 
@@ -33,7 +35,7 @@ TEST(Reference, IsFresh) {
 }
 
 TEST(Reference, HasAPageForEachTable) {
-  for (const auto& [name, text] : filesIn(TABLES_DIR)) {
+  for (const auto& [name, text] : filesIn(ROOT_DIR "/tables")) {
     const std::string className = name.substr(0, name.find('.'));
     if (className == "AllClasses") continue;
     EXPECT_EQ(1U, pages().count(className + ".md"))
@@ -46,6 +48,33 @@ TEST(Reference, CannotBeWrittenNowhere) {
   EXPECT_EQ(2, run(quoted(REFERENCE_PAGES) + " /no/such/place"));
 }
 
+/// What a Markdown text has between backquotes.
+std::vector<std::string> quotedCode(const std::string& text) {
+  std::vector<std::string> pieces;
+  std::istringstream stream(text);
+  std::string piece;
+  for (bool isCode = false; std::getline(stream, piece, '`'); isCode = !isCode) {
+    if (isCode) pieces.push_back(piece);
+  }
+  return pieces;
+}
+
+TEST(Documents, NameFilesThatExist) {
+  using std::filesystem::exists;
+  std::size_t found = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(ROOT_DIR "/docs")) {
+    if (entry.is_directory()) continue;
+    for (const std::string& code : quotedCode(readFile(entry.path().string()))) {
+      const std::string directory = code.substr(0, code.find('/'));
+      const bool isPath = directory != code && code.find_first_of("< ") == std::string::npos;
+      if (!isPath || directory.empty() || !exists(ROOT_DIR "/" + directory)) continue;
+      EXPECT_TRUE(exists(ROOT_DIR "/" + code)) << entry.path().filename() << " names " << code;
+      ++found;
+    }
+  }
+  EXPECT_NE(0U, found);
+}
+
 std::set<std::string> wordsOf(const std::string& text) {
   std::set<std::string> words;
   std::istringstream stream(text);
@@ -56,7 +85,7 @@ std::set<std::string> wordsOf(const std::string& text) {
 /// Class and accessor names, independent of the rows that the pages are made from.
 std::map<std::string, std::set<std::string>> accessorsByClass() {
   std::map<std::string, std::set<std::string>> accessors;
-  std::ifstream file(GOLDEN_DIR "/fields.tsv");
+  std::ifstream file(ROOT_DIR "/tests/golden/fields.tsv");
   std::string line;
   std::getline(file, line);
   while (std::getline(file, line)) {
