@@ -33,7 +33,10 @@ function(velmar_shared_library target)
     VERSION ${PROJECT_VERSION}
     SOVERSION ${PROJECT_VERSION_MAJOR}
     INSTALL_RPATH "$ORIGIN")
-  target_compile_options(${target} PRIVATE -fno-semantic-interposition -fno-reorder-blocks-and-partition)
+  target_compile_options(${target} PRIVATE -fno-semantic-interposition)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(${target} PRIVATE -fno-reorder-blocks-and-partition)
+  endif()
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
     # The thousands of signature texts need no 32-byte alignment.
     target_compile_options(${target} PRIVATE -malign-data=abi)

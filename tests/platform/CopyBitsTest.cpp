@@ -1,38 +1,115 @@
-// Detail::copyBits against a bit-by-bit model.
+// Detail::copyBits against a model that holds one bit in each byte: every copy that a view can
+// issue, and random ones between any two buffers. Buffers are heap blocks of exactly their length,
+// so that address sanitizing sees an access beyond them.
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstring>
+#include <memory>
+#include <ostream>
 #include <random>
 
 #include "Detail/CopyBits.h"
 
 namespace {
 
-TEST(CopyBits, againstAModel) {
-  std::mt19937 random(3);
-  for (int round = 0; round < 200000; ++round) {
-    const int dstLen = 1 + static_cast<int>(random() % 40);
-    const int srcLen = 1 + static_cast<int>(random() % 40);
-    const int most = 8 * std::min(dstLen, srcLen);
-    const int bits = static_cast<int>(random() % (static_cast<unsigned>(most) + 1));
-    const int dstOffset = static_cast<int>(random() % static_cast<unsigned>(8 * dstLen - bits + 1));
-    const int srcOffset = static_cast<int>(random() % static_cast<unsigned>(8 * srcLen - bits + 1));
-    std::vector<U8> dst(static_cast<std::size_t>(dstLen));
-    std::vector<U8> src(static_cast<std::size_t>(srcLen));
-    for (U8& byte : dst) byte = static_cast<U8>(random());
-    for (U8& byte : src) byte = static_cast<U8>(random());
-    std::vector<U8> expected = dst;
-    for (int i = 0; i < bits; ++i) {
-      const std::size_t from = static_cast<std::size_t>(srcOffset + i);
-      const std::size_t into = static_cast<std::size_t>(dstOffset + i);
-      const U8 mask = static_cast<U8>(1U << into % 8);
-      const bool bit = (src[from / 8] >> from % 8 & 1) != 0;
-      expected[into / 8] =
-          static_cast<U8>(bit ? expected[into / 8] | mask : expected[into / 8] & ~mask);
+/// For each byte its bits, one in each byte of a number.
+const auto spread = [] {
+  std::array<U64, 256> table{};
+  for (U32 bit = 0; bit < 8 * table.size(); ++bit) {
+    table[bit / 8] |= U64{bit / 8 >> bit % 8 & 1U} << 8 * (bit % 8);
+  }
+  return table;
+}();
+
+/// A buffer of exactly `length` bytes beside its model.
+class Buffer {
+ public:
+  explicit Buffer(int length)
+      : length_(length), bytes_(new U8[count()]), model_(new U64[count()]) {}
+
+  int length() const { return length_; }
+
+  void fill(std::mt19937_64& random) {
+    for (std::size_t i = 0; i < count(); ++i) {
+      bytes_[i] = static_cast<U8>(random());
+      model_[i] = spread[bytes_[i]];
     }
-    Detail::copyBits(dst.data(), dstLen, src.data(), srcLen, bits, dstOffset, srcOffset);
-    ASSERT_EQ(dst, expected) << dstLen << " " << srcLen << " " << bits << " " << dstOffset << " "
-                             << srcOffset;
+  }
+
+  /// Copies in both and compares the whole buffer with its model.
+  ::testing::AssertionResult copyFrom(const Buffer& src, int bits, int offset, int srcOffset) {
+    std::memcpy(modelBits() + offset, src.modelBits() + srcOffset, static_cast<std::size_t>(bits));
+    Detail::copyBits(bytes_.get(), length_, src.bytes_.get(), src.length_, bits, offset, srcOffset);
+    bool same = true;
+    for (std::size_t i = 0; i < count(); ++i) same &= spread[bytes_[i]] == model_[i];
+    if (same) return ::testing::AssertionSuccess();
+    return ::testing::AssertionFailure()
+           << bits << " bits from " << srcOffset << " of " << src.length_ << " bytes to " << offset
+           << " of " << length_ << " bytes";
+  }
+
+ private:
+  std::size_t count() const { return static_cast<std::size_t>(length_); }
+  U8* modelBits() const { return reinterpret_cast<U8*>(model_.get()); }
+
+  int length_;
+  std::unique_ptr<U8[]> bytes_;
+  std::unique_ptr<U64[]> model_;
+};
+
+/// How a view moves a field: to or from bit 0 of a value of `bytes` bytes.
+struct ValueKind {
+  int bytes;
+  int bitStep;  ///< the widths of such fields are multiples of this
+};
+
+std::ostream& operator<<(std::ostream& stream, const ValueKind& kind) {
+  return stream << kind.bytes << "bytes";
+}
+
+class ViewCopies : public testing::TestWithParam<ValueKind> {};
+
+TEST_P(ViewCopies, everyWidthAndOffsetOfEveryEntryLength) {
+  const auto [bytes, bitStep] = GetParam();
+  std::mt19937_64 random(1);
+  Buffer written(bytes);
+  Buffer read(bytes);
+  read.fill(random);
+  for (int length = 1; length <= 128; ++length) {
+    Buffer entry(length);
+    entry.fill(random);
+    for (int bits = bitStep; bits <= 8 * std::min(bytes, length); bits += bitStep) {
+      written.fill(random);
+      for (int offset = 0; offset + bits <= 8 * length; ++offset) {
+        ASSERT_TRUE(entry.copyFrom(written, bits, offset, 0));
+        ASSERT_TRUE(read.copyFrom(entry, bits, 0, offset));
+      }
+    }
+  }
+}
+
+// Scalars, raw data, and the nine words of a bitmap.
+INSTANTIATE_TEST_SUITE_P(CopyBits, ViewCopies,
+                         testing::Values(ValueKind{1, 1}, ValueKind{2, 1}, ValueKind{4, 1},
+                                         ValueKind{8, 1}, ValueKind{16, 1}, ValueKind{36, 4}),
+                         testing::PrintToStringParamName());
+
+TEST(CopyBits, anyOffsetsOfAnyBuffers) {
+  std::mt19937_64 random(3);
+  const auto below = [&random](int end) {
+    return static_cast<int>(random() % static_cast<U64>(end));
+  };
+  for (int round = 0; round < 200000; ++round) {
+    Buffer dst(1 + below(40));
+    Buffer src(1 + below(40));
+    dst.fill(random);
+    src.fill(random);
+    const int dstBits = 8 * dst.length();
+    const int srcBits = 8 * src.length();
+    const int bits = below(std::min(dstBits, srcBits) + 1);
+    ASSERT_TRUE(dst.copyFrom(src, bits, below(dstBits - bits + 1), below(srcBits - bits + 1)));
   }
 }
 
