@@ -1,0 +1,134 @@
+"""Runs the benchmarks and prints, for each figure, what was measured, its goal and pass or miss."""
+
+import argparse
+import json
+import pathlib
+import resource
+import subprocess
+import sys
+import tempfile
+
+# Benchmark, its floor, the most that the ratio may be.
+RATIOS = [
+    ("getter/one chip", "getter/floor", 1.75),
+    ("getter/mixed chips", "getter/floor", 1.75),
+    ("getter/other variants", "getter/floor", 1.75),
+    ("getter/port family", "getter/floor", 2.1),
+    ("getter/port family, mixed chips", "getter/floor", 2.1),
+    ("getter/exactly 3 bytes", "getter/floor", 3.5),
+    ("getter/exactly 48 bytes", "getter/floor", 3.5),
+    ("setter/one chip", "setter/floor", 2.2),
+    ("setter/mixed chips", "setter/floor", 2.2),
+    ("setter/other variants", "setter/floor", 2.2),
+    ("setter/port family", "setter/floor", 2.2),
+    ("setter/port family, mixed chips", "setter/floor", 2.2),
+    ("setter/exactly 3 bytes", "setter/floor", 4.2),
+    ("setter/exactly 48 bytes", "setter/floor", 4.2),
+    ("offset/one chip", "constant/floor", 1.3),
+    ("offset/mixed chips", "constant/floor", 1.3),
+    ("length/one chip", "constant/floor", 1.3),
+    ("length/mixed chips", "constant/floor", 1.3),
+    ("validity/one chip", "constant/floor", 1.3),
+    ("validity/mixed chips", "constant/floor", 1.3),
+    ("bitmap getter/136", "bitmap getter/floor 136", 2.4),
+    ("bitmap getter/272", "bitmap getter/floor 272", 2.4),
+    ("bitmap setter/136", "bitmap setter/floor 136", 3.7),
+    ("bitmap setter/272", "bitmap setter/floor 272", 3.7),
+    ("address/one chip", "address/floor", 1.7),
+    ("address/mixed chips", "address/floor", 2.0),
+    ("construction/one chip", "construction/floor", 1.2),
+    ("construction/mixed chips", "construction/floor", 1.2),
+    ("decode/8192 VLANs", "decode/floor", 1.5),
+    ("encode/8192 VLANs", "encode/floor", 1.9),
+    ("read back/8192 VLANs", "read back/floor", None),
+    ("walk/generic", "walk/floor", 2.0),
+    ("copy/routine 12", "copy/nothing 12", 1.6),
+    ("copy/routine 272", "copy/nothing 272", 5.0),
+]
+COPY_WIDTHS = [1, 3, 8, 12, 16, 24, 32, 33, 48, 57, 58, 64, 84, 128, 136, 200, 272]
+RATIOS += [(f"copy/routine {n}", f"copy/byte loop {n}", 1.0) for n in COPY_WIDTHS]
+RATIOS += [(f"copy/routine {n}", f"copy/bit loop {n}", None) for n in (12, 272)]
+
+MEGABYTE = 1e6
+
+
+def run_benchmarks(build, repetitions):
+    """The best time of one item, in nanoseconds, by benchmark; the best of several repetitions."""
+    command = [build / "bin/velmar-bench", "--benchmark_enable_random_interleaving=true",
+               f"--benchmark_repetitions={repetitions}", "--benchmark_min_time=0.01",
+               "--benchmark_format=json"]
+    report = json.loads(subprocess.run(command, check=True, stdout=subprocess.PIPE,
+                                       stderr=subprocess.DEVNULL).stdout)
+    best = {}
+    for line in report["benchmarks"]:
+        if line["run_type"] == "iteration":
+            time = 1e9 / line["items_per_second"]
+            best[line["name"]] = min(time, best.get(line["name"], time))
+    return best
+
+
+def stripped_size(library):
+    with tempfile.TemporaryDirectory() as folder:
+        stripped = pathlib.Path(folder) / "stripped"
+        subprocess.run(["strip", "-o", stripped, library], check=True)
+        return stripped.stat().st_size
+
+
+def parse_times(sources, repetitions=12):
+    """The least processor time, in milliseconds, that the compiler takes for each source."""
+    best = [float("inf")] * len(sources)
+    with tempfile.TemporaryDirectory() as folder:
+        source = pathlib.Path(folder) / "source.cpp"
+        for _ in range(repetitions):
+            for i, text in enumerate(sources):
+                source.write_text(text)
+                before = resource.getrusage(resource.RUSAGE_CHILDREN)
+                subprocess.run(["c++", "-std=c++17", "-fsyntax-only", "-Iinclude",
+                                "-Iplatform/include", source], check=True)
+                after = resource.getrusage(resource.RUSAGE_CHILDREN)
+                time = after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime
+                best[i] = min(best[i], 1e3 * time)
+    return best
+
+
+def rows_of(build, repetitions):
+    """(what, measured, goal or None, unit) of one run, and its raw figures."""
+    times = run_benchmarks(build, repetitions)
+    rows = [(f"{name} : {floor}", times[name] / times[floor], goal, "x")
+            for name, floor, goal in RATIOS]
+    rows.append(("trace line into a sink that discards it", times["trace line"], 150, "ns"))
+    size = stripped_size(build / "lib/libVelmarMetaInfo.so")
+    rows.append(("stripped library", size / MEGABYTE, 1.1, "MB"))
+    empty, headers, standard = parse_times(
+        ["", "#include <Velmar/MetaInfo.h>\n", "#include <vector>\n#include <string>\n"])
+    rows.append(("parse of all public headers : <vector> and <string>",
+                 (headers - empty) / (standard - empty), 1.0, "x"))
+    figures = {"nanoseconds": times, "libraryBytes": size,
+               "parseMilliseconds": {"empty": empty, "headers": headers, "standard": standard}}
+    return rows, figures
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--build", type=pathlib.Path, required=True)
+    parser.add_argument("--runs", type=int, default=1)
+    parser.add_argument("--repetitions", type=int, default=8)
+    options = parser.parse_args()
+
+    runs = [rows_of(options.build, options.repetitions) for _ in range(options.runs)]
+    missed = 0
+    for row, (what, _, goal, unit) in enumerate(runs[0][0]):
+        measured = [rows[row][1] for rows, _ in runs]
+        verdict = "" if goal is None else "pass" if max(measured) <= goal else "miss"
+        missed += verdict == "miss"
+        figures = " ".join(f"{value:8.2f}" for value in measured)
+        print(f"{what:60} {figures} {unit:2} {'' if goal is None else f'<= {goal}':8} {verdict}")
+    output = options.build / "bench.json"
+    output.write_text(json.dumps([
+        {"rows": [dict(zip(("what", "measured", "goal", "unit"), row)) for row in rows], **figures}
+        for rows, figures in runs], indent=1))
+    print(f"{missed} missed; figures in {output}")
+
+
+if __name__ == "__main__":
+    sys.exit(main())
