@@ -74,7 +74,7 @@
                 #CLASS ": a field ends beyond its entry");                                      \
   static_assert(Framework::Proofs::typesFitFields(list, layout),                                \
                 #CLASS ": a value type is too small for its field, or larger than it needs");   \
-  static_assert(Framework::Proofs::overlapsAreMarked(layout), #CLASS                            \
+  static_assert(Framework::Proofs::overlapsAreMarked(layout, columns), #CLASS                   \
                 ": two fields share bits and neither is marked alias, or an alias shares "      \
                 "none");                                                                        \
   static_assert(Framework::Proofs::rawTypeFits(rawWords, about.allFieldsBytes, chips),          \

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "framework/Names.h"
 #include "framework/TableData.h"
 
@@ -77,24 +79,41 @@ constexpr bool typesFitFields(const FieldEntry (&list)[fields], const FieldRows&
   return true;
 }
 
-constexpr bool sharesBits(BitRange a, BitRange b) {
-  return isPresent(a) && isPresent(b) && a.offset < endOf(b) && b.offset < endOf(a);
+/// The most bits of an entry that any raw type holds.
+constexpr U32 mostBits = 32 * 32;
+
+/// How many fields name each bit of a column.
+template <class FieldRows>
+constexpr std::array<U8, mostBits> namesOfBits(const FieldRows& fieldRows, U32 column,
+                                               bool countAliases) {
+  std::array<U8, mostBits> names{};
+  for (const auto& row : fieldRows) {
+    const BitRange range = row.ranges[column];
+    if (!isPresent(range) || (row.overlap == Overlap::marked && !countAliases)) continue;
+    for (U32 bit = range.offset; bit < endOf(range) && bit < mostBits; ++bit) ++names[bit];
+  }
+  return names;
 }
 
 /// No two unmarked fields share a bit, and every marked one does share bits with another.
 template <class FieldRows>
-constexpr bool overlapsAreMarked(const FieldRows& fieldRows) {
+constexpr bool overlapsAreMarked(const FieldRows& fieldRows, U32 columns) {
+  for (U32 column = 0; column < columns; ++column) {
+    for (const U8 names : namesOfBits(fieldRows, column, false)) {
+      if (names > 1) return false;
+    }
+  }
   for (const auto& row : fieldRows) {
-    bool overlaps = false;
-    for (const auto& other : fieldRows) {
-      if (&other == &row) continue;
-      for (U32 column = 0; column < sizeof(row.ranges) / sizeof(row.ranges[0]); ++column) {
-        if (!sharesBits(row.ranges[column], other.ranges[column])) continue;
-        overlaps = true;
-        if (row.overlap == Overlap::disjoint && other.overlap == Overlap::disjoint) return false;
+    bool shares = row.overlap == Overlap::disjoint;
+    for (U32 column = 0; column < columns && !shares; ++column) {
+      const BitRange range = row.ranges[column];
+      if (!isPresent(range)) continue;
+      const auto names = namesOfBits(fieldRows, column, true);
+      for (U32 bit = range.offset; bit < endOf(range) && bit < mostBits; ++bit) {
+        shares = shares || names[bit] > 1;
       }
     }
-    if (row.overlap == Overlap::marked && !overlaps) return false;
+    if (!shares) return false;
   }
   return true;
 }
