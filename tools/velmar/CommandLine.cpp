@@ -15,7 +15,7 @@
 namespace Tool {
 namespace {
 
-std::string seeHelp(const Verb& verb) { return fmt::format("see \"velmar {} --help\"", verb.name); }
+std::string seeHelp(const Verb& verb) { return formatText("see \"velmar {} --help\"", verb.name); }
 
 void declare(CLI::App& app, const Option& option, Arguments& arguments) {
   if (option.flag != nullptr) {
@@ -120,7 +120,7 @@ int runCommandLine(int count, char** words) {
     return printAll(overview());
   }
   if (first == "help") return printAll(helpOf(findVerb(words[2])));
-  if (first == "--version") return printAll(fmt::format("velmar {}\n", VELMAR_VERSION));
+  if (first == "--version") return printAll(formatText("velmar {}\n", VELMAR_VERSION));
   // For the build and for the shell, not for people.
   if (first == "__man") return printAll(manPage());
   if (first == "__complete") return complete({words + 2, words + count});

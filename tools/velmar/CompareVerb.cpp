@@ -46,8 +46,8 @@ class Comparison {
   static Cell sizeText(const Pair& pair, const Geometry& geometry) {
     if (geometry.width == 0) return nullptr;
     const bool isArray = pair.table.kind() == Catalogue::Kind::registerArray;
-    return fmt::format("{} x {} bytes at {}", isArray ? geometry.arrayElements : geometry.entries,
-                       4 * geometry.width, addressText(geometry.base));
+    return formatText("{} x {} bytes at {}", isArray ? geometry.arrayElements : geometry.entries,
+                      4 * geometry.width, addressText(geometry.base));
   }
 
   void compareNumber(const Pair& pair, const char* part, U32 Geometry::*member) {

@@ -142,7 +142,7 @@ std::vector<std::string> strayBits(const Layout& layout, const U8* bytes) {
     if (!isStray(bit)) continue;
     const U32 first = bit;
     while (bit + 1 < bits && isStray(bit + 1)) ++bit;
-    ranges.push_back(first == bit ? fmt::format("{}", bit) : fmt::format("{}:{}", bit, first));
+    ranges.push_back(first == bit ? formatText("{}", bit) : formatText("{}:{}", bit, first));
   }
   return ranges;
 }

@@ -68,7 +68,7 @@ class Row {
     }
     for (const Piece& piece : pieces) put(line, piece);
     const std::string margin =
-        isFirstLane ? fmt::format("{:>4} {:>3}", (row_ + 1) * rowBits - 1, "") : std::string();
+        isFirstLane ? formatText("{:>4} {:>3}", (row_ + 1) * rowBits - 1, "") : std::string();
     line.erase(line.find_last_not_of(' ') + 1);
     output_.print("{:<{}}{}", margin, marginColumns, line);
     if (isFirstLane) output_.print(" {}", row_ * rowBits);
@@ -101,7 +101,7 @@ class Row {
     static const std::string letters =
         "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
     const char letter = letters[legend_.size() % letters.size()];
-    legend_.push_back(fmt::format("{} = {} [{}]", letter, place.name(), place.bits()));
+    legend_.push_back(formatText("{} = {} [{}]", letter, place.name(), place.bits()));
     return std::string(1, letter);
   }
 

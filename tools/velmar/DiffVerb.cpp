@@ -5,6 +5,7 @@
 #include "IndexSet.h"
 #include "Progress.h"
 #include "Target.h"
+#include "Text.h"
 #include "Value.h"
 #include "Verb.h"
 
@@ -42,6 +43,7 @@ struct Change {
   std::string name;
   std::string bits;
   std::string oldText, newText;
+  std::string oldPlain, newPlain;  ///< for spreadsheets
   std::string oldJson, newJson;
   std::string note;  ///< for a bitmap the ports that came and went
 };
@@ -49,18 +51,18 @@ struct Change {
 std::string valueText(const FieldPlace& place, const Value& value) {
   if (place.isBitmap()) return value.portRanges();
   const std::optional<U64> number = value.number();
-  return number ? fmt::format("{} ({})", value.hex(), *number) : value.hex();
+  return number ? formatText("{} ({})", value.hex(), *number) : value.hex();
 }
 
 std::string valueJson(const FieldPlace& place, const Value& value) {
-  std::string json = fmt::format(R"({{"hex":"{}")", value.hex());
+  std::string json = formatText(R"({{"hex":"{}")", value.hex());
   if (place.isBitmap()) {
     const Oru::PerUnitBitmap ports = value.ports();
     std::vector<U32> list;
     for (const U32 port : ports) list.push_back(port);
-    json += fmt::format(R"(,"ports":[{}])", fmt::join(list, ","));
+    json += formatText(R"(,"ports":[{}])", joinNumbers(list, ","));
   } else if (isExactInJson(place.width)) {
-    json += fmt::format(R"(,"decimal":{})", *value.number());
+    json += formatText(R"(,"decimal":{})", *value.number());
   }
   return json + "}";
 }
@@ -92,8 +94,8 @@ class Comparison {
       const Value now = Value::read(place, after, size);
       if (old == now) continue;
       changes.push_back({place.name(), place.bits(), valueText(place, old), valueText(place, now),
-                         valueJson(place, old), valueJson(place, now),
-                         place.isBitmap() ? portNote(old, now) : ""});
+                         plainText(place, old), plainText(place, now), valueJson(place, old),
+                         valueJson(place, now), place.isBitmap() ? portNote(old, now) : ""});
     }
     if (comparesAll_) addOutside(changes, before, after);
     return changes;
@@ -113,8 +115,9 @@ class Comparison {
     const std::string old = bitsOutside(layout_, before);
     const std::string now = bitsOutside(layout_, after);
     if (old == now) return;
-    changes.push_back({"outsideFields", "", old, now, fmt::format(R"({{"hex":"{}"}})", old),
-                       fmt::format(R"({{"hex":"{}"}})", now), ""});
+    changes.push_back({"outsideFields", "", old, now, old, now,
+                       formatText(R"({{"hex":"{}"}})", old), formatText(R"({{"hex":"{}"}})", now),
+                       ""});
   }
 
   const Layout& layout_;
@@ -135,8 +138,8 @@ class Report {
     if (format_ == Format::table) return changedTable(index, changes);
     if (format_ == Format::csv) {
       for (const Change& change : changes) {
-        output_.print("{},changed,{},{},{}\n", index, change.name, csvField(change.oldText),
-                      csvField(change.newText));
+        output_.print("{},changed,{},{},{}\n", index, change.name, csvField(change.oldPlain),
+                      csvField(change.newPlain));
       }
       return;
     }

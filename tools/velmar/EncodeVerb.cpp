@@ -115,7 +115,7 @@ class Values {
   /// The next entry of the document; null at its end.
   const JsonInput::Part* part() const { return hasPart_ ? &part_ : nullptr; }
   void takePart() { hasPart_ = document_->next(part_); }
-  std::string place() const { return fmt::format("{}:{}", document_->name(), document_->line()); }
+  std::string place() const { return formatText("{}:{}", document_->name(), document_->line()); }
 
  private:
   void read(const std::string& path) {

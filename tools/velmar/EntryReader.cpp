@@ -45,8 +45,8 @@ U32 strideOf(const InputOptions& options, const Layout& layout) {
 }
 
 std::string entrySizeText(U32 stride, const Layout& layout) {
-  if (stride != layout.entryBytes()) return fmt::format("{}, the stride", stride);
-  return fmt::format("{}, an entry of {} on {}", stride, layout.name(), layout.chip().name);
+  if (stride != layout.entryBytes()) return formatText("{}, the stride", stride);
+  return formatText("{}, an entry of {} on {}", stride, layout.name(), layout.chip().name);
 }
 
 std::unique_ptr<EntryReader> openEntries(const std::string& path, const Layout& layout,

@@ -1,9 +1,8 @@
 #include "EntryWriter.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstring>
-
-#include "Value.h"
 
 namespace Tool {
 namespace {
@@ -35,16 +34,16 @@ class TableWriter : public EntryWriter {
     const Value value = Value::read(place, bytes, layout_.entryBytes());
     std::string text = value.hex();
     if (place.isBitmap()) {
-      text = fmt::format("{:<{}}  ports {}", text, hexWidth_, value.portRanges());
+      text = formatText("{:<{}}  ports {}", text, hexWidth_, value.portRanges());
     } else if (value.number()) {
-      text = fmt::format("{:<{}}  {}", text, hexWidth_, *value.number());
+      text = formatText("{:<{}}  {}", text, hexWidth_, *value.number());
     }
     writeLine(place.name(), place.bits(), text, value.isZero() ? Style::faint : Style::plain);
   }
 
   void writeLine(const std::string& name, const std::string& bits, const std::string& value,
                  Style style) {
-    const std::string head = fmt::format("  {:<{}}  {:>{}}  ", name, nameWidth_, bits, bitsWidth_);
+    const std::string head = formatText("  {:<{}}  {:>{}}  ", name, nameWidth_, bits, bitsWidth_);
     if (output_.columns() == 0) return finishLine(head + value, style);
     constexpr size_t narrowest = 20;
     const size_t room =
@@ -75,8 +74,8 @@ char* append(char* at, std::string_view text) {
 }
 
 char* appendDecimal(char* at, U64 number) {
-  const fmt::format_int digits(number);
-  return append(at, {digits.data(), digits.size()});
+  constexpr size_t longestNumber = 20;
+  return std::to_chars(at, at + longestNumber, number).ptr;
 }
 
 char* appendHex(char* at, U64 number) {
@@ -94,22 +93,24 @@ class JsonWriter : public EntryWriter {
     const bool allFields = fields.size() == layout.fields().size();
     checksOutside_ = allFields;
     if (asLines_) {
-      lineHead_ = fmt::format(R"({{"table":"{}","chip":"{}","variant":{},"index":)", layout.name(),
-                              layout.chip().name, layout.variant());
+      lineHead_ = formatText(R"({{"table":"{}","chip":"{}","variant":{},"index":)", layout.name(),
+                             layout.chip().name, layout.variant());
     } else {
       lineHead_ = R"({"index":)";
     }
-    addressTail_ = fmt::format(R"(,"accessType":{},"block":{},"fields":{{)",
-                               layout.geometry().accessType, layout.geometry().block);
+    addressTail_ = formatText(R"(,"accessType":{},"block":{},"fields":{{)",
+                              layout.geometry().accessType, layout.geometry().block);
     constexpr size_t numbers = 80;
-    longestEntry_ = lineHead_.size() + addressTail_.size() + numbers + 2 * layout.entryBytes();
+    size_t longestEntry =
+        lineHead_.size() + addressTail_.size() + numbers + 2 * layout.entryBytes();
     for (FieldPlace& place : fields) {
       const std::string key =
-          fmt::format(R"({}"{}":{{"hex":"0x)", fields_.empty() ? "" : ",", place.name());
+          formatText(R"({}"{}":{{"hex":"0x)", fields_.empty() ? "" : ",", place.name());
       constexpr size_t digitsOfPort = 5;
-      longestEntry_ += key.size() + numbers + place.width / 4 + digitsOfPort * place.width;
+      longestEntry += key.size() + numbers + place.width / 4 + digitsOfPort * place.width;
       fields_.push_back({place, key});
     }
+    text_.resize(longestEntry);
   }
 
   void begin() override {
@@ -119,11 +120,8 @@ class JsonWriter : public EntryWriter {
   void write(const Entry& entry) override {
     if (!asLines_) output_.write(isFirst_ ? "\n" : ",\n");
     isFirst_ = false;
-    fmt::memory_buffer& text = output_.text();
-    const size_t size = text.size();
-    text.reserve(size + longestEntry_);
-    const char* end = writeEntry(text.data() + size, entry);
-    text.resize(static_cast<size_t>(end - text.data()));
+    const char* end = writeEntry(text_.data(), entry);
+    output_.write({text_.data(), static_cast<size_t>(end - text_.data())});
     if (asLines_) output_.write("\n");
   }
 
@@ -138,15 +136,15 @@ class JsonWriter : public EntryWriter {
   };
 
   std::string documentHead() const {
-    std::string text = fmt::format(
+    std::string text = formatText(
         R"({{"format":"velmar-entries","version":1,"table":"{}","chip":"{}","variant":{},)"
         R"("entryBytes":{},"layout":{{)",
         layout_.name(), layout_.chip().name, layout_.variant(), layout_.entryBytes());
     for (const JsonField& field : fields_) {
       const FieldPlace& place = field.place;
       text +=
-          fmt::format(R"({}"{}":{{"offset":{},"width":{}}})", &field == &fields_.front() ? "" : ",",
-                      place.name(), place.offset, place.width);
+          formatText(R"({}"{}":{{"offset":{},"width":{}}})", &field == &fields_.front() ? "" : ",",
+                     place.name(), place.offset, place.width);
     }
     return text + R"(},"entries":[)";
   }
@@ -217,7 +215,7 @@ class JsonWriter : public EntryWriter {
   bool checksOutside_;
   std::string lineHead_;
   std::string addressTail_;
-  size_t longestEntry_;
+  std::vector<char> text_;  ///< of one entry, as long as it can get
   std::vector<JsonField> fields_;
 };
 
@@ -240,13 +238,7 @@ class CsvWriter : public EntryWriter {
                   address.accessType, address.block);
     for (const FieldPlace& place : fields_) {
       const Value value = Value::read(place, entry.bytes, layout_.entryBytes());
-      if (place.isBitmap()) {
-        output_.print(",{}", csvField(value.portRanges()));
-      } else if (isExactInJson(place.width)) {
-        output_.print(",{}", *value.number());
-      } else {
-        output_.print(",{}", value.hex());
-      }
+      output_.print(",{}", csvField(plainText(place, value)));
     }
     output_.write("\n");
   }
@@ -261,11 +253,16 @@ class CsvWriter : public EntryWriter {
 
 }  // namespace
 
+std::string plainText(const FieldPlace& place, const Value& value) {
+  if (place.isBitmap()) return value.portRanges();
+  return isExactInJson(place.width) ? formatText("{}", *value.number()) : value.hex();
+}
+
 std::string entryAsHex(const std::vector<U8>& entry) {
   std::string digits;
   for (size_t i = entry.size(); i-- > 0;) {
     if (digits.empty() && entry[i] == 0) continue;
-    digits += digits.empty() ? fmt::format("{:x}", entry[i]) : fmt::format("{:02x}", entry[i]);
+    digits += digits.empty() ? formatText("{:x}", entry[i]) : formatText("{:02x}", entry[i]);
   }
   return "0x" + (digits.empty() ? "0" : digits);
 }
@@ -277,7 +274,7 @@ std::string bitsOutside(const Layout& layout, const U8* entry) {
 }
 
 void writeEntryHead(Output& output, const Layout& layout, U64 index) {
-  output.write(fmt::format("{} {}", layout.name(), index), Style::strong);
+  output.write(formatText("{} {}", layout.name(), index), Style::strong);
   if (index < layout.indexCount()) {
     const Address address = layout.addressOf(static_cast<U32>(index));
     output.print("  address {}  access {}  block {}\n", addressText(address.address),

@@ -4,6 +4,7 @@
 
 #include "EntryReader.h"
 #include "Listing.h"
+#include "Value.h"
 
 namespace Tool {
 
@@ -24,6 +25,9 @@ std::unique_ptr<EntryWriter> makeEntryWriter(Output& output, const Layout& layou
 
 /// Whether a decimal number of so many bits is exact in every JSON reader.
 constexpr bool isExactInJson(U32 bits) { return bits <= 53; }
+
+/// A value for spreadsheets: decimal where that is exact, bitmaps as ports.
+std::string plainText(const FieldPlace& place, const Value& value);
 
 /// The bits of an entry outside all fields, as a hexadecimal number of the whole entry.
 std::string bitsOutside(const Layout& layout, const U8* entry);

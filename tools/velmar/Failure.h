@@ -1,10 +1,10 @@
 #pragma once
 
-#include <fmt/format.h>
-
 #include <stdexcept>
 #include <string>
 #include <utility>
+
+#include "Formatting.h"
 
 namespace Tool {
 
@@ -17,7 +17,7 @@ class Failure : public std::runtime_error {
 
 template <class... Arguments>
 [[noreturn]] void fail(fmt::format_string<Arguments...> text, Arguments&&... arguments) {
-  throw Failure(fmt::format(text, std::forward<Arguments>(arguments)...));
+  throw Failure(formatText(text, std::forward<Arguments>(arguments)...));
 }
 
 constexpr int exitSuccess = 0;

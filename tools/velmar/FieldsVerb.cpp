@@ -31,7 +31,7 @@ class FieldPattern {
 };
 
 Listing matchingFields(const FieldPattern& pattern) {
-  Listing listing({"field", "hardware name", "id", "table", "type", "chips"});
+  Listing listing({"field", "hardwareName", "id", "table", "type", "chips"});
   for (U32 i = 0; i < Catalogue::tableCount(); ++i) {
     const Catalogue::Table table = Catalogue::table(i);
     const size_t tableChips = chipsOf(table).size();

@@ -1,6 +1,6 @@
 #include "Help.h"
 
-#include <fmt/format.h>
+#include "Formatting.h"
 
 #include "Listing.h"
 #include "Text.h"
@@ -47,7 +47,7 @@ const char* const exitCodeText =
 
 std::string headingOf(const Option& option) {
   std::string heading = join(split(option.names, ','), ", ");
-  if (option.value != nullptr) heading += fmt::format(" {}", option.value);
+  if (option.value != nullptr) heading += formatText(" {}", option.value);
   return heading;
 }
 
@@ -58,17 +58,17 @@ std::string meaningOf(const Option& option) {
 }
 
 std::string usageOf(const Verb& verb) {
-  std::string usage = fmt::format("velmar {}", verb.name);
+  std::string usage = formatText("velmar {}", verb.name);
   std::string last;
   for (const Positional& positional : verb.positionals) {
     const std::string name = positional.required ? positional.value
                              : positional.proposal == Proposal::assignments
-                                 ? fmt::format("[{}...]", positional.value)
-                                 : fmt::format("[{}]", positional.value);
+                                 ? formatText("[{}...]", positional.value)
+                                 : formatText("[{}]", positional.value);
     (positional.proposal == Proposal::tables ? usage : last) += " " + name;
   }
   for (const Option& option : verb.options) {
-    if (option.required) usage += fmt::format(" {} {}", option.longName(), option.value);
+    if (option.required) usage += formatText(" {} {}", option.longName(), option.value);
   }
   return usage + " [OPTION...]" + last;
 }
@@ -96,7 +96,7 @@ std::string helpOf(const Verb& verb) {
   }
   text += item("-h, --help", "print this help", headingWidth);
   text += "\n" + paragraph(exitCodeText) + "\nExamples:\n";
-  for (const char* example : verb.examples) text += fmt::format("  {}\n", example);
+  for (const char* example : verb.examples) text += formatText("  {}\n", example);
   return text;
 }
 

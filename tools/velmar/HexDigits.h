@@ -18,7 +18,7 @@ struct Place {
 
   template <class... Arguments>
   [[noreturn]] void fail(fmt::format_string<Arguments...> text, Arguments&&... arguments) const {
-    Tool::fail("{}:{}: {}", file, line, fmt::format(text, std::forward<Arguments>(arguments)...));
+    Tool::fail("{}:{}: {}", file, line, formatted(text, fmt::make_format_args(arguments...)));
   }
 };
 

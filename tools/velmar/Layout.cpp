@@ -6,7 +6,7 @@
 namespace Tool {
 
 std::string FieldPlace::bits() const {
-  return width == 1 ? fmt::format("{}", offset) : fmt::format("{}:{}", lastBit(), offset);
+  return width == 1 ? formatText("{}", offset) : formatText("{}:{}", lastBit(), offset);
 }
 
 Layout::Layout(const Catalogue::Table& table, const Catalogue::Chip& chip, U8 variant)
@@ -62,9 +62,9 @@ bool Layout::hasBitsOutside(const U8* entry) const {
 std::string blockText(U32 block) {
   if (block == 1) return "1 (ingress)";
   if (block == 2) return "2 (egress)";
-  return fmt::format("{}", block);
+  return formatText("{}", block);
 }
 
-std::string addressText(U32 address) { return fmt::format("0x{:08x}", address); }
+std::string addressText(U32 address) { return formatText("0x{:08x}", address); }
 
 }  // namespace Tool

@@ -14,7 +14,7 @@ Listing fieldListing(const Layout& layout) {
   std::stable_sort(places.begin(), places.end(),
                    [](const FieldPlace& a, const FieldPlace& b) { return a.offset < b.offset; });
   Listing listing(
-      {"field", "bits", "offset", "width", "type", "hardware name", "id", "overlaps", "meaning"});
+      {"field", "bits", "offset", "width", "type", "hardwareName", "id", "overlaps", "meaning"});
   for (const FieldPlace& place : places) {
     const bool overlaps = place.field.overlaps;
     listing.add({place.name(), place.bits(), place.offset, place.width,
@@ -28,10 +28,10 @@ Listing fieldListing(const Layout& layout) {
 std::string addressRule(const Layout& layout) {
   const Catalogue::Geometry& geometry = layout.geometry();
   std::string rule = addressText(geometry.base);
-  rule += layout.isRegisterArray() ? fmt::format(" + element * {}", geometry.addrStride)
+  rule += layout.isRegisterArray() ? formatText(" + element * {}", geometry.addrStride)
                                    : std::string(" + index");
   if (geometry.identifiers > 1 && geometry.identifierTerm != 0) {
-    rule += fmt::format(" + identifier * {}", geometry.identifierTerm);
+    rule += formatText(" + identifier * {}", geometry.identifierTerm);
   }
   return rule;
 }
@@ -51,7 +51,7 @@ Listing geometryListing(const Layout& layout) {
 
 void printHead(Output& output, const Layout& layout) {
   const Catalogue::Geometry& geometry = layout.geometry();
-  output.write(fmt::format("{} on {}", layout.name(), layout.chip().name), Style::strong);
+  output.write(formatText("{} on {}", layout.name(), layout.chip().name), Style::strong);
   output.print(": {}\n", layout.table().purpose());
   output.print("  entry     {} bytes ({} words), {} fields\n", layout.entryBytes(), geometry.width,
                geometry.fieldCount);

@@ -58,12 +58,12 @@ Format formatOf(const std::string& name) {
 }
 
 Cell::Cell(const std::string& value) : json_(nlohmann::json(value).dump()), text_(value) {}
-Cell::Cell(U32 value) : json_(fmt::format("{}", value)), text_(json_) {}
+Cell::Cell(U32 value) : json_(formatText("{}", value)), text_(json_) {}
 Cell::Cell(bool value) : json_(value ? "true" : "false"), text_(value ? "yes" : "no") {}
 Cell::Cell(const std::vector<std::string>& list)
     : json_(nlohmann::json(list).dump()), text_(join(list, " ")) {}
 Cell::Cell(const std::vector<U32>& list)
-    : json_(nlohmann::json(list).dump()), text_(fmt::format("{}", fmt::join(list, " "))) {}
+    : json_(nlohmann::json(list).dump()), text_(joinNumbers(list, " ")) {}
 
 Cell Cell::shownAs(std::string text) && {
   text_ = std::move(text);
@@ -97,8 +97,8 @@ std::string csvField(const std::string& text) {
 std::string Listing::rowAsJson(const std::vector<Cell>& row) const {
   std::string object = "{";
   for (size_t i = 0; i < columns_.size(); ++i) {
-    object += fmt::format("{}{}:{}", i == 0 ? "" : ",", nlohmann::json(columns_[i]).dump(),
-                          row[i].json());
+    object +=
+        formatText("{}{}:{}", i == 0 ? "" : ",", nlohmann::json(columns_[i]).dump(), row[i].json());
   }
   return object + "}";
 }

@@ -1,11 +1,10 @@
 #pragma once
 
-#include <fmt/format.h>
-
 #include <string>
 #include <string_view>
 
 #include "AsicUtils/Types.h"
+#include "Formatting.h"
 
 namespace Tool {
 
@@ -21,12 +20,11 @@ class Output {
   Output(const Output&) = delete;
   Output& operator=(const Output&) = delete;
 
-  /// Text is appended here; a loop that writes much calls flushIfLarge() between its items.
-  fmt::memory_buffer& text() { return text_; }
+  /// A loop that writes much calls flushIfLarge() between its items.
   void write(std::string_view piece) { text_.append(piece); }
   template <class... Arguments>
   void print(fmt::format_string<Arguments...> format, Arguments&&... arguments) {
-    fmt::format_to(std::back_inserter(text_), format, std::forward<Arguments>(arguments)...);
+    appendFormatted(text_, format, fmt::make_format_args(arguments...));
   }
   /// Writes the piece in a style, where colours are on.
   void write(std::string_view piece, Style style);
@@ -54,7 +52,7 @@ class Output {
   bool terminal_;
   bool colored_;
   U32 columns_ = 0;
-  fmt::memory_buffer text_;
+  std::string text_;
 };
 
 /// Ctrl-C, a hang-up or a closed pipe ends the command at once and without a word; an incomplete

@@ -30,7 +30,7 @@ Listing tablesOf(const Catalogue::Chip& chip) {
 /// "64", or "12-64" where chips differ.
 Cell spread(const std::set<U32>& numbers) {
   if (numbers.size() == 1) return *numbers.begin();
-  const std::string text = fmt::format("{}-{}", *numbers.begin(), *numbers.rbegin());
+  const std::string text = formatText("{}-{}", *numbers.begin(), *numbers.rbegin());
   return Cell(std::vector<U32>(numbers.begin(), numbers.end())).shownAs(text);
 }
 

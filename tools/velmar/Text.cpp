@@ -51,6 +51,12 @@ std::string join(const std::vector<std::string>& parts, std::string_view separat
   return text;
 }
 
+std::string joinNumbers(const std::vector<U32>& numbers, std::string_view separator) {
+  std::vector<std::string> parts;
+  for (const U32 number : numbers) parts.push_back(std::to_string(number));
+  return join(parts, separator);
+}
+
 std::string inQuotes(std::string_view text) {
   constexpr size_t longest = 60;
   std::string safe = "\"";

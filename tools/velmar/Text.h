@@ -18,6 +18,8 @@ std::optional<U64> parseNumber(std::string_view text);
 std::vector<std::string> split(std::string_view text, char separator);
 std::string join(const std::vector<std::string>& parts, std::string_view separator);
 
+std::string joinNumbers(const std::vector<U32>& numbers, std::string_view separator);
+
 std::string_view trim(std::string_view text);
 bool isBlank(char letter);
 

@@ -8,7 +8,7 @@ namespace Tool {
 namespace {
 
 [[noreturn]] void failTooLarge(const FieldPlace& place, std::string_view text) {
-  const std::string digits = fmt::format("{:x}", (1U << ((place.width - 1) % 4 + 1)) - 1) +
+  const std::string digits = formatText("{:x}", (1U << ((place.width - 1) % 4 + 1)) - 1) +
                              std::string((place.width - 1) / 4, 'f');
   fail("{}: value {} does not fit; the field has {} bit{}, its largest value is 0x{}", place.name(),
        inQuotes(text), place.width, place.width == 1 ? "" : "s", digits);
@@ -87,7 +87,7 @@ std::string Value::hexDigits() const {
   std::string digits;
   for (U32 i = wordCount(); i-- > 0;) {
     if (digits.empty() && words_[i] == 0) continue;
-    digits += digits.empty() ? fmt::format("{:x}", words_[i]) : fmt::format("{:08x}", words_[i]);
+    digits += digits.empty() ? formatText("{:x}", words_[i]) : formatText("{:08x}", words_[i]);
   }
   return digits.empty() ? "0" : digits;
 }
@@ -137,8 +137,8 @@ U64 readScalar(const FieldPlace& place, const U8* entry, U32 entryBytes) {
 
 Value makeValue(const FieldPlace& place, U64 number) {
   Value value(place.width);
-  if (!value.setHexDigits(fmt::format("{:x}", number))) {
-    failTooLarge(place, fmt::format("{}", number));
+  if (!value.setHexDigits(formatText("{:x}", number))) {
+    failTooLarge(place, formatText("{}", number));
   }
   return value;
 }

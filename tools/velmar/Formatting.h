@@ -1,0 +1,19 @@
+#pragma once
+
+#include <fmt/core.h>
+
+#include <string>
+#include <utility>
+
+namespace Tool {
+
+/// Where all formatting is done: the one file that compiles the formatting library.
+std::string formatted(fmt::string_view text, fmt::format_args arguments);
+void appendFormatted(std::string& to, fmt::string_view text, fmt::format_args arguments);
+
+template <class... Arguments>
+std::string formatText(fmt::format_string<Arguments...> text, Arguments&&... arguments) {
+  return formatted(text, fmt::make_format_args(arguments...));
+}
+
+}  // namespace Tool
