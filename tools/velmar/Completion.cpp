@@ -131,8 +131,9 @@ int complete(const std::vector<std::string>& words) {
   const std::string start = simplified(word.substr(kept.size()));
   for (const std::string& proposal : all) {
     const bool isOption = word.rfind('-', 0) == 0;
-    const bool fits =
-        isOption ? proposal.rfind(word, 0) == 0 : simplified(proposal).rfind(start, 0) == 0;
+    const std::string simple = simplified(proposal);
+    const bool isSimilar = simple.rfind(start, 0) == 0 || simple.rfind("bcm" + start, 0) == 0;
+    const bool fits = isOption ? proposal.rfind(word, 0) == 0 : isSimilar;
     if (fits) std::printf("%s%s\n", kept.c_str(), proposal.c_str());
   }
   return exitSuccess;

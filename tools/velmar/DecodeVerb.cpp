@@ -90,7 +90,7 @@ class Walk {
       if (entry.index > selection_.last() && reader_->isAscending()) break;
       if (!selection_.has(entry)) continue;
       ++selected_;
-      if (entry.index >= layout_.indexCount()) ++beyond_;
+      goesBeyond_ = goesBeyond_ || entry.index >= layout_.indexCount();
       return true;
     }
     return false;
@@ -98,12 +98,10 @@ class Walk {
 
   /// Tells of what the result does not show.
   void report() const {
-    if (beyond_ != 0) {
+    if (goesBeyond_) {
       std::fprintf(stderr,
-                   "velmar: note: %llu of the entries lie beyond the %u of %s on %s; check table "
-                   "and chip\n",
-                   static_cast<unsigned long long>(beyond_), layout_.indexCount(), layout_.name(),
-                   layout_.chip().name);
+                   "velmar: note: the dump goes on behind the end of %s on %s (%u entries)\n",
+                   layout_.name(), layout_.chip().name, layout_.indexCount());
     }
     if (selected_ == 0 && selection_.isByIndex()) {
       std::fprintf(stderr, "velmar: note: no entry of the dump has such an index\n");
@@ -116,7 +114,7 @@ class Walk {
   std::unique_ptr<EntryReader> reader_;
   Progress progress_;
   U64 selected_ = 0;
-  U64 beyond_ = 0;
+  bool goesBeyond_ = false;
 };
 
 int decode(const Arguments& arguments, const Layout& layout, Output& output) {

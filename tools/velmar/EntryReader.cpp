@@ -10,16 +10,21 @@ namespace {
 
 constexpr size_t headBytes = 16;
 
+/// Whether a dump is text: its first bytes are ASCII, and no control character follows.
 bool isText(std::string_view head) {
-  return std::all_of(head.begin(), head.end(), [](char letter) {
-    return (letter >= ' ' && letter <= '~') || isBlank(letter) || letter == '\n';
-  });
+  const auto isForeign = [](char letter) { return static_cast<U8>(letter) >= 0x80; };
+  const auto isControl = [](char letter) {
+    return static_cast<U8>(letter) < ' ' && !isBlank(letter) && letter != '\n';
+  };
+  const std::string_view start = head.substr(0, headBytes);
+  return std::none_of(start.begin(), start.end(), isForeign) &&
+         std::none_of(head.begin(), head.end(), isControl);
 }
 
-/// Whether a line starts as those of xxd do: an offset of at least 7 digits, and a colon.
+/// Whether a line starts as those of xxd do: an offset of 7 to 16 digits, and a colon.
 bool startsWithOffset(std::string_view text) {
   const size_t digits = text.find_first_not_of("0123456789abcdefABCDEF");
-  return digits != std::string_view::npos && digits >= 7 && text[digits] == ':';
+  return digits != std::string_view::npos && digits >= 7 && digits <= 16 && text[digits] == ':';
 }
 
 std::string detectFormat(ByteStream& stream) {

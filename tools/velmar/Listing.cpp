@@ -9,17 +9,17 @@ namespace Tool {
 namespace {
 
 constexpr size_t gap = 2;
-constexpr size_t narrowest = 12;
+constexpr size_t narrowest = 4;
 
 /// Narrows the widest columns until the table fits.
 void fit(std::vector<size_t>& widths, size_t columns) {
   if (columns == 0) return;
-  for (;;) {
-    size_t total = gap * (widths.size() - 1);
-    for (const size_t width : widths) total += width;
-    const auto widest = std::max_element(widths.begin(), widths.end());
-    if (total <= columns || *widest <= narrowest) return;
-    *widest = std::max(narrowest, *widest - std::min(*widest, total - columns));
+  size_t total = gap * (widths.size() - 1);
+  for (const size_t width : widths) total += width;
+  for (; total > columns; --total) {
+    size_t& widest = *std::max_element(widths.begin(), widths.end());
+    if (widest <= narrowest) return;
+    --widest;
   }
 }
 

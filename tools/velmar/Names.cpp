@@ -66,7 +66,9 @@ std::string didYouMean(std::string_view name, const std::vector<std::string>& ca
   std::vector<std::pair<size_t, std::string>> near;
   for (const std::string& candidate : candidates) {
     const std::string other = simplified(candidate);
-    size_t steps = std::min(distance(simple, other), distance(simple, withoutSuffix(other)));
+    const std::string start = other.substr(0, std::max(simple.size(), other.size() / 2));
+    size_t steps = std::min(
+        {distance(simple, other), distance(simple, withoutSuffix(other)), distance(simple, start)});
     if (steps > farthest && other.find(simple) != std::string::npos) steps = farthest;
     if (steps <= farthest) near.emplace_back(steps, candidate);
   }

@@ -50,7 +50,7 @@ Option variant() {
   return textOption("--variant", "N", "table variant, 0 to 255 (default 0)", &Arguments::variant);
 }
 Option format(std::vector<std::string> choices) {
-  return choiceOption("-f,--format", "FORMAT", "form of the result (default: the first)",
+  return choiceOption("-f,--format", "FORMAT", "form of the result, by default the first",
                       &Arguments::format, std::move(choices));
 }
 Option listFormat() { return format({"table", "json", "jsonl", "csv"}); }

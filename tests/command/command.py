@@ -1,0 +1,58 @@
+"""What the tests of the command share: running it, golden layouts, collecting failures."""
+
+import collections
+import csv
+import os
+import subprocess
+import sys
+
+source, build = sys.argv[1:3]
+program = os.path.join(build, "bin", "velmar")
+failures = []
+checks = 0
+
+Field = collections.namedtuple("Field", "name type offset width")
+Table = collections.namedtuple("Table", "name chip entry_bytes count base access block fields")
+
+
+def run(*arguments, data=b"", timeout=60, **options):
+    """Runs velmar; returns the exit code, what it printed, and what it said on standard error."""
+    result = subprocess.run([program, *arguments], input=data, capture_output=True,
+                            timeout=timeout, **options)
+    return result.returncode, result.stdout, result.stderr.decode(errors="replace")
+
+
+def check(holds, what):
+    global checks
+    checks += 1
+    if not holds:
+        failures.append(what)
+    return holds
+
+
+def finish():
+    print("\n".join(failures[:20]) or f"{checks} checks hold")
+    sys.exit(1 if failures else 0)
+
+
+def rows(name):
+    with open(os.path.join(source, "tests", "golden", name), encoding="utf-8") as file:
+        yield from csv.DictReader(file, delimiter="\t")
+
+
+def golden_tables():
+    """Every class on every chip, from the golden data."""
+    fields = collections.defaultdict(list)
+    for row in rows("fields.tsv"):
+        if row["offset"] == "-":  # the chip does not have the field
+            continue
+        fields[row["class"], row["chip"]].append(
+            Field(row["accessor"], row["type"], int(row["offset"]), int(row["width"])))
+    for row in rows("tables.tsv"):
+        count = int(row["entries"]) if row["kind"] == "table" else int(row["array_elements"])
+        yield Table(row["class"], row["chip"], 4 * int(row["words"]), count, int(row["base"], 16),
+                    int(row["access_type"]), int(row["block"]), fields[row["class"], row["chip"]])
+
+
+def bits(entry, field):
+    return int.from_bytes(entry, "little") >> field.offset & (1 << field.width) - 1

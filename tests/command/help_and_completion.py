@@ -1,0 +1,75 @@
+#!/usr/bin/env python3
+"""The help of every verb ends with examples that work; the shell's completion and the manual page know
+the same verbs, options and choices as the help; completion offers what the catalogue has.
+
+usage: help_and_completion.py SOURCE_DIR BUILD_DIR"""
+
+import os
+import re
+import subprocess
+
+from command import build, check, finish, golden_tables, run, source
+
+overview = run("--help")[1].decode()
+verbs = re.findall(r"^  ([a-z]+) ", overview, re.M)
+check(len(verbs) == 10, f"verbs: {verbs}")
+manual = run("__man")[1].decode().replace("\\-", "-")
+
+
+def completions(*words):
+    return run("__complete", *words)[1].decode().split()
+
+
+check(set(completions("")) == {*verbs, "help", "--help", "--version"}, "completion of verbs")
+for verb in verbs:
+    code, text, _ = run(verb, "--help")
+    text = text.decode()
+    check(code == 0 and run("help", verb)[1].decode() == text, f"help of {verb}")
+    check(max(map(len, text.split("\nExamples:")[0].splitlines())) <= 80, f"help of {verb}: width")
+    options = set(re.findall(r"^  (?:-\w, )?(--[a-z-]+)", text, re.M))
+    check(set(completions(verb, "-")) == options, f"completion of {verb}: options")
+    check(f".SS {verb}\n" in manual, f"manual page: {verb}")
+    section = manual.split(f".SS {verb}\n")[1].split(".SS ")[0]
+    for option in options - {"--help"}:
+        check(option in section, f"manual page: {verb} {option}")
+    choices = re.search(r"-f, --format.*?\(([a-z,\s]+)\)\n", text, re.S)
+    if choices:
+        check(set(completions(verb, "--format", "")) == set(re.split(r",\s+", choices[1])),
+              f"completion of {verb}: formats")
+
+    examples = re.findall(r"^  (velmar .*)$", text.split("\nExamples:\n")[1], re.M)
+    check(len(examples) == 2, f"help of {verb}: {len(examples)} examples")
+    for example in examples:
+        path = os.path.join(build, "bin") + ":" + os.environ["PATH"]
+        result = subprocess.run(["bash", "-o", "pipefail", "-c", example], timeout=30,
+                                env=dict(os.environ, PATH=path), stdin=subprocess.DEVNULL,
+                                stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        allowed = (0, 1) if verb in ("diff", "compare") else (0,)
+        check(result.returncode in allowed and result.stdout and not result.stderr,
+              f"{example}: exit {result.returncode}, {result.stderr!r}")
+
+tables = list(golden_tables())
+names = {table.name for table in tables}
+chips = {table.chip for table in tables}
+check(set(completions("decode", "")) == names, "completion of tables")
+check(set(completions("decode", "VlanEntry", "--chip", "")) == chips, "completion of chips")
+check(completions("decode", "vlan", "--chip", "5699")[0].startswith("BCM5699"), "chip by number")
+check(completions("decode", "nothing", "--fields", "") == [], "completion of an unknown table")
+for table in tables[::9]:
+    on_chip = {other.name for other in tables if other.chip == table.chip}
+    check(set(completions("addr", "--chip", table.chip, "")) == on_chip, f"tables on {table.chip}")
+    fields = {field.name for field in table.fields}
+    words = ("decode", table.name, "--chip", table.chip)
+    check(set(completions(*words, "--fields", "")) == fields, f"fields of {words}")
+    first = sorted(fields)[0]
+    check(f"{first}," + first in completions(*words, "--fields", f"{first},"), "a list of fields")
+    proposed = completions("encode", table.name, "--chip", table.chip, "")
+    check(set(proposed) == {name + "=" for name in fields}, f"assignments of {words}")
+
+# The installed script, as the shell calls it.
+script = os.path.join(source, "tools", "velmar", "completion.bash")
+probe = (f"source '{script}'; COMP_WORDS=('{build}/bin/velmar' decode VlanEntry --chip BCM5698); "
+         "COMP_CWORD=4; _velmar; echo \"${COMPREPLY[@]}\"")
+result = subprocess.run(["bash", "-c", probe], stdout=subprocess.PIPE, text=True)
+check(result.stdout == "BCM56980_A0\n", f"the completion script gives {result.stdout!r}")
+finish()

@@ -1,0 +1,98 @@
+#!/usr/bin/env python3
+"""Dumps as streams: memory does not grow with the input, a pipe shows its entries at once, and an
+interrupted or unread command ends quietly and leaves no half-written file.
+
+usage: streams.py SOURCE_DIR BUILD_DIR"""
+
+import os
+import signal
+import subprocess
+import tempfile
+import time
+
+from command import check, finish, program
+
+decode = [program, "decode", "VlanEntry", "--chip", "BCM56990_B0", "-"]
+
+
+def peak_memory(arguments, piece, count):
+    """Peak resident bytes of a command that reads `piece` so many times."""
+    process = subprocess.Popen(arguments, stdin=subprocess.PIPE, stdout=subprocess.DEVNULL,
+                               stderr=subprocess.DEVNULL)
+    with process.stdin as pipe:
+        for _ in range(count):
+            pipe.write(piece)
+    _, status, usage = os.wait4(process.pid, 0)
+    process.returncode = os.waitstatus_to_exitcode(status)
+    check(process.returncode == 0, f"{arguments} ends with {process.returncode}")
+    return usage.ru_maxrss * 1024
+
+
+def text_of(entry_format, entries):
+    encode = [program, "encode", "VlanEntry", "--chip", "BCM56990_B0", "--index", f"0-{entries - 1}",
+              "valid=1", "stg=5", "-f", entry_format]
+    return subprocess.run(encode, stdout=subprocess.PIPE, check=True).stdout
+
+
+# Raw: 2 million entries. Text and JSON: some ten thousands. None may take more than a small one does.
+slack = 2 << 20
+for entry_format, options, count in (("raw", ["--where", "stg=6"], 250), ("raw", ["-f", "csv"], 40),
+                                     ("hex", ["-f", "jsonl"], 20), ("jsonl", ["--nonzero"], 8)):
+    piece = text_of(entry_format, 8000)
+    few = peak_memory(decode + options, piece, 1)
+    many = peak_memory(decode + options, piece, count)
+    check(many < few + slack, f"{entry_format}: {few} bytes for a piece, {many} for {count}")
+    print(f"{entry_format} {' '.join(options)}: {few >> 10} KiB for {len(piece)} bytes, "
+          f"{many >> 10} KiB for {count * len(piece)}")
+
+# A document is one array, however long.
+document = subprocess.run(decode + ["-f", "json"], input=text_of("raw", 8000),
+                          stdout=subprocess.PIPE, check=True).stdout
+head, entries = document.split(b"[", 1)
+body = entries[:entries.rindex(b"]")].rstrip()
+process_input = head + b"[" + b",".join([body] * 10) + b"]}"
+few = peak_memory(decode + ["--nonzero"], document, 1)
+many = peak_memory(decode + ["--nonzero"], process_input, 1)
+check(many < few + slack, f"json: {few} bytes for a document, {many} for ten times it")
+
+# A pipe works at once: the first entry comes before the second is there.
+process = subprocess.Popen(decode + ["-f", "jsonl", "--input", "hex"], stdin=subprocess.PIPE,
+                           stdout=subprocess.PIPE)
+for index in range(2):
+    process.stdin.write(b"00 " * 16 + b"\n")
+    process.stdin.flush()
+    line = process.stdout.readline()
+    check(f'"index":{index},'.encode() in line, f"a pipe gives {line!r}")
+process.stdin.close()
+check(process.wait(timeout=10) == 0, "a pipe ends badly")
+process.stdout.close()
+
+# A reader that goes away ends the command without a word.
+process = subprocess.Popen(decode + ["-f", "jsonl", "/dev/zero"][:-1] + ["--input", "raw"],
+                           stdin=open("/dev/zero", "rb"), stdout=subprocess.PIPE,
+                           stderr=subprocess.PIPE)
+process.stdout.readline()
+process.stdout.close()
+check(process.wait(timeout=10) == -signal.SIGPIPE, f"a closed pipe gives {process.returncode}")
+check(process.stderr.read() == b"", "a closed pipe is talked about")
+process.stderr.close()
+
+# Ctrl-C ends it without a word, and the unfinished file goes.
+with tempfile.TemporaryDirectory() as directory:
+    out = os.path.join(directory, "out")
+    process = subprocess.Popen(decode + ["-f", "jsonl", "-o", out], stdin=subprocess.PIPE,
+                               stderr=subprocess.PIPE)
+    process.stdin.write(b"\0" * 160000)
+    process.stdin.flush()
+    for _ in range(200):
+        if os.listdir(directory):
+            break
+        time.sleep(0.02)
+    check(os.listdir(directory) not in ([], ["out"]), "no unfinished file is seen")
+    process.send_signal(signal.SIGINT)
+    check(process.wait(timeout=10) == -signal.SIGINT, f"Ctrl-C gives {process.returncode}")
+    check(process.stderr.read() == b"", "Ctrl-C is talked about")
+    check(os.listdir(directory) == [], f"Ctrl-C leaves {os.listdir(directory)}")
+    process.stdin.close()
+    process.stderr.close()
+finish()

@@ -1,0 +1,63 @@
+#!/usr/bin/env python3
+"""Runs the sessions in transcripts/ as a user would type them, and compares all that they print, in
+order, with what stands there. A line "[exit N]" ends the output of a command that does not succeed.
+
+usage: transcripts.py SOURCE_DIR BUILD_DIR [--refresh]"""
+
+import difflib
+import glob
+import os
+import subprocess
+import sys
+import tempfile
+
+from command import build, check, finish, source
+
+folder = os.path.join(source, "tests", "command", "transcripts")
+paths = sorted(glob.glob(os.path.join(folder, "*.txt")))
+
+
+def session(text, directory):
+    """The session with the output that its commands have now. Lines before the first command of a
+    block, such as comments, stay."""
+    environment = dict(os.environ, PATH=os.path.join(build, "bin") + ":" + os.environ["PATH"])
+    environment.pop("NO_COLOR", None)
+    result = []
+    copying = True
+    for line in text.splitlines():
+        if line.startswith("$ "):
+            done = subprocess.run(["bash", "-c", line[2:]], cwd=directory, env=environment,
+                                  stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                                  stdin=subprocess.DEVNULL, timeout=60)
+            result += [line, *done.stdout.decode(errors="replace").splitlines()]
+            if done.returncode != 0:
+                result.append(f"[exit {done.returncode}]")
+            copying = False
+        elif line.startswith("# "):
+            # A comment begins a new block, with an empty line before it.
+            if result:
+                result.append("")
+            result.append(line)
+            copying = True
+        elif copying and line:
+            result.append(line)
+    return "\n".join(result) + "\n"
+
+
+check(len(paths) >= 5, "transcripts are missing")
+for path in paths:
+    with open(path, encoding="utf-8") as file:
+        expected = file.read()
+    with tempfile.TemporaryDirectory() as directory:
+        os.symlink(os.path.join(source, "samples"), os.path.join(directory, "samples"))
+        printed = session(expected, directory)
+    if "--refresh" in sys.argv:
+        with open(path, "w", encoding="utf-8") as file:
+            file.write(printed)
+        continue
+    name = os.path.basename(path)
+    difference = difflib.unified_diff(expected.splitlines(), printed.splitlines(), name,
+                                      "what the command prints", lineterm="")
+    check(expected == printed, "\n".join(difference) +
+          "\nto accept it: cmake --build --preset release --target refresh-transcripts")
+finish()
