@@ -103,7 +103,7 @@ class Fields {
   }
   /// The length was compared with the slot's: the buffer holds a whole window.
   static int provedLen(U16 len) {
-    if (len < Detail::windowBytes) __builtin_unreachable();
+    if (len < plainCopyBytes) __builtin_unreachable();
     return len;
   }
 

@@ -4,7 +4,6 @@
 #include <cstddef>
 
 #include "AsicUtils/EntrySpans.h"
-#include "Detail/CopyBits.h"
 #include "framework/LayoutRows.h"
 
 // What the engine reads, made from the rows of tables/ when compiled. A chip row of a table becomes
@@ -31,8 +30,7 @@ constexpr FieldSlot makeSlot(BitRange range) {
   slot.offset = range.offset;
   slot.width = range.width;
   const U32 bytes = bytesUpTo(slot);
-  slot.straightLen =
-      static_cast<U16>((bytes < Detail::windowBytes ? Detail::windowBytes : bytes) - 1);
+  slot.straightLen = static_cast<U16>((bytes < plainCopyBytes ? plainCopyBytes : bytes) - 1);
   // Widths of whole bytes take any value of their type.
   if (range.width < 64 && range.width % 8 != 0)
     slot.uncheckedBits = static_cast<U8>(64 - range.width);
