@@ -12,15 +12,32 @@ const FieldSlot& slotOfId(const EntryView& view, U32 id, const ClassData& data) 
 /// The value as the setter's parameter takes it: high bits that the type lacks are dropped.
 U64 narrowed(U64 value, ValueType type) { return value & (~U64{0} >> (64 - bitsOf(type))); }
 
+// Each operation with its trace and checks; what the straight ways below leave to others.
+
+[[gnu::cold, gnu::noinline]] U16 tracedOffset(const EntryView& view, U32 id, const ClassData& data,
+                                              Site site) {
+  traceMember(view, site);
+  if (!data.hasId(id)) fail("false", site);
+  return checkedOffset(view, slotOfId(view, id, data), data);
+}
+
+[[gnu::cold, gnu::noinline]] bool tracedIsValid(const EntryView& view, U32 id,
+                                                const ClassData& data, Site site) {
+  traceMember(view, site);
+  return data.hasId(id) && checkedIsValid(view, slotOfId(view, id, data), data);
+}
+
+[[gnu::cold, gnu::noinline]] U16 checkedWidth(const EntryView& view, U32 id, const ClassData& data,
+                                              Site site) {
+  if (!data.hasId(id)) fail("false", site);
+  return checkedLength(view, slotOfId(view, id, data), data);
+}
+
 }  // namespace
 
 U16 offsetOfId(const EntryView& view, U32 id, const ClassData& data, Site site) {
   const FieldSlot& slot = slotOfId(view, id, data);
-  if (mustCheck(slot.width == 0)) {
-    traceMember(view, site);
-    if (!data.hasId(id)) fail("false", site);
-    return checkedOffset(view, slot, data);
-  }
+  if (mustCheck(slot.width == 0)) return tracedOffset(view, id, data, site);
   return slot.offset;
 }
 
@@ -28,20 +45,13 @@ U16 widthOfId(const EntryView& view, U32 id, const ClassData& data, Site site) {
   if (mustCheck(false)) traceMember(view, site);
   if (!view.isFieldValid(id)) return 0;
   const FieldSlot& slot = slotOfId(view, id, data);
-  if (mustCheck(slot.width == 0)) {
-    if (!data.hasId(id)) fail("false", site);
-    return checkedLength(view, slot, data);
-  }
+  if (mustCheck(slot.width == 0)) return checkedWidth(view, id, data, site);
   return slot.width;
 }
 
 bool isIdValid(const EntryView& view, U32 id, const ClassData& data, Site site) {
-  const FieldSlot& slot = slotOfId(view, id, data);
-  if (mustCheck(false)) {
-    traceMember(view, site);
-    return data.hasId(id) && checkedIsValid(view, slot, data);
-  }
-  return slot.width != 0;
+  if (mustCheck(false)) return tracedIsValid(view, id, data, site);
+  return slotOfId(view, id, data).width != 0;
 }
 
 void setById(const EntryView& view, U32 id, U64 value, const ClassData& data, Site site) {

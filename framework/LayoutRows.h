@@ -100,17 +100,17 @@ constexpr U32 identifierTerm = 1U << 14;
 enum class ValueType : U8 { u8, u16, u32, u64, raw128, bitmap };
 
 template <class T>
-constexpr ValueType valueTypeOf = ValueType::bitmap;
+inline constexpr ValueType valueTypeOf = ValueType::bitmap;
 template <>
-constexpr ValueType valueTypeOf<U8> = ValueType::u8;
+inline constexpr ValueType valueTypeOf<U8> = ValueType::u8;
 template <>
-constexpr ValueType valueTypeOf<U16> = ValueType::u16;
+inline constexpr ValueType valueTypeOf<U16> = ValueType::u16;
 template <>
-constexpr ValueType valueTypeOf<U32> = ValueType::u32;
+inline constexpr ValueType valueTypeOf<U32> = ValueType::u32;
 template <>
-constexpr ValueType valueTypeOf<U64> = ValueType::u64;
+inline constexpr ValueType valueTypeOf<U64> = ValueType::u64;
 template <>
-constexpr ValueType valueTypeOf<Raw128> = ValueType::raw128;
+inline constexpr ValueType valueTypeOf<Raw128> = ValueType::raw128;
 
 constexpr bool isScalar(ValueType type) { return type <= ValueType::u64; }
 /// Words of the widest bitmap that a field may be.
