@@ -16,8 +16,12 @@ namespace Bench {
 /// Items that one round of a benchmark walks: few enough for the first-level cache.
 constexpr std::size_t itemCount = 256;
 
-/// Registers a benchmark that makes `call(item, i)` for each item, round after round; its figure is
-/// the time for one item.
+/// The figure of a benchmark is the time for one of its items.
+inline void countItems(benchmark::State& state, std::size_t perRound) {
+  state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(perRound));
+}
+
+/// Registers a benchmark that makes `call(item, i)` for each item, round after round.
 template <class Items, class Call>
 void add(const std::string& name, std::shared_ptr<Items> items, Call call) {
   benchmark::RegisterBenchmark(name.c_str(), [items, call](benchmark::State& state) {
@@ -25,7 +29,7 @@ void add(const std::string& name, std::shared_ptr<Items> items, Call call) {
       U32 i = 0;
       for (auto& item : *items) call(item, i++);
     }
-    state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations() * items->size()));
+    countItems(state, items->size());
   });
 }
 

@@ -36,7 +36,7 @@ void tracedGetter(benchmark::State& state) {
   for (auto _ : state) keep(view.fidId());
   Kiv::TraceFacility::levelIs("AsicUtilsVelmarMetaInfo", 8, false);
   Kiv::TraceFacility::sinkIs(nullptr, nullptr);
-  state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations()));
+  countItems(state, 1);
 }
 
 const bool added = [] {

@@ -24,8 +24,7 @@ std::shared_ptr<Table> someTable() {
   return table;
 }
 
-/// Registers a benchmark that makes a view of each entry of a table; its figure is the time for one
-/// entry.
+/// Registers a benchmark that makes a view of each entry of a table.
 template <class View, class Call>
 void addTable(const std::string& name, Call call) {
   benchmark::RegisterBenchmark(name.c_str(), [call, table = someTable()](benchmark::State& state) {
@@ -35,7 +34,7 @@ void addTable(const std::string& name, Call call) {
         call(view, i);
       }
     }
-    state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations() * entries));
+    countItems(state, entries);
   });
 }
 
