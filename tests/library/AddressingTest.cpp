@@ -130,9 +130,10 @@ TEST(Addressing, viewsAskForTheirOwnChipAndVariant) {
                                              result.out.block, 0, 0, 0);
       });
       EXPECT_EQ(result.found, facts.anyVariant) << probe.name << " chip " << chip;
+      const auto first = probe.make(chip, nullptr, 0, 0);
       const AssertionFailed failure = assertionOf([&] {
         U32 out = 0;
-        probe.make(chip, nullptr, 0, 0)->getSchanAddress(out, out, out, 7, 0, 0);
+        first->getSchanAddress(out, out, out, 7, 0, 0);
       });
       EXPECT_EQ(failure.function, signatureOf(probe));
     }

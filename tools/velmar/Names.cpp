@@ -9,7 +9,6 @@
 namespace Tool {
 namespace {
 
-constexpr U32 chipsShown = 4;
 
 /// Number of letters to change, insert, drop or swap with their neighbour to make one of the other.
 size_t distance(const std::string& a, const std::string& b) {
