@@ -1,6 +1,7 @@
 #include "Velmar/Catalogue.h"
 
 #include "framework/AllClasses.h"
+#include "framework/Reports.h"
 
 namespace Velmar {
 namespace Catalogue {
@@ -12,21 +13,7 @@ Chip chip(U32 index) {
 }
 
 const char* valueTypeName(ValueType type) {
-  switch (type) {
-    case ValueType::u8:
-      return "U8";
-    case ValueType::u16:
-      return "U16";
-    case ValueType::u32:
-      return "U32";
-    case ValueType::u64:
-      return "U64";
-    case ValueType::raw128:
-      return "Raw128";
-    case ValueType::bitmap:
-      break;
-  }
-  return "Oru::PerUnitBitmap";
+  return Framework::valueName(static_cast<Framework::ValueType>(type));
 }
 
 const char* Table::name() const { return data_->name; }

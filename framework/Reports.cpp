@@ -66,25 +66,6 @@ template <class Write>
   fail("\"0\" == nullptr", site);
 }
 
-/// Value types as signatures spell them.
-const char* valueName(ValueType type) {
-  switch (type) {
-    case ValueType::u8:
-      return "U8";
-    case ValueType::u16:
-      return "U16";
-    case ValueType::u32:
-      return "U32";
-    case ValueType::u64:
-      return "U64";
-    case ValueType::raw128:
-      return "Raw128";
-    case ValueType::bitmap:
-      break;
-  }
-  return "Oru::PerUnitBitmap";
-}
-
 /// Setter parameters as signatures spell them.
 const char* parameterName(ValueType type) {
   switch (type) {
@@ -102,6 +83,24 @@ constexpr const char* suffixes[] = {"() const", "Is(", "Len() const", "Offset() 
                                     "Valid() const"};
 
 }  // namespace
+
+const char* valueName(ValueType type) {
+  switch (type) {
+    case ValueType::u8:
+      return "U8";
+    case ValueType::u16:
+      return "U16";
+    case ValueType::u32:
+      return "U32";
+    case ValueType::u64:
+      return "U64";
+    case ValueType::raw128:
+      return "Raw128";
+    case ValueType::bitmap:
+      break;
+  }
+  return "Oru::PerUnitBitmap";
+}
 
 FieldSite::FieldSite(const ClassData& data, U32 field, Member member) : line_(data.line) {
   const FieldFacts& facts = data.fieldFacts[field];

@@ -15,6 +15,9 @@ struct Site {
   U32 line;
 };
 
+/// A value type as signatures spell it.
+const char* valueName(ValueType type);
+
 /// The members of the field quintet.
 enum class Member : U8 { getter, setter, length, offset, validity };
 

@@ -63,6 +63,9 @@ std::vector<GoldenClass> readClasses() {
         number(row["raw_bytes_needed"])};
   }
   for (Row& row : readRows("fields.tsv")) {
+    if (classOf(row["class"]) == classes.end()) {
+      throw std::runtime_error("fields.tsv has a class that tables.tsv lacks: " + row["class"]);
+    }
     std::vector<GoldenField>& fields = classOf(row["class"])->fields;
     auto field = std::find_if(fields.begin(), fields.end(), [&](const GoldenField& each) {
       return each.accessor == row["accessor"];
