@@ -32,9 +32,9 @@ for verb in verbs:
     section = manual.split(f".SS {verb}\n")[1].split(".SS ")[0]
     for option in options - {"--help"}:
         check(option in section, f"manual page: {verb} {option}")
-    choices = re.search(r"-f, --format.*?\(([a-z,\s]+)\)\n", text, re.S)
+    choices = re.search(r"-f, --format.*?one of\s+([a-z,\s]+)\n  -", text, re.S)
     if choices:
-        check(set(completions(verb, "--format", "")) == set(re.split(r",\s+", choices[1])),
+        check(set(completions(verb, "--format", "")) == set(re.split(r",\s+", choices[1].strip())),
               f"completion of {verb}: formats")
 
     examples = re.findall(r"^  (velmar .*)$", text.split("\nExamples:\n")[1], re.M)

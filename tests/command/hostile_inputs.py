@@ -119,6 +119,8 @@ for arguments, *words in (
         (("encode", *vlan, "=5"), "FIELD=VALUE"),
         (("encode", *vlan, "stg=1", "stg=2"), "twice"),
         (("encode", *vlan, "--index", "8192", "stg=1"), "8191"),
+        (("encode", *vlan, "--base", "-", "@-"), "standard input"),
+        (("compare", "Vlan2Entry", "--chip", "33", "--chip", "34"), "exists on"),
         (("encode", *vlan, "@/nonexistent"), "/nonexistent"),
         (("encode", "VlanEntry", "--chip", "56960", "portBitmap=136"), "0 to 135"),
         (("encode", "VlanEntry", "--chip", "56960", "portBitmap=9-4"), "backwards"),

@@ -9,7 +9,7 @@ namespace {
 
 using Geometry = Catalogue::Geometry;
 
-/// A table as it is on each of the two chips; a width of 0 words says that it is not there.
+/// A table as it is on each of the two chips.
 struct Pair {
   Catalogue::Table table;
   Geometry before;
@@ -18,17 +18,21 @@ struct Pair {
 
 class Comparison {
  public:
-  Comparison(const Catalogue::Chip& before, const Catalogue::Chip& after)
-      : before_(before), after_(after), listing_({"table", "part", "change", "old", "new"}) {}
+  Comparison(const Catalogue::Chip& before, const Catalogue::Chip& after, U8 variant)
+      : before_(before),
+        after_(after),
+        variant_(variant),
+        listing_({"table", "part", "change", "old", "new"}) {}
 
   void compare(const Catalogue::Table& table) {
     const Pair pair{table, table.geometry(before_.number), table.geometry(after_.number)};
-    const bool wasThere = table.isOn(before_.number);
-    const bool isThere = table.isOn(after_.number);
+    const bool wasThere = table.isOn(before_.number, variant_);
+    const bool isThere = table.isOn(after_.number, variant_);
     if (!wasThere && !isThere) return;
     if (!wasThere || !isThere) {
-      add(table, "(table)", isThere ? "added" : "gone", sizeText(pair, pair.before),
-          sizeText(pair, pair.after));
+      add(table, "(table)", isThere ? "added" : "gone",
+          wasThere ? sizeText(pair, pair.before) : nullptr,
+          isThere ? sizeText(pair, pair.after) : nullptr);
       return;
     }
     compareGeometry(pair);
@@ -44,7 +48,6 @@ class Comparison {
   }
 
   static Cell sizeText(const Pair& pair, const Geometry& geometry) {
-    if (geometry.width == 0) return nullptr;
     const bool isArray = pair.table.kind() == Catalogue::Kind::registerArray;
     return formatText("{} x {} bytes at {}", isArray ? geometry.arrayElements : geometry.entries,
                       4 * geometry.width, addressText(geometry.base));
@@ -105,6 +108,7 @@ class Comparison {
 
   Catalogue::Chip before_;
   Catalogue::Chip after_;
+  U8 variant_;
   Listing listing_;
 };
 
@@ -113,16 +117,15 @@ int run(const Arguments& arguments) {
     fail("--chip is given {} time{}; give it twice, the old chip first", arguments.chips.size(),
          arguments.chips.size() == 1 ? "" : "s");
   }
-  Comparison comparison(findChip(arguments.chips[0]), findChip(arguments.chips[1]));
+  const Catalogue::Chip before = findChip(arguments.chips[0]);
+  const Catalogue::Chip after = findChip(arguments.chips[1]);
+  Comparison comparison(before, after, variantOf(arguments));
   if (arguments.table.empty()) {
     for (U32 i = 0; i < Catalogue::tableCount(); ++i) comparison.compare(Catalogue::table(i));
   } else {
     const Catalogue::Table table = findTable(arguments.table);
-    for (const std::string& name : arguments.chips) {
-      if (!table.isOn(findChip(name).number) && arguments.chips[0] == arguments.chips[1]) {
-        Layout(table, findChip(name), 0);
-      }
-    }
+    // Where neither chip has it, silence would look like sameness.
+    if (!table.isOn(after.number)) Layout(table, before, 0);
     comparison.compare(table);
   }
   const Listing& listing = comparison.listing();
@@ -143,8 +146,8 @@ Verb compareVerb() {
           "Without TABLE all tables are compared. What is the same is not printed. Exit code 1 "
           "says that there are differences.",
           {Positionals::tableIfAny()},
-          {Options::chips(), Options::quiet(), Options::listFormat(), Options::output(),
-           Options::color()},
+          {Options::chips(), Options::variant(), Options::quiet(), Options::listFormat(),
+           Options::output(), Options::color()},
           {"velmar compare VlanEntry --chip BCM56980_A0 --chip BCM56990_B0",
            "velmar compare --chip BCM56275_A0 --chip BCM56175_A0 --format csv"},
           run};

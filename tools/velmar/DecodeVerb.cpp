@@ -145,36 +145,59 @@ std::vector<std::string> strayBits(const Layout& layout, const U8* bytes) {
   return ranges;
 }
 
-/// The findings of --check, each printed as it is found.
-int check(const Arguments& arguments, const Layout& layout, Output& output) {
-  const Format format = formatOf(arguments.format);
-  Walk walk(arguments, layout, output);
-  if (format == Format::csv) output.write("index,beyondEnd,bits\n");
-  if (format == Format::json) output.write("[");
-  bool found = false;
-  for (Entry entry; walk.next(entry); output.flushIfLarge()) {
-    const std::vector<std::string> bits = strayBits(layout, entry.bytes);
-    const bool beyond = entry.index >= layout.indexCount();
-    if (bits.empty() && !beyond) continue;
-    if (format == Format::table) {
-      output.print("{} {}:", layout.name(), entry.index);
-      if (beyond) output.write(" beyond the end of the table");
-      if (!bits.empty()) {
-        output.print("{} bits outside all fields: {}", beyond ? ";" : "", join(bits, " "));
-      }
-    } else if (format == Format::csv) {
-      output.print("{},{},{}", entry.index, beyond, join(bits, " "));
-    } else {
-      if (format == Format::json) output.write(found ? ",\n " : "\n ");
-      output.print(R"({{"index":{},"beyondEnd":{},"bits":{}}})", entry.index, beyond,
-                   Cell(bits).json());
-    }
-    if (format != Format::json) output.write("\n");
-    found = true;
+/// Prints the findings of --check, each as it is found.
+class Findings {
+ public:
+  Findings(Output& output, const Layout& layout, Format format)
+      : output_(output), layout_(layout), format_(format) {
+    if (format_ == Format::csv) output_.write("index,beyondEnd,bits\n");
+    if (format_ == Format::json) output_.write("[");
   }
-  if (format == Format::json) output.write(found ? "\n]\n" : "]\n");
+
+  void examine(const Entry& entry) {
+    const std::vector<std::string> bits = strayBits(layout_, entry.bytes);
+    const bool beyond = entry.index >= layout_.indexCount();
+    if (bits.empty() && !beyond) return;
+    if (format_ == Format::table) {
+      printLine(entry.index, beyond, bits);
+    } else if (format_ == Format::csv) {
+      output_.print("{},{},{}\n", entry.index, beyond, join(bits, " "));
+    } else {
+      if (format_ == Format::json) output_.write(any_ ? ",\n  " : "\n  ");
+      output_.print(R"({{"index":{},"beyondEnd":{},"bits":{}}})", entry.index, beyond,
+                    Cell(bits).json());
+      if (format_ == Format::jsonl) output_.write("\n");
+    }
+    any_ = true;
+  }
+
+  void end() {
+    if (format_ == Format::json) output_.write(any_ ? "\n]\n" : "]\n");
+  }
+  bool any() const { return any_; }
+
+ private:
+  void printLine(U64 index, bool beyond, const std::vector<std::string>& bits) {
+    output_.print("{} {}:", layout_.name(), index);
+    if (beyond) output_.write(" beyond the end of the table");
+    if (beyond && !bits.empty()) output_.write(";");
+    if (!bits.empty()) output_.print(" bits outside all fields: {}", join(bits, " "));
+    output_.write("\n");
+  }
+
+  Output& output_;
+  const Layout& layout_;
+  Format format_;
+  bool any_ = false;
+};
+
+int check(const Arguments& arguments, const Layout& layout, Output& output) {
+  Walk walk(arguments, layout, output);
+  Findings findings(output, layout, formatOf(arguments.format));
+  for (Entry entry; walk.next(entry); output.flushIfLarge()) findings.examine(entry);
+  findings.end();
   output.finish();
-  return found ? exitFinding : exitSuccess;
+  return findings.any() ? exitFinding : exitSuccess;
 }
 
 int run(const Arguments& arguments) {

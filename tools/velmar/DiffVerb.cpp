@@ -295,7 +295,8 @@ int run(const Arguments& arguments) {
 Verb diffVerb() {
   return {"diff",
           "Prints what changed between two dumps of a table, entry by entry and field by field.",
-          "The dumps may be in different formats; entries are matched by their indexes, which must "
+          "The dumps may be in different formats, with the limits of decode; entries are matched "
+          "by their indexes, which must "
           "ascend. Bits outside all fields count too, unless --fields is given. Exit code 1 says "
           "that the dumps differ.",
           {Positionals::table(), Positionals::oldAndNew()},

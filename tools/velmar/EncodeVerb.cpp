@@ -1,4 +1,4 @@
-#include <limits>
+#include <utility>
 
 #include "EntryBuilder.h"
 #include "EntryWriter.h"
@@ -100,7 +100,8 @@ class WholeWriter : public EntryWriter {
 /// What the command line gives: values for the selected entries, and a document of entries.
 class Values {
  public:
-  Values(const Arguments& arguments, const Layout& layout) : layout_(layout) {
+  Values(const Arguments& arguments, const Layout& layout)
+      : layout_(layout), readsInput_(arguments.base == "-") {
     for (const std::string& text : arguments.assignments) {
       if (text[0] == '@') {
         read(text.substr(1));
@@ -120,6 +121,9 @@ class Values {
  private:
   void read(const std::string& path) {
     const std::string file = path.empty() ? "-" : path;
+    if (file == "-" && std::exchange(readsInput_, true)) {
+      fail("standard input is given twice; name a file for one of them");
+    }
     auto input =
         std::make_unique<JsonInput>(std::make_unique<ByteStream>(file, nullptr), layout_, 0);
     JsonInput::Part part;
@@ -143,6 +147,7 @@ class Values {
   std::unique_ptr<JsonInput> document_;
   JsonInput::Part part_;
   bool hasPart_ = false;
+  bool readsInput_;  ///< standard input has its use
 };
 
 class Encoder {

@@ -43,12 +43,13 @@ Json layoutAsJson(const Catalogue::Table& table, const Catalogue::Chip& chip) {
           {"fields", std::move(fields)}};
 }
 
-Json tableAsJson(const Catalogue::Table& table, const std::vector<Catalogue::Chip>& chips) {
+Json tableAsJson(const Catalogue::Table& table, const std::vector<Catalogue::Chip>& chips,
+                 U8 variant) {
   Json fields = Json::array();
   for (U32 i = 0; i < table.fieldCount(); ++i) fields.push_back(fieldAsJson(table.field(i)));
   Json layouts = Json::array();
   for (const Catalogue::Chip& chip : chips) {
-    if (table.isOn(chip.number)) layouts.push_back(layoutAsJson(table, chip));
+    if (table.isOn(chip.number, variant)) layouts.push_back(layoutAsJson(table, chip));
   }
   const bool isTable = table.kind() == Catalogue::Kind::table;
   return {{"name", table.name()},
@@ -73,12 +74,13 @@ std::vector<Catalogue::Table> tablesOf(const Arguments& arguments,
   if (!arguments.table.empty()) {
     const Catalogue::Table table = findTable(arguments.table);
     // A table that the chip does not have is worth a word; an empty document would hide it.
-    if (chips.size() == 1) Layout(table, chips.front(), 0);
+    if (chips.size() == 1) Layout(table, chips.front(), variantOf(arguments));
     return {table};
   }
   for (U32 i = 0; i < Catalogue::tableCount(); ++i) {
     const Catalogue::Table table = Catalogue::table(i);
-    if (chips.size() > 1 || table.isOn(chips.front().number)) tables.push_back(table);
+    if (chips.size() > 1 || table.isOn(chips.front().number, variantOf(arguments)))
+      tables.push_back(table);
   }
   return tables;
 }
@@ -92,7 +94,7 @@ int run(const Arguments& arguments) {
   }
   document["tables"] = Json::array();
   for (const Catalogue::Table& table : tablesOf(arguments, chips)) {
-    document["tables"].push_back(tableAsJson(table, chips));
+    document["tables"].push_back(tableAsJson(table, chips, variantOf(arguments)));
   }
   Output output(arguments.output, arguments.color);
   output.print("{}\n", document.dump(1));
@@ -109,7 +111,7 @@ Verb exportVerb() {
       "docs/schema/catalogue.schema.json of the project describes the document. Its \"version\" "
       "changes only when a reader has to.",
       {Positionals::tableIfAny()},
-      {Options::chipIfAny(), Options::output(), Options::color()},
+      {Options::chipIfAny(), Options::variant(), Options::output(), Options::color()},
       {"velmar export VlanEntry --chip BCM56990_B0", "velmar export --chip BCM56470_A0"},
       run};
 }

@@ -53,7 +53,7 @@ std::string headingOf(const Option& option) {
 
 std::string meaningOf(const Option& option) {
   std::string meaning = option.meaning;
-  if (!option.choices.empty()) meaning += " (" + join(option.choices, ", ") + ")";
+  if (!option.choices.empty()) meaning += "; one of " + join(option.choices, ", ");
   return meaning;
 }
 

@@ -49,12 +49,15 @@ Listing geometryListing(const Layout& layout) {
   return listing;
 }
 
+const char* pluralEnd(U32 count) { return count == 1 ? "" : "s"; }
+
 void printHead(Output& output, const Layout& layout) {
   const Catalogue::Geometry& geometry = layout.geometry();
   output.write(formatText("{} on {}", layout.name(), layout.chip().name), Style::strong);
   output.print(": {}\n", layout.table().purpose());
-  output.print("  entry     {} bytes ({} words), {} fields\n", layout.entryBytes(), geometry.width,
-               geometry.fieldCount);
+  output.print("  entry     {} bytes ({} word{}), {} field{}\n", layout.entryBytes(),
+               geometry.width, pluralEnd(geometry.width), geometry.fieldCount,
+               pluralEnd(geometry.fieldCount));
   output.print("  {}  {}, index 0 to {}\n", layout.isRegisterArray() ? "elements" : "entries ",
                layout.indexCount(), layout.indexCount() - 1);
   output.print("  variants  {}\n",
@@ -84,7 +87,7 @@ int run(const Arguments& arguments) {
       fields.print(output, format);
     }
   } else if (format == Format::json) {
-    output.print("{{\"geometry\": {},\n \"fields\": {}}}\n", geometryListing(layout).json(),
+    output.print("{{\"geometry\": {},\n \"fields\": {}}}\n", geometryListing(layout).json(0),
                  fields.json());
   } else {
     fields.print(output, format);

@@ -77,6 +77,7 @@ std::vector<std::string> wrap(const std::string& text, size_t width) {
     size_t to = from + width;
     const size_t soft = text.find_last_of(" ,", to - 1);
     if (soft != std::string::npos && soft > from) to = soft + 1;
+    if (text[to] == ' ') ++to;
     lines.push_back(text.substr(from, to - from));
     from = to;
   }
@@ -102,6 +103,8 @@ std::string Listing::rowAsJson(const std::vector<Cell>& row) const {
   }
   return object + "}";
 }
+
+std::string Listing::json(size_t row) const { return rowAsJson(rows_[row]); }
 
 std::string Listing::json() const {
   std::string rows = "[";

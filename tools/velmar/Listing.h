@@ -45,6 +45,8 @@ class Listing {
   void printTable(Output& output) const;
   /// The rows as a JSON array of objects.
   std::string json() const;
+  /// One row as a JSON object.
+  std::string json(size_t row) const;
 
  private:
   std::string rowAsJson(const std::vector<Cell>& row) const;

@@ -61,7 +61,7 @@ Option output() {
 }
 Option color() {
   return choiceOption("--color", "WHEN",
-                      "colours (default auto: on a terminal, unless NO_COLOR is set)",
+                      "colours, by default on a terminal, unless NO_COLOR is set",
                       &Arguments::color, {"auto", "always", "never"});
 }
 Option index() {
@@ -107,8 +107,7 @@ Option check() {
                       &Arguments::check);
 }
 Option input() {
-  return choiceOption("--input", "FORMAT",
-                      "format of the dump (default auto: told by its first bytes)",
+  return choiceOption("--input", "FORMAT", "format of the dump, by default told by its first bytes",
                       &Arguments::input, {"auto", "raw", "hex", "xxd", "json"});
 }
 Option hexOrder() {

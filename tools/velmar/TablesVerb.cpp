@@ -14,12 +14,12 @@ const char* kindOf(const Catalogue::Table& table) {
   return table.kind() == Catalogue::Kind::table ? "table" : "register array";
 }
 
-Listing tablesOf(const Catalogue::Chip& chip) {
+Listing tablesOf(const Catalogue::Chip& chip, U8 variant) {
   Listing listing({"table", "kind", "bytes", "entries", "address", "fields", "purpose"});
   for (U32 i = 0; i < Catalogue::tableCount(); ++i) {
     const Catalogue::Table table = Catalogue::table(i);
-    if (!table.isOn(chip.number)) continue;
-    const Layout layout(table, chip, 0);
+    if (!table.isOn(chip.number, variant)) continue;
+    const Layout layout(table, chip, variant);
     listing.add({table.name(), kindOf(table), layout.entryBytes(), layout.indexCount(),
                  addressText(layout.geometry().base), layout.geometry().fieldCount,
                  table.purpose()});
@@ -56,7 +56,8 @@ Listing allTables() {
 }
 
 int run(const Arguments& arguments) {
-  const Listing listing = arguments.chips.empty() ? allTables() : tablesOf(chipOf(arguments));
+  const Listing listing =
+      arguments.chips.empty() ? allTables() : tablesOf(chipOf(arguments), variantOf(arguments));
   Output output(arguments.output, arguments.color);
   listing.print(output, formatOf(arguments.format));
   output.finish();
@@ -70,7 +71,8 @@ Verb tablesVerb() {
           "Lists the tables: entry bytes, entries, and the chips that have them.",
           "With --chip, the tables of that chip with their addresses.",
           {},
-          {Options::chipIfAny(), Options::listFormat(), Options::output(), Options::color()},
+          {Options::chipIfAny(), Options::variant(), Options::listFormat(), Options::output(),
+           Options::color()},
           {"velmar tables", "velmar tables --chip BCM56470_A0 --format json"},
           run};
 }
