@@ -14,8 +14,9 @@ namespace Detail {
 
 /// Bytes of a window, where the buffer is that long.
 constexpr U32 windowBytes = 8;
-/// The most bits that one window takes at any offset.
+/// The most bits that one window takes at any offset, and one on a multiple of 4 bytes.
 constexpr U32 windowBits = 57;
+constexpr U32 alignedBits = 33;
 
 /// These few lines are the body of every accessor: inline them whatever the compiler thinks.
 #define DETAIL_INLINE [[gnu::always_inline]] inline
@@ -66,21 +67,24 @@ DETAIL_INLINE U64 readWindow(const U8* src, U32 len, U32 offset) {
   return loadBytes<U64>(src + start) >> (offset - 8 * start);
 }
 
-/// Puts the low `bits` (1 to 57) bits of `value` at `offset`. A window on a multiple of 4 bytes
-/// holds any 33 bits. It is preferred: writes side by side then meet in the same window, and none
-/// waits for a part of the one before.
-DETAIL_INLINE void writeWindow(U8* dst, U32 len, U32 offset, U32 bits, U64 value) {
+/// Puts the low `bits` bits of `value` at `offset`, in a window from byte `start` or near it.
+DETAIL_INLINE void writeWindow(U8* dst, U32 len, U32 start, U32 offset, U32 bits, U64 value) {
   const U64 mask = ~(~U64{0} << bits);
   if (len < windowBytes) {
     const U64 old = loadShort(dst, len);
     storeShort(dst, len, (old & ~(mask << offset)) | (value & mask) << offset);
     return;
   }
-  const bool isWide = __builtin_expect(bits > 33, false);
-  const U32 start = windowStart(len, isWide ? offset / 8 : offset / 32 * 4);
+  start = windowStart(len, start);
   const U32 shift = offset - 8 * start;
   const U64 old = loadBytes<U64>(dst + start);
   storeBytes<U64>(dst + start, (old & ~(mask << shift)) | (value & mask) << shift);
+}
+
+/// The same for up to 33 bits, which a window on a multiple of 4 bytes holds wherever they are.
+/// Writes side by side then meet in the same window, and none waits for a part of the one before.
+DETAIL_INLINE void writeAligned(U8* dst, U32 len, U32 offset, U32 bits, U64 value) {
+  writeWindow(dst, len, offset / 32 * 4, offset, bits, value);
 }
 
 /// 64 bits from bit `shift` (0 to 7) of the first byte; reads no byte beyond the last of them.
@@ -96,9 +100,9 @@ DETAIL_INLINE U64 read64(const U8* src, U32 shift) {
                                            U32 dstOffset, U32 srcOffset) {
   if (bits < 64) {
     const U32 half = bits / 2;
-    writeWindow(dst, dstLen, dstOffset, half, readWindow(src, srcLen, srcOffset));
-    writeWindow(dst, dstLen, dstOffset + half, bits - half,
-                readWindow(src, srcLen, srcOffset + half));
+    writeAligned(dst, dstLen, dstOffset, half, readWindow(src, srcLen, srcOffset));
+    writeAligned(dst, dstLen, dstOffset + half, bits - half,
+                 readWindow(src, srcLen, srcOffset + half));
     return;
   }
   const U32 first = dstOffset / 8;
@@ -131,8 +135,10 @@ DETAIL_INLINE void copyBits(U8* dst, int dstLen, const U8* src, int srcLen, int 
   const U32 count = static_cast<U32>(bits);
   const U32 intoLen = static_cast<U32>(dstLen);
   const U32 fromLen = static_cast<U32>(srcLen);
-  if (count - 1 < windowBits) {
-    writeWindow(dst, intoLen, into, count, readWindow(src, fromLen, from));
+  if (count - 1 < alignedBits) {
+    writeAligned(dst, intoLen, into, count, readWindow(src, fromLen, from));
+  } else if (count - 1 < windowBits) {
+    writeWindow(dst, intoLen, into / 8, into, count, readWindow(src, fromLen, from));
   } else if (bits > 0) {
     copyBitsWide(dst, intoLen, src, fromLen, count, into, from);
   }
