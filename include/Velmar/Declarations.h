@@ -27,11 +27,9 @@
 
 /// The five members of a field. Each traces at level 8 before it does anything else.
 ///  - `F()`: the value, zero-extended. Fails "0" where the chip lacks the field, "variant_ == 0"
-///  for
-///    a variant that the chip does not have, "len_ >= N" where the buffer ends before the field.
+///    for a variant that the chip lacks, "len_ >= N" where the buffer ends before the field.
 ///  - `FIs(value)`: writes the value; other bits stay. Fails as `F()`, and "value <= 0x<mask>"
-///  where
-///    the value is too large and the width is no multiple of 8. A bitmap with too few words throws
+///    where the value is too large and the width no multiple of 8. A bitmap of too few words throws
 ///    Morvo::VectorOutOfRangeException after the words it had; surplus words are ignored.
 ///  - `FLen()`: the width in bits. Where the view does not have the field: the soft assertion
 ///    " does not have field <HARDWARE_NAME>", then fails "\"0\" == nullptr".
