@@ -1,6 +1,7 @@
 // Detail::copyBits against a model that holds one bit in each byte: every copy that a view can
 // issue, and random ones between any two buffers. Buffers are heap blocks of exactly their length,
-// so that address sanitizing sees an access beyond them.
+// so that address sanitizing sees an access beyond them. On short buffers every copy there is goes
+// against the proved loop, and the loop's merge of two bytes against its contract.
 
 #include <gtest/gtest.h>
 
@@ -110,6 +111,98 @@ TEST(CopyBits, anyOffsetsOfAnyBuffers) {
     const int srcBits = 8 * src.length();
     const int bits = below(std::min(dstBits, srcBits) + 1);
     ASSERT_TRUE(dst.copyFrom(src, bits, below(dstBits - bits + 1), below(srcBits - bits + 1)));
+  }
+}
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr int longest = 8;
+#else
+constexpr int longest = 16;
+#endif
+using Short = std::array<U8, longest>;
+
+/// Copies by both ways; whatever lies beyond a shorter buffer must stay too.
+bool isAsLoop(Short dst, int dstLength, const Short& src, int srcLength, int bits, int dstOffset,
+              int srcOffset) {
+  Short looped = dst;
+  detailCopyBitsLoop(looped.data(), src.data(), bits, dstOffset, srcOffset);
+  Detail::copyBits(dst.data(), dstLength, src.data(), srcLength, bits, dstOffset, srcOffset);
+  return std::memcmp(dst.data(), looped.data(), longest) == 0;
+}
+
+/// Every copy of at least `fewest` bits between buffers of these lengths.
+template <class Check>
+::testing::AssertionResult everyCopy(int dstLength, int srcLength, int fewest, const Check& check) {
+  for (int bits = fewest; bits <= 8 * std::min(dstLength, srcLength); ++bits) {
+    for (int into = 0; into + bits <= 8 * dstLength; ++into) {
+      for (int from = 0; from + bits <= 8 * srcLength; ++from) {
+        if (check(bits, into, from)) continue;
+        return ::testing::AssertionFailure()
+               << bits << " bits from " << from << " of " << srcLength << " bytes to " << into
+               << " of " << dstLength << " bytes";
+      }
+    }
+  }
+  return ::testing::AssertionSuccess();
+}
+
+TEST(CopyBits, everyCopyOfShortBuffersIsThatOfTheProvedLoop) {
+  std::mt19937_64 random(4);
+  Short dst;
+  Short src;
+  for (int dstLength = 1; dstLength <= longest; ++dstLength) {
+    for (int srcLength = 1; srcLength <= longest; ++srcLength) {
+      for (U8& byte : dst) byte = static_cast<U8>(random());
+      for (U8& byte : src) byte = static_cast<U8>(random());
+      ASSERT_TRUE(everyCopy(dstLength, srcLength, 0, [&](int bits, int into, int from) {
+        return isAsLoop(dst, dstLength, src, srcLength, bits, into, from);
+      }));
+    }
+  }
+}
+
+// Each source bit alone over zeros and its opposite over ones, and all bits together: in the copies
+// that one window takes and in those that it does not.
+TEST(CopyBits, eachBitAloneGoesWhereTheProvedLoopPutsIt) {
+  for (const int length : {3, longest}) {
+    const int fewest = length == 3 ? 1 : 8 * longest - 24;
+    for (int bit = 0; bit <= 8 * length; ++bit) {
+      Short src{};
+      if (bit < 8 * length) src[static_cast<std::size_t>(bit / 8)] = static_cast<U8>(1 << bit % 8);
+      Short opposite = src;
+      for (U8& byte : opposite) byte = static_cast<U8>(~byte);
+      Short zeros{};
+      Short ones;
+      ones.fill(0xff);
+      ASSERT_TRUE(everyCopy(length, length, fewest,
+                            [&](int bits, int into, int from) {
+                              return isAsLoop(zeros, length, src, length, bits, into, from) &&
+                                     isAsLoop(ones, length, opposite, length, bits, into, from) &&
+                                     isAsLoop(ones, length, src, length, bits, into, from);
+                            }))
+          << "bit " << bit;
+    }
+  }
+}
+
+TEST(MergeBits, everyInputIsAsTheContractOfTheLoopSays) {
+  const auto bitsOf = [](int byte, int bit, int count) { return byte >> bit & ((1 << count) - 1); };
+  for (int count = 1; count <= 8; ++count) {
+    for (int into = 0; into <= 8 - count; ++into) {
+      for (int from = 0; from <= 8 - count; ++from) {
+        for (int pair = 0; pair < 1 << 16; ++pair) {
+          const int old = pair >> 8;
+          const int add = pair & 0xff;
+          const int merged =
+              detailMergeBits(static_cast<U8>(old), static_cast<U8>(add), count, into, from);
+          const int above = into + count;
+          ASSERT_TRUE(bitsOf(merged, into, count) == bitsOf(add, from, count) &&
+                      bitsOf(merged, 0, into) == bitsOf(old, 0, into) &&
+                      bitsOf(merged, above, 8 - above) == bitsOf(old, above, 8 - above))
+              << old << ' ' << add << ' ' << count << ' ' << into << ' ' << from;
+        }
+      }
+    }
   }
 }
 
