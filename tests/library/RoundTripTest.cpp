@@ -1,11 +1,15 @@
-// Every field on every chip, written and read back in a heap buffer of exactly the bytes that it
-// needs, against a bit-by-bit model: all ones, all zeros and random values over both backgrounds;
-// the bits around the field stay. Buffers start at odd addresses.
+// Every field on every chip, written and read back in a buffer of exactly the bytes that it needs,
+// against a bit-by-bit model: all ones, all zeros and random values over both backgrounds; the bits
+// around the field stay. Buffers are heap blocks, some at odd addresses, and such as end or start
+// at a protected page, where an access beyond them ends the program.
 
 #include <gtest/gtest.h>
+#include <sys/mman.h>
+#include <unistd.h>
 
 #include <memory>
 #include <random>
+#include <stdexcept>
 
 #include "Morvo/VectorOutOfRange.h"
 #include "support/ClassProbes.h"
@@ -16,32 +20,40 @@ namespace {
 
 bool bitOf(const U8* bytes, U32 bit) { return (bytes[bit / 8] >> bit % 8 & 1) != 0; }
 
-/// A heap buffer of exactly so many bytes; odd ones begin one byte into their allocation.
-class ExactBuffer {
+/// A page between two that nobody may touch.
+class GuardedPage {
  public:
-  ExactBuffer(std::size_t size, bool isOdd, U8 fill)
-      : size_(size), lead_(isOdd ? 1 : 0), bytes_(new U8[size + lead_]) {
-    std::fill_n(bytes_.get(), size + lead_, fill);
+  GuardedPage() {
+    void* pages = mmap(nullptr, 3 * size_, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (pages == MAP_FAILED) throw std::runtime_error("no pages");
+    start_ = static_cast<U8*>(pages) + size_;
+    if (mprotect(start_, size_, PROT_READ | PROT_WRITE) != 0) throw std::runtime_error("no page");
   }
-  U8* data() { return bytes_.get() + lead_; }
-  U16 size() const { return static_cast<U16>(size_); }
+  ~GuardedPage() { munmap(start_ - size_, 3 * size_); }
+  GuardedPage(const GuardedPage&) = delete;
+  GuardedPage& operator=(const GuardedPage&) = delete;
+
+  U8* atStart() const { return start_; }
+  U8* atEnd(std::size_t bytes) const { return start_ + size_ - bytes; }
 
  private:
-  std::size_t size_;
-  std::size_t lead_;
-  std::unique_ptr<U8[]> bytes_;
+  std::size_t size_ = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+  U8* start_;
 };
 
+std::size_t bytesFor(GoldenField::Place place) { return (place.offset + place.width + 7) / 8; }
+
 void checkRoundTrip(const ClassProbe& probe, const FieldProbe& field, U32 chip,
-                    GoldenField::Place place, const Words& value, U8 background, bool isOdd) {
-  ExactBuffer buffer((place.offset + place.width + 7) / 8, isOdd, background);
-  const auto view = probe.make(chip, buffer.data(), buffer.size(), 0);
+                    GoldenField::Place place, const Words& value, U8 background, U8* buffer) {
+  const std::size_t size = bytesFor(place);
+  std::fill_n(buffer, size, background);
+  const auto view = probe.make(chip, buffer, static_cast<U16>(size), 0);
   field.set(*view, value);
-  for (U32 bit = 0; bit < 8U * buffer.size(); ++bit) {
+  for (U32 bit = 0; bit < 8 * size; ++bit) {
     const bool isInside = bit >= place.offset && bit < place.offset + place.width;
     const U32 at = bit - place.offset;
     const bool expected = isInside ? (value[at / 32] >> at % 32 & 1) != 0 : (background & 1) != 0;
-    ASSERT_EQ(bitOf(buffer.data(), bit), expected) << "bit " << bit;
+    ASSERT_EQ(bitOf(buffer, bit), expected) << "bit " << bit;
   }
   const Words read = field.get(*view);
   ASSERT_GE(32 * read.size(), place.width);
@@ -56,6 +68,7 @@ class RoundTrip : public testing::TestWithParam<std::size_t> {};
 
 TEST_P(RoundTrip, exactBuffers) {
   const ClassProbe& probe = classProbes()[GetParam()];
+  const GuardedPage page;
   std::mt19937 random(7);
   for (const GoldenField& expected : goldenClass(probe.name).fields) {
     const FieldProbe& field = probe.field(expected.accessor);
@@ -66,9 +79,15 @@ TEST_P(RoundTrip, exactBuffers) {
       if (field.isScalar() && place.width % 32 != 0) ones.back() >>= 32 - place.width % 32;
       Words some = ones;
       for (U32& word : some) word &= static_cast<U32>(random());
+      const std::size_t bytes = bytesFor(place);
+      const std::unique_ptr<U8[]> heap(new U8[bytes]);
+      const std::unique_ptr<U8[]> oddHeap(new U8[bytes + 1]);
       for (const Words& value : {ones, Words(ones.size(), 0), some}) {
-        checkRoundTrip(probe, field, chip, place, value, 0x00, false);
-        checkRoundTrip(probe, field, chip, place, value, 0xff, true);
+        for (const U8 background : {U8{0x00}, U8{0xff}}) {
+          for (U8* buffer : {heap.get(), oddHeap.get() + 1, page.atStart(), page.atEnd(bytes)}) {
+            checkRoundTrip(probe, field, chip, place, value, background, buffer);
+          }
+        }
       }
       if (HasFatalFailure()) return;
     }
