@@ -21,37 +21,42 @@ constexpr U32 alignedBits = 33;
 /// These few lines are the body of every accessor: inline them whatever the compiler thinks.
 #define DETAIL_INLINE [[gnu::always_inline]] inline
 
-template <class T>
-DETAIL_INLINE T loadBytes(const U8* from) {
-  T value;
-  std::memcpy(&value, from, sizeof(value));
+// The copy touches data through these two alone, and otherwise only shifts, masks and joins what
+// they give: the rest takes any kind of memory, so that a test can run it on bits that have no value.
+
+/// `count` bytes as an integer.
+template <int count>
+DETAIL_INLINE U64 loadBytes(const U8* from) {
+  U64 value = 0;
+  std::memcpy(&value, from, count);
   return value;
 }
 
-template <class T>
-DETAIL_INLINE void storeBytes(U8* into, T value) {
-  std::memcpy(into, &value, sizeof(value));
+/// Writes the low `count` bytes of `value`.
+template <int count>
+DETAIL_INLINE void storeBytes(U8* into, U64 value) {
+  std::memcpy(into, &value, count);
 }
 
 /// A whole buffer of 1 to 7 bytes as an integer.
-DETAIL_INLINE U64 loadShort(const U8* from, U32 len) {
-  if (len >= 4) {
-    return loadBytes<U32>(from) | static_cast<U64>(loadBytes<U32>(from + len - 4)) << 8 * (len - 4);
-  }
-  if (len == 1) return from[0];
-  return loadBytes<U16>(from) | static_cast<U64>(loadBytes<U16>(from + len - 2)) << 8 * (len - 2);
+template <class Memory>
+DETAIL_INLINE auto loadShort(Memory from, U32 len) {
+  if (len >= 4) return loadBytes<4>(from) | loadBytes<4>(from + (len - 4)) << 8 * (len - 4);
+  if (len == 1) return loadBytes<1>(from);
+  return loadBytes<2>(from) | loadBytes<2>(from + (len - 2)) << 8 * (len - 2);
 }
 
 /// Writes a whole buffer of 1 to 7 bytes.
-DETAIL_INLINE void storeShort(U8* into, U32 len, U64 value) {
+template <class Memory, class Word>
+DETAIL_INLINE void storeShort(Memory into, U32 len, Word value) {
   if (len >= 4) {
-    storeBytes<U32>(into, static_cast<U32>(value));
-    storeBytes<U32>(into + len - 4, static_cast<U32>(value >> 8 * (len - 4)));
+    storeBytes<4>(into, value);
+    storeBytes<4>(into + (len - 4), value >> 8 * (len - 4));
   } else if (len == 1) {
-    into[0] = static_cast<U8>(value);
+    storeBytes<1>(into, value);
   } else {
-    storeBytes<U16>(into, static_cast<U16>(value));
-    storeBytes<U16>(into + len - 2, static_cast<U16>(value >> 8 * (len - 2)));
+    storeBytes<2>(into, value);
+    storeBytes<2>(into + (len - 2), value >> 8 * (len - 2));
   }
 }
 
@@ -61,43 +66,48 @@ DETAIL_INLINE U32 windowStart(U32 len, U32 start) {
 }
 
 /// Up to 57 bits at `offset`, in the low bits of the result; the bits above are arbitrary.
-DETAIL_INLINE U64 readWindow(const U8* src, U32 len, U32 offset) {
+template <class Memory>
+DETAIL_INLINE auto readWindow(Memory src, U32 len, U32 offset) {
   if (len < windowBytes) return loadShort(src, len) >> offset;
   const U32 start = windowStart(len, offset / 8);
-  return loadBytes<U64>(src + start) >> (offset - 8 * start);
+  return loadBytes<8>(src + start) >> (offset - 8 * start);
 }
 
 /// Puts the low `bits` bits of `value` at `offset`, in a window from byte `start` or near it.
-DETAIL_INLINE void writeWindow(U8* dst, U32 len, U32 start, U32 offset, U32 bits, U64 value) {
+template <class Memory, class Word>
+DETAIL_INLINE void writeWindow(Memory dst, U32 len, U32 start, U32 offset, U32 bits, Word value) {
   const U64 mask = ~(~U64{0} << bits);
   if (len < windowBytes) {
-    const U64 old = loadShort(dst, len);
+    const Word old = loadShort(dst, len);
     storeShort(dst, len, (old & ~(mask << offset)) | (value & mask) << offset);
     return;
   }
   start = windowStart(len, start);
   const U32 shift = offset - 8 * start;
-  const U64 old = loadBytes<U64>(dst + start);
-  storeBytes<U64>(dst + start, (old & ~(mask << shift)) | (value & mask) << shift);
+  const Word old = loadBytes<8>(dst + start);
+  storeBytes<8>(dst + start, (old & ~(mask << shift)) | (value & mask) << shift);
 }
 
 /// The same for up to 33 bits, which a window on a multiple of 4 bytes holds wherever they are.
 /// Writes side by side then meet in the same window, and none waits for a part of the one before.
-DETAIL_INLINE void writeAligned(U8* dst, U32 len, U32 offset, U32 bits, U64 value) {
+template <class Memory, class Word>
+DETAIL_INLINE void writeAligned(Memory dst, U32 len, U32 offset, U32 bits, Word value) {
   writeWindow(dst, len, offset / 32 * 4, offset, bits, value);
 }
 
 /// 64 bits from bit `shift` (0 to 7) of the first byte; reads no byte beyond the last of them.
-DETAIL_INLINE U64 read64(const U8* src, U32 shift) {
+template <class Memory>
+DETAIL_INLINE auto read64(Memory src, U32 shift) {
   // The ninth byte, or the eighth again where `shift` is 0 and it adds nothing.
-  const U64 high = src[(shift + 63) / 8];
-  return loadBytes<U64>(src) >> shift | high << 1 << (63 - shift);
+  const auto high = loadBytes<1>(src + (shift + 63) / 8);
+  return loadBytes<8>(src) >> shift | high << 1 << (63 - shift);
 }
 
 /// Copies more bits than one window takes, 8 bytes of `dst` at a time. Of `dst` nothing is read but
 /// the bytes that the range shares with other bits, so that no read waits for a write.
-[[gnu::noinline]] inline void copyBitsWide(U8* dst, U32 dstLen, const U8* src, U32 srcLen, U32 bits,
-                                           U32 dstOffset, U32 srcOffset) {
+template <class Into, class From>
+[[gnu::noinline]] void copyBitsWide(Into dst, U32 dstLen, From src, U32 srcLen, U32 bits,
+                                    U32 dstOffset, U32 srcOffset) {
   if (bits < 64) {
     const U32 half = bits / 2;
     writeAligned(dst, dstLen, dstOffset, half, readWindow(src, srcLen, srcOffset));
@@ -110,18 +120,31 @@ DETAIL_INLINE U64 read64(const U8* src, U32 shift) {
   const U32 below = dstOffset % 8;                      // bits of the first byte that stay
   const U32 above = 8 * (last + 1) - dstOffset - bits;  // bits of the last byte that stay
   const U32 end = srcOffset + bits - 64;                // the last 64 bits
-  const U64 head = read64(src + srcOffset / 8, srcOffset % 8) << below;
-  const U64 tail = read64(src + end / 8, end % 8) >> above;
-  const U64 firstByte = dst[first] & ((1U << below) - 1);
-  const U64 lastByte = dst[last] & ~(0xffU >> above);
+  const auto head = read64(src + srcOffset / 8, srcOffset % 8) << below;
+  const auto tail = read64(src + end / 8, end % 8) >> above;
+  const auto firstByte = loadBytes<1>(dst + first) & ((1U << below) - 1);
+  const auto lastByte = loadBytes<1>(dst + last) & ~(0xffU >> above);
 
-  storeBytes<U64>(dst + first, head | firstByte);
+  storeBytes<8>(dst + first, head | firstByte);
   const U32 next = srcOffset + 64 - below;
-  const U8* from = src + next / 8;
-  for (U32 into = first + 8; into < last - 7; into += 8, from += 8) {
-    storeBytes<U64>(dst + into, read64(from, next % 8));
+  From from = src + next / 8;
+  for (U32 into = first + 8; into < last - 7; into += 8, from = from + 8) {
+    storeBytes<8>(dst + into, read64(from, next % 8));
   }
-  storeBytes<U64>(dst + last - 7, tail | lastByte << 56);
+  storeBytes<8>(dst + (last - 7), tail | lastByte << 56);
+}
+
+/// copyBits(), for any kind of memory.
+template <class Into, class From>
+DETAIL_INLINE void moveBits(Into dst, U32 dstLen, From src, U32 srcLen, U32 bits, U32 dstOffset,
+                            U32 srcOffset) {
+  if (bits - 1 < alignedBits) {
+    writeAligned(dst, dstLen, dstOffset, bits, readWindow(src, srcLen, srcOffset));
+  } else if (bits - 1 < windowBits) {
+    writeWindow(dst, dstLen, dstOffset / 8, dstOffset, bits, readWindow(src, srcLen, srcOffset));
+  } else if (bits > 0) {
+    copyBitsWide(dst, dstLen, src, srcLen, bits, dstOffset, srcOffset);
+  }
 }
 
 /// Copies `bits` bits from bit `srcOffset` of `src` to bit `dstOffset` of `dst`. Lengths are in
@@ -130,18 +153,8 @@ DETAIL_INLINE U64 read64(const U8* src, U32 shift) {
 /// outside the buffers is read or written, and neither needs any alignment.
 DETAIL_INLINE void copyBits(U8* dst, int dstLen, const U8* src, int srcLen, int bits, int dstOffset,
                             int srcOffset) {
-  const U32 into = static_cast<U32>(dstOffset);
-  const U32 from = static_cast<U32>(srcOffset);
-  const U32 count = static_cast<U32>(bits);
-  const U32 intoLen = static_cast<U32>(dstLen);
-  const U32 fromLen = static_cast<U32>(srcLen);
-  if (count - 1 < alignedBits) {
-    writeAligned(dst, intoLen, into, count, readWindow(src, fromLen, from));
-  } else if (count - 1 < windowBits) {
-    writeWindow(dst, intoLen, into / 8, into, count, readWindow(src, fromLen, from));
-  } else if (bits > 0) {
-    copyBitsWide(dst, intoLen, src, fromLen, count, into, from);
-  }
+  moveBits(dst, static_cast<U32>(dstLen), src, static_cast<U32>(srcLen), static_cast<U32>(bits),
+           static_cast<U32>(dstOffset), static_cast<U32>(srcOffset));
 }
 
 #undef DETAIL_INLINE
