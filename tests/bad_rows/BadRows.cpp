@@ -1,5 +1,5 @@
-// A table that is sound until one slip is made in it, chosen by SLIP: each must be refused with its
-// own sentence when it is compiled.
+// A table and a list of identifiers that are sound until one slip is made in them, chosen by SLIP:
+// each must be refused with its own sentence when it is compiled.
 
 #include "framework/Definitions.h"
 
@@ -75,9 +75,17 @@
 #elif SLIP == 16  // variants on an early chip
 #undef RULE_SLIP
 #define RULE_SLIP variantZero
+#elif SLIP == 17 || SLIP == 18
+#undef VELMAR_FIELD_IDS_AFTER_PORTS
+#if SLIP == 17  // a number twice
+#define VELMAR_FIELD_IDS_AFTER_PORTS(ID) ID(585, STG) ID(585, VFI)
+#else           // a name out of order
+#define VELMAR_FIELD_IDS_AFTER_PORTS(ID) ID(585, VFI) ID(586, STG)
+#endif
 #endif
 
 #include "Velmar/Declarations.h"
+#include "framework/FieldId.cpp"
 
 namespace Velmar {
 
