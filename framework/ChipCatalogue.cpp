@@ -4,10 +4,9 @@ namespace Velmar {
 namespace Framework {
 
 const char* chipName(U32 chipType) {
-  for (const ChipName& chip : chipNames) {
-    if (chip.number == chipType) return chip.name;
-  }
-  return nullptr;
+  const ChipName* chip = chipNames;
+  while (chip->number != chipType) ++chip;
+  return chip->name;
 }
 
 }  // namespace Framework

@@ -58,7 +58,7 @@ const Layout& layoutOf(const std::vector<Layout>& layouts, U32 chipType) {
 }
 
 FamilyRule ruleOf(const Catalogue::Table& table, const Family& family, const Layout& layout) {
-  FamilyRule rule = {true, 0, 0, 0, 0};
+  FamilyRule rule = {false, 0, 0, 0, 0};
   for (U32 i = 0; i < family.count; ++i) {
     const Catalogue::BitRange range = table.range(family.first + i, layout.chipType());
     if (range.width == 0) continue;

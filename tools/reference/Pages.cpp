@@ -159,10 +159,6 @@ std::string familyTableOf(const Catalogue::Table& table, const std::vector<Layou
   MarkdownTable rules({"Layout", "n"}, {"Width", "Offset"});
   for (const Layout& layout : layouts) {
     const FamilyRule rule = ruleOf(table, family, layout);
-    if (rule.present == 0) {
-      rules.addRow({layout.name, "none", "-", "-"});
-      continue;
-    }
     const std::string start = rule.offset == 0 ? "" : std::to_string(rule.offset) + " + ";
     rules.addRow(
         {layout.name,

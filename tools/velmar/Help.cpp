@@ -1,7 +1,8 @@
 #include "Help.h"
 
-#include "Formatting.h"
+#include <algorithm>
 
+#include "Formatting.h"
 #include "Listing.h"
 #include "Text.h"
 
@@ -14,11 +15,7 @@ constexpr size_t headingWidth = 26;
 /// A heading with its meaning beside it, the meaning wrapped.
 std::string item(const std::string& heading, const std::string& meaning, size_t width) {
   std::string text = "  " + heading;
-  if (text.size() + 2 > width) {
-    text += '\n' + std::string(width, ' ');
-  } else {
-    text.resize(width, ' ');
-  }
+  text.resize(std::max(text.size() + 2, width), ' ');
   bool first = true;
   for (const std::string& line : wrap(meaning, lineWidth - width)) {
     if (!first) text += std::string(width, ' ');

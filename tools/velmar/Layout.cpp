@@ -59,11 +59,7 @@ bool Layout::hasBitsOutside(const U8* entry) const {
   return false;
 }
 
-std::string blockText(U32 block) {
-  if (block == 1) return "1 (ingress)";
-  if (block == 2) return "2 (egress)";
-  return formatText("{}", block);
-}
+std::string blockText(U32 block) { return block == 1 ? "1 (ingress)" : "2 (egress)"; }
 
 std::string addressText(U32 address) { return formatText("0x{:08x}", address); }
 

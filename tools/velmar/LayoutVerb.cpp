@@ -27,13 +27,9 @@ Listing fieldListing(const Layout& layout) {
 
 std::string addressRule(const Layout& layout) {
   const Catalogue::Geometry& geometry = layout.geometry();
-  std::string rule = addressText(geometry.base);
-  rule += layout.isRegisterArray() ? formatText(" + element * {}", geometry.addrStride)
-                                   : std::string(" + index");
-  if (geometry.identifiers > 1 && geometry.identifierTerm != 0) {
-    rule += formatText(" + identifier * {}", geometry.identifierTerm);
-  }
-  return rule;
+  return addressText(geometry.base) + (layout.isRegisterArray()
+                                           ? formatText(" + element * {}", geometry.addrStride)
+                                           : std::string(" + index"));
 }
 
 /// The geometry as a listing of one row, so that it prints like any other.

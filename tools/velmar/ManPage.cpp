@@ -11,10 +11,8 @@ namespace {
 std::string escaped(const std::string& text) {
   std::string safe;
   for (const char letter : text) {
-    if (letter == '\\') {
-      safe += "\\e";
-    } else if (letter == '-') {
-      safe += "\\-";
+    if (letter == '-' || letter == '\\') {
+      safe += {'\\', letter};
     } else if (letter == '\'') {
       safe += "\\(aq";
     } else {

@@ -50,19 +50,9 @@ bool wantsColor(const std::string& color, bool terminal) {
 }
 
 const char* escapeOf(Style style) {
-  switch (style) {
-    case Style::strong:
-      return "\033[1m";
-    case Style::faint:
-      return "\033[2m";
-    case Style::removed:
-      return "\033[31m";
-    case Style::added:
-      return "\033[32m";
-    case Style::plain:
-      break;
-  }
-  return "";
+  // In the order of the styles.
+  constexpr const char* escapes[] = {"", "\033[1m", "\033[2m", "\033[31m", "\033[32m"};
+  return escapes[static_cast<size_t>(style)];
 }
 
 }  // namespace

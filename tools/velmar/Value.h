@@ -19,7 +19,6 @@ class Value {
   /// Puts the value into an entry. The widths of field and value must agree.
   void write(const FieldPlace& place, U8* entry, U32 entryBytes) const;
 
-  U32 width() const { return width_; }
   bool isZero() const;
   friend bool operator==(const Value& a, const Value& b);
   friend bool operator!=(const Value& a, const Value& b) { return !(a == b); }
