@@ -54,6 +54,7 @@ chips = {table.chip for table in tables}
 check(set(completions("decode", "")) == names, "completion of tables")
 check(set(completions("decode", "VlanEntry", "--chip", "")) == chips, "completion of chips")
 check(completions("decode", "vlan", "--chip", "5699")[0].startswith("BCM5699"), "chip by number")
+check(completions("decode", "VlanEntry", "") == [], "completion of a file is the shell's")
 check(completions("decode", "nothing", "--fields", "") == [], "completion of an unknown table")
 for table in tables[::9]:
     on_chip = {other.name for other in tables if other.chip == table.chip}

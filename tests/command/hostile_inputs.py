@@ -10,7 +10,7 @@ import random
 import resource
 import tempfile
 
-from command import check, finish, program, run
+from command import check, finish, program, run, source
 
 random.seed(4)
 vlan = ("VlanEntry", "--chip", "BCM56990_B0")
@@ -65,20 +65,24 @@ for data, *words in (
         (b"00000000: " + b"4142 " * 8 + b" BABABABABABABABA\n", ":1:", "--hex-order"),
         (b"00000000: " + b"0000 " * 8 + b"\n*\nffffffffffffffff: 00\n", ":3:"),
         (b"00000000: " + b"0000 " * 8 + b"\n*\n", ":3:"),
+        (b"00000000: 0011\n", "2 bytes", "multiple of 16"),
         (b"{", "ends early"),
+        (b'{"a":"\\', "ends early"),
         (b"[", "ends early"),
         (b'{"entries":[', "ends early"),
         (b'{"entries":[{"index":0,"fields":{}}', "ends early"),
         (b'{"entries":5}', "array"),
+        (b'{"entries":[],"entries":[]}', "second array"),
         (b'{"entries":[{"fields":{}}{"fields":{}}]}', "comma"),
         (b'{"table":"VlanEntry","chip":"BCM56980_A0","entries":[]}', "BCM56980_A0"),
         (b'{"index":0,"fields":{"stg":64}}', ":1:", "0x3f"),
-        (b'\n\n{"index":0,"fields":{"nofield":1}}', ":3:", "nofield"),
+        (b'\n\n{"index":0,"fields":{"no\\u0066ield":1}}', ":3:", "nofield"),
         (b'{"index":0,"fields":{"stg":-1}}', "negative"),
         (b'{"index":0,"fields":{"stg":1.5}}', "fractional"),
         (b'{"index":0,"fields":{"stg":null}}', "stg"),
         (b'{"index":0,"fields":{"stg":{"hex":"0x1","decimal":2}}}', "disagree"),
         (b'{"index":0,"fields":{"stg":{}}}', "stg"),
+        (b'{"index":0,"fields":{"stg":{"binary":1}}}', "hex, decimal and ports only"),
         (b'{"index":0,"fields":[]}', "fields"),
         (b'{"index":-1,"fields":{}}', "index"),
         (b'{"index":0,"fields":{},"outsideFields":"0x1"}', "inside fields"),
@@ -91,6 +95,24 @@ for data, *words in (
         (b'{"a":"' + b"x" * 2 * megabytes, "1 MiB"),
         (b"00 " * megabytes, ":1:", "longer")):
     refused(decode, data, *words)
+
+# Options and documents that do not go with what is read.
+overlaps = ("IngVpVlanMembership", "--chip", "21")
+overlapping = b'\n{"index":0,"fields":{"vlan":1,"hashLsb":2}}'
+for arguments, data, *words in (
+        ((*decode, "--hex-order", "int"), b"1" * 33, ":1:", "16 bytes"),
+        ((*decode, "--hex-order", "bytes"), b"123\n", ":1:", "3 digits", "whole bytes"),
+        ((*decode, "--hex-order", "words"), b"1234\n", ":1:", "4 digits", "32-bit words"),
+        ((*decode, "--input", "xxd", "--hex-order", "int"), b"", "bytes or words"),
+        (("decode", *overlaps, "-"), overlapping, ":2:", "share bits"),
+        (("encode", *overlaps, "@-"), overlapping, ":2:", "share bits"),
+        (("encode", *vlan, "@-"), b'{"stg":1}\n{"stg":2}', ":2:", "second object"),
+        (("encode", *vlan, "@-", "--whole"), b'{"index":8192,"fields":{}}', "8192 is beyond"),
+        (("encode", *vlan, "@-", "--whole"),
+         b'{"index":5,"fields":{}}{"index":4,"fields":{}}', "entry 4 comes after entry 5"),
+        (("encode", *vlan, "@-", "--base", os.path.join(source, "samples", "vlan-bcm56990.bin")),
+         b'{"index":8192,"fields":{}}', ":1:", "entry 8192 is not in")):
+    refused(arguments, data, *words)
 
 # Command lines.
 for arguments, *words in (
@@ -121,16 +143,22 @@ for arguments, *words in (
         (("decode", *vlan, "/nonexistent/dump"), "/nonexistent/dump"),
         (("decode", *vlan, "/"), "/:", "directory"),
         (("decode", *vlan, "-", "-o", "/nonexistent/out"), "/nonexistent/out"),
+        (("chips", "-o", "x" * 5000), "too long"),
+        (("chips", "-o", "/dev/full"), "/dev/full: cannot write"),
+        (("chips", "33"), "unexpected argument"),
         (("encode", *vlan, "stg=64"), "0x3f"),
         (("encode", *vlan, "stg="), "no number"),
+        (("encode", *vlan, "stg=99999999999999999999"), "more than 64 bits"),
         (("encode", *vlan, "=5"), "FIELD=VALUE"),
         (("encode", *vlan, "stg=1", "stg=2"), "twice"),
         (("encode", *vlan, "--index", "8192", "stg=1"), "8191"),
         (("encode", *vlan, "--base", "-", "@-"), "standard input"),
+        (("encode", *vlan, "--base", "-", "--index", "5", "stg=1"), "no entry has an index in 5"),
         (("compare", "Vlan2Entry", "--chip", "33", "--chip", "34"), "exists on"),
         (("encode", *vlan, "@/nonexistent"), "/nonexistent"),
         (("encode", "VlanEntry", "--chip", "56960", "portBitmap=136"), "0 to 135"),
         (("encode", "VlanEntry", "--chip", "56960", "portBitmap=9-4"), "backwards"),
+        (("encode", "VlanEntry", "--chip", "56960", "portBitmap=1,x"), '"x" is no port'),
         (("encode", "VlanEntry", "--chip", "56960", "portBitmap=0-99999999999"), "0 to 135"),
         (("encode", "IngVpVlanMembership", "--chip", "21", "vlan=1", "hashLsb=2"), "share bits"),
         (("diff", *vlan, "a"), "two"),
@@ -140,6 +168,8 @@ for arguments, *words in (
         (("addr", *vlan), "--index"),
         (("addr", *vlan, "--index", "8192"), "8191"),
         (("addr", *vlan, "--array", "0"), "--index"),
+        (("addr", *vlan, "--array", "0", "--index", "0"), "exclude"),
+        (("addr", *vlan, "--find", "0", "--index", "0"), "--find excludes"),
         (("addr", *vlan, "--index", "0", "--identifier", "1"), "--identifier"),
         (("addr", "IgmpMldPktControl", "--chip", "6", "--array", "64"), "63"),
         (("addr", "--chip", "33", "--find", "0x100000000"), "--find"),
@@ -149,6 +179,12 @@ for arguments, *words in (
         check(run()[0] == 2 and "Usage" in run()[2], "velmar alone explains itself")
     else:
         refused(arguments, b"\0" * 16, *words)
+
+# An entry that takes more memory than there is.
+if not is_sanitized:
+    code, _, errors = run(*decode, data=b'{"a":"' + b"x" * 1000000 + b'"}', preexec_fn=lambda: (
+        resource.setrlimit(resource.RLIMIT_DATA, (4 * megabytes, 4 * megabytes))))
+    check(code == 2 and "out of memory" in errors, f"no memory: exit {code}, {errors!r}")
 
 # Random bytes, and good input with random bytes changed, as every format.
 samples = [hex16 + b"\n", b"00000000: " + b"0011 " * 8 + b" ................\n",

@@ -18,18 +18,21 @@ from command import check, finish, program, run
 columns = 70
 
 
-def on_terminal(*arguments, feed=None, stdout_too=True, **environment):
+def on_terminal(*arguments, feed=None, stdin_too=False, stdout_too=True, width=columns,
+                **environment):
     """What the command writes to a terminal; `feed` writes to its standard input meanwhile."""
     ours, theirs = pty.openpty()
-    fcntl.ioctl(theirs, termios.TIOCSWINSZ, struct.pack("HHHH", 24, columns, 0, 0))
+    fcntl.ioctl(theirs, termios.TIOCSWINSZ, struct.pack("HHHH", 24, width, 0, 0))
     variables = {name: value for name, value in os.environ.items() if name != "NO_COLOR"}
-    process = subprocess.Popen([program, *arguments], stdin=subprocess.PIPE, stderr=theirs,
+    process = subprocess.Popen([program, *arguments], stderr=theirs,
+                               stdin=theirs if stdin_too else subprocess.PIPE,
                                stdout=theirs if stdout_too else subprocess.DEVNULL,
                                env={**variables, "TERM": "xterm", **environment})
     os.close(theirs)
     if feed:
         feed(process.stdin)
-    process.stdin.close()
+    if process.stdin:
+        process.stdin.close()
     text = b""
     while True:
         try:
@@ -64,6 +67,9 @@ lines = plain(text).splitlines()
 check(code == 0 and max(map(len, lines[1:])) <= columns, "decode: wider than the terminal")
 check(squeezed(plain(text)) == squeezed(piped), "decode: letters are lost")
 
+_, text_of_80 = on_terminal("tables", "--color", "never", width=0)
+check(columns < max(map(len, text_of_80.splitlines())) <= 80, "a terminal of unknown width has 80")
+
 check("\x1b[" in text and "\x1b" not in piped, "colours on a terminal only")
 for arguments, environment in ((("--color", "never"), {}), ((), {"NO_COLOR": "1"}),
                                ((), {"TERM": "dumb"})):
@@ -73,6 +79,9 @@ check("\x1b" in on_terminal("chips", "--color", "always", NO_COLOR="1")[1], "--c
 
 code, text = on_terminal("encode", "VlanEntry", "--chip", "33", "stg=1", "-f", "raw")
 check(code == 2 and "-o FILE" in text, f"raw bytes on a terminal: {text!r}")
+
+code, text = on_terminal("decode", "VlanEntry", "--chip", "33", stdin_too=True)
+check(code == 2 and "no FILE given" in text, f"waits for a terminal's input: {text!r}")
 
 
 def slow(pipe):
