@@ -4,9 +4,10 @@ namespace Velmar {
 namespace Framework {
 
 const char* chipName(U32 chipType) {
-  const ChipName* chip = chipNames;
-  while (chip->number != chipType) ++chip;
-  return chip->name;
+  for (const ChipName& chip : chipNames) {
+    if (chip.number == chipType) return chip.name;
+  }
+  return nullptr;
 }
 
 }  // namespace Framework

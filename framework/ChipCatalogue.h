@@ -20,7 +20,7 @@ constexpr ChipName chipNames[] = {
 };
 constexpr U32 chipCount = sizeof(chipNames) / sizeof(chipNames[0]);
 
-/// The name of a chip that the library knows, such as "BCM56990_B0".
+/// The name of a chip, such as "BCM56990_B0"; null for an unknown chip.
 const char* chipName(U32 chipType);
 
 /// A set of chips.
