@@ -33,8 +33,7 @@ constexpr const char* sourceFile = "VelmarMetaInfo";
 class ShortName {
  public:
   explicit ShortName(const char* signature) {
-    const char* end = std::strchr(signature, '(');
-    if (end == nullptr) end = signature + std::strlen(signature);
+    const char* const end = std::strchr(signature, '(');
     const char* begin = end;
     while (begin != signature && begin[-1] != ':' && begin[-1] != ' ') --begin;
     const std::size_t length = std::min(static_cast<std::size_t>(end - begin), sizeof(text_) - 1);

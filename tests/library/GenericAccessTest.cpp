@@ -80,6 +80,18 @@ TEST(GenericAccess, absentFieldsFailInTheirOwnOffset) {
   }
 }
 
+TEST(GenericAccess, aDerivedViewThatClaimsAFieldGetsNoWidthForIt) {
+  struct Claiming : Velmar::VlanEntry {
+    using VlanEntry::VlanEntry;
+    bool isFieldValid(U32) const override { return true; }
+  };
+  const Claiming view(BCM56990_B0, nullptr, 0, false, 0);
+  ASSERT_FALSE(view.isPortBitmapValid());
+  EXPECT_EQ(assertionOf([&] { view.fieldWidth(0xffff); }).expression, "false");
+  EXPECT_EQ(assertionOf([&] { view.fieldWidth(Velmar::FieldId::PORT_BITMAP); }).function,
+            "U16 Velmar::VlanEntry::portBitmapLen() const");
+}
+
 TEST(GenericAccess, masksAreTheUnionOfTheFields) {
   for (const ClassProbe& probe : classProbes()) {
     const GoldenClass& golden = goldenClass(probe.name);
