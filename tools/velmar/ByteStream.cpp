@@ -14,8 +14,6 @@
 namespace Tool {
 namespace {
 
-constexpr size_t pieceSize = 1U << 17;
-
 bool isFile(int descriptor) {
   struct stat status;
   return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
@@ -28,8 +26,8 @@ bool isReady(int descriptor) {
 
 }  // namespace
 
-ByteStream::ByteStream(const std::string& path, std::function<void()> beforeWait)
-    : name_(path), descriptor_(STDIN_FILENO), beforeWait_(std::move(beforeWait)) {
+ByteStream::ByteStream(const std::string& path, std::function<void()> beforeWait, size_t piece)
+    : name_(path), descriptor_(STDIN_FILENO), beforeWait_(std::move(beforeWait)), piece_(piece) {
   if (path.empty() || path == "-") {
     name_ = "standard input";
     if (path.empty() && isatty(STDIN_FILENO) == 1) {
@@ -64,7 +62,7 @@ bool ByteStream::readMore() {
     end_ -= begin_;
     begin_ = 0;
   }
-  if (buffer_.size() - end_ < pieceSize) buffer_.resize(end_ + pieceSize);
+  if (buffer_.size() - end_ < piece_) buffer_.resize(end_ + piece_);
   if (mayWait_ && beforeWait_ && !isReady(descriptor_)) beforeWait_();
   for (;;) {
     const ssize_t count = read(descriptor_, buffer_.data() + end_, buffer_.size() - end_);

@@ -14,8 +14,8 @@ namespace Tool {
 class ByteStream {
  public:
   /// `path` "-" or empty: standard input. `beforeWait` is called before a read that may wait for
-  /// more input, so that what is done so far can be shown.
-  ByteStream(const std::string& path, std::function<void()> beforeWait);
+  /// more input, so that what is done so far can be shown. A read asks for `piece` bytes or more.
+  ByteStream(const std::string& path, std::function<void()> beforeWait, size_t piece = 1U << 17);
   ~ByteStream();
   ByteStream(const ByteStream&) = delete;
   ByteStream& operator=(const ByteStream&) = delete;
@@ -45,6 +45,7 @@ class ByteStream {
   int descriptor_;
   bool mayWait_;
   std::function<void()> beforeWait_;
+  size_t piece_;
   std::vector<U8> buffer_;
   size_t begin_ = 0;
   size_t end_ = 0;

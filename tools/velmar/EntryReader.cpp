@@ -57,7 +57,11 @@ std::string entrySizeText(U32 stride, const Layout& layout) {
 std::unique_ptr<EntryReader> openEntries(const std::string& path, const Layout& layout,
                                          const InputOptions& options,
                                          std::function<void()> beforeWait) {
-  auto stream = std::make_unique<ByteStream>(path, std::move(beforeWait));
+  return openEntries(std::make_unique<ByteStream>(path, std::move(beforeWait)), layout, options);
+}
+
+std::unique_ptr<EntryReader> openEntries(std::unique_ptr<ByteStream> stream, const Layout& layout,
+                                         const InputOptions& options) {
   const std::string format = options.format == "auto" ? detectFormat(*stream) : options.format;
   if (format == "raw") return readRaw(std::move(stream), layout, options);
   if (format == "xxd") return readXxd(std::move(stream), layout, options);

@@ -41,6 +41,8 @@ class EntryReader {
 std::unique_ptr<EntryReader> openEntries(const std::string& path, const Layout& layout,
                                          const InputOptions& options,
                                          std::function<void()> beforeWait);
+std::unique_ptr<EntryReader> openEntries(std::unique_ptr<ByteStream> stream, const Layout& layout,
+                                         const InputOptions& options);
 
 // The formats, each in a file of its own.
 std::unique_ptr<EntryReader> readRaw(std::unique_ptr<ByteStream> stream, const Layout& layout,
