@@ -31,10 +31,13 @@ class EntryReader {
  public:
   virtual ~EntryReader() = default;
 
-  /// Reads the next entry; false at the end.
-  virtual bool next(Entry& entry) = 0;
+  /// Reads the next entry; false at the end. Fails for an index of more than 32 bits.
+  bool next(Entry& entry);
   /// Whether the indexes ascend by the nature of the format.
   virtual bool isAscending() const { return false; }
+
+ private:
+  virtual bool read(Entry& entry) = 0;
 };
 
 /// Opens a dump in whatever format it is in.

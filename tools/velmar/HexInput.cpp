@@ -18,7 +18,7 @@ class HexReader : public EntryReader {
         order_(options.hexOrder),
         index_(options.first) {}
 
-  bool next(Entry& entry) override {
+  bool read(Entry& entry) override {
     for (std::string_view line; lines_.next(line);) {
       line = trim(line.substr(0, line.find('#')));
       if (line.empty()) continue;
@@ -47,6 +47,7 @@ class HexReader : public EntryReader {
       line.remove_prefix(colon + 1);
     }
     const std::vector<std::string_view> groups = hexGroups(line, place);
+    if (groups.empty()) place.fail("no digits after the index; check the line for lost digits");
     bytes_.clear();
     if (order_ == HexOrder::integer) {
       appendNumber(groups, entryBytes_, place, bytes_);

@@ -18,7 +18,7 @@ class RawReader : public EntryReader {
     if (bytes && *bytes % stride_ != 0) failSize(*bytes);
   }
 
-  bool next(Entry& entry) override {
+  bool read(Entry& entry) override {
     stream_->take(taken_);
     taken_ = 0;
     if (stream_->size() < stride_ && !stream_->need(stride_)) return atEnd();

@@ -24,7 +24,7 @@ class XxdReader : public EntryReader {
     }
   }
 
-  bool next(Entry& entry) override {
+  bool read(Entry& entry) override {
     pending_.erase(pending_.begin(), pending_.begin() + taken_);
     taken_ = 0;
     while (pending_.size() < stride_) {
