@@ -24,7 +24,9 @@ IndexSet::IndexSet(std::string_view text) {
     const U64 first = parseIndex(std::string_view(part).substr(0, dash));
     const U64 last =
         dash == std::string::npos ? first : parseIndex(std::string_view(part).substr(dash + 1));
-    if (last < first) fail("index range {} runs backwards; give the lower index first", part);
+    if (last < first) {
+      fail("index range {} runs backwards; give the lower index first", inQuotes(part));
+    }
     ranges_.emplace_back(first, last);
   }
   std::sort(ranges_.begin(), ranges_.end());

@@ -82,8 +82,8 @@ void checkSource(const Layout& layout, const json& object) {
   const std::string table = object.value("table", layout.name());
   const std::string chip = object.value("chip", layout.chip().name);
   if (simplified(table) != simplified(layout.name()) || chip != layout.chip().name) {
-    fail("an entry of {} on {}, not of {} on {}; give that table and chip", table, chip,
-         layout.name(), layout.chip().name);
+    fail("an entry of {} on {}, not of {} on {}; give that table and chip", inQuotes(table),
+         inQuotes(chip), layout.name(), layout.chip().name);
   }
 }
 
@@ -113,7 +113,7 @@ JsonInput::Part partOf(const Layout& layout, const json& object, U64 nextIndex) 
 
 /// The words of the JSON library's message, without its codes.
 std::string reasonOf(const json::exception& error) {
-  const std::string text = error.what();
+  const std::string text = printable(error.what());
   const size_t end = text.find("] ");
   return end == std::string::npos ? text : text.substr(end + 2);
 }
@@ -123,7 +123,7 @@ class JsonReader : public EntryReader {
   JsonReader(std::unique_ptr<ByteStream> stream, const Layout& layout, U64 first)
       : input_(std::move(stream), layout, first), builder_(layout) {}
 
-  bool next(Entry& entry) override {
+  bool read(Entry& entry) override {
     JsonInput::Part part;
     if (!input_.next(part)) return false;
     if (!part.index) {

@@ -57,15 +57,15 @@ std::string joinNumbers(const std::vector<U32>& numbers, std::string_view separa
   return join(parts, separator);
 }
 
+std::string printable(std::string_view text) {
+  std::string safe;
+  for (const char letter : text) safe += letter >= ' ' && letter <= '~' ? letter : '?';
+  return safe;
+}
+
 std::string inQuotes(std::string_view text) {
   constexpr size_t longest = 60;
-  std::string safe = "\"";
-  for (const char letter : text.substr(0, longest)) {
-    const bool printable = letter >= ' ' && letter <= '~';
-    safe += printable ? letter : '?';
-  }
-  safe += text.size() > longest ? "...\"" : "\"";
-  return safe;
+  return '"' + printable(text.substr(0, longest)) + (text.size() > longest ? "...\"" : "\"");
 }
 
 }  // namespace Tool

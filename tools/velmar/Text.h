@@ -26,7 +26,10 @@ bool isBlank(char letter);
 /// Value of a hexadecimal digit; negative for any other letter.
 int hexDigit(char letter);
 
-/// A text made fit for an error message: short, and without unprintable bytes.
+/// A text with "?" in place of each byte that is not printable ASCII.
+std::string printable(std::string_view text);
+
+/// A text made fit for an error message: short, and printable.
 std::string inQuotes(std::string_view text);
 
 }  // namespace Tool
