@@ -36,6 +36,9 @@ Address Layout::addressOf(U32 index, U32 identifier) const {
 }
 
 const FieldPlace& Layout::find(std::string_view name) const {
+  for (const FieldPlace& place : fields_) {
+    if (name == place.name()) return place;
+  }
   const U32 index = findField(table_, name);
   const Catalogue::Field field = table_.field(index);
   for (const FieldPlace& place : fields_) {
