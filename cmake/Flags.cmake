@@ -23,6 +23,12 @@ if(VELMAR_SANITIZE)
   add_link_options(-fsanitize=${VELMAR_SANITIZE})
 endif()
 
+# With clang: the fuzz targets search for inputs of their own, and all code tells them its coverage.
+option(VELMAR_FUZZ "build the fuzz targets with libFuzzer" OFF)
+if(VELMAR_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link -fno-sanitize-coverage=trace-cmp)
+endif()
+
 include(CheckLinkerFlag)
 check_linker_flag(CXX "LINKER:-z,pack-relative-relocs" VELMAR_HAS_PACKED_RELOCATIONS)
 

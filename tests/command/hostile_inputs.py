@@ -95,6 +95,7 @@ for data, *words in (
         (b'{"a":"' + b"x" * 2 * megabytes, "1 MiB"),
         (b"00 " * megabytes, ":1:", "longer")):
     refused(decode, data, *words)
+refused((*decode, "--hex-order", "int"), b"5:\n", ":1:", "no digits")
 
 # Options and documents that do not go with what is read.
 overlaps = ("IngVpVlanMembership", "--chip", "21")
