@@ -26,8 +26,10 @@ U64 scalarOf(const T& value) {
     }                                                                    \
   }
 
-#define COPY_CLASS(CLASS)                                                                     \
-  if (std::string_view(layout.name()) == #CLASS) {                                            \
+/// A function for each class: all in one would be hard on a compiler with sanitizers.
+#define DEFINE_COPY(CLASS)                                                                    \
+  void copy##CLASS(const Tool::Layout& layout, std::vector<U8>& entry, std::vector<U8>& copy, \
+                   bool byIdentifier) {                                                       \
     const auto chip = static_cast<ChipType_>(layout.chip().number);                           \
     const U16 size = static_cast<U16>(entry.size());                                          \
     const Velmar::CLASS from(chip, entry.data(), size, false, layout.variant());              \
@@ -35,10 +37,14 @@ U64 scalarOf(const T& value) {
     VELMAR_FIELDS_##CLASS(COPY_FIELD) if (size < layout.table().allFieldsBytes()) return;     \
     require(from.getAllFields() == into.getAllFields(), "both have the same fields", #CLASS); \
   }
+VELMAR_FOR_EACH_CLASS(DEFINE_COPY)
 
 void copyByViews(const Tool::Layout& layout, std::vector<U8>& entry, std::vector<U8>& copy,
                  bool byIdentifier) {
-  VELMAR_FOR_EACH_CLASS(COPY_CLASS)
+  const std::string_view name = layout.name();
+#define CALL_COPY(CLASS) \
+  if (name == #CLASS) copy##CLASS(layout, entry, copy, byIdentifier);
+  VELMAR_FOR_EACH_CLASS(CALL_COPY)
 }
 
 /// Types the fields as `velmar encode` takes them, each in one of the forms that decode prints.
