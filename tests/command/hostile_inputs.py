@@ -211,6 +211,13 @@ with tempfile.TemporaryDirectory() as directory:
     with open(out, "rb") as file:
         check(before == file.read() != b"", "a failure changes the file")
     check(os.listdir(directory) == ["out"], "a failure leaves a file")
+
+    # A file of a wrong size is refused before any of it is shown.
+    with open(out, "wb") as file:
+        file.write(b"\1" * (16 * 8192 + 1))
+    for form in ("auto", "raw"):
+        code, shown, _ = run("decode", *vlan, out, "--input", form)
+        check(code == 2 and not shown, f"--input {form} shows a file of a wrong size")
     if os.path.exists("/dev/full"):
         full = os.path.join(directory, "full")
         os.system(f"'{program}' chips > /dev/full 2> '{full}'")
