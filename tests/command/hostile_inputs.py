@@ -54,7 +54,7 @@ for data, *words in (
         (b"\0" * 17, "17 bytes", "multiple of 16"),
         (b"00 11\n", ":1:", "2 bytes"),
         (hex16 + b"\n" + hex16 + b"00\n", ":2:", "17 bytes"),
-        (hex16 + b"\nxyz\n", ":2:", "xyz"),
+        (hex16 + b"\n\nxyz\n", ":3:", "xyz"),
         (b"# only a comment\n", "no entry"),
         (b"0123 4567 89ab cdef 0123 4567 89ab cdef\n", ":1:", "--hex-order"),
         (b"five: " + hex16, ":1:", "five"),
@@ -93,12 +93,15 @@ for data, *words in (
         (b"[" * 100000, "object"),
         (b'{"a":' * 100000, "nested"),
         (b'{"a":"' + b"x" * 2 * megabytes, "1 MiB"),
-        (b"00 " * megabytes, ":1:", "longer")):
+        (b"0" * megabytes + b"\n", ":1:", "--hex-order"),
+        (b"0" * (megabytes + 1) + b"\n", ":1:", "longer")):
     refused(decode, data, *words)
 refused((*decode, "--hex-order", "int"), b"5:\n", ":1:", "no digits")
+check(run(*decode, data=b"\x80" + b"0" * 15)[0] == 0, "a byte that is no ASCII makes a dump raw")
 
 # Options and documents that do not go with what is read.
 overlaps = ("IngVpVlanMembership", "--chip", "21")
+ecc = ("IngVpVlanMembershipEcc", "--chip", "21")
 overlapping = b'\n{"index":0,"fields":{"vlan":1,"hashLsb":2}}'
 for arguments, data, *words in (
         ((*decode, "--hex-order", "int"), b"1" * 33, ":1:", "16 bytes"),
@@ -107,6 +110,8 @@ for arguments, data, *words in (
         ((*decode, "--input", "xxd", "--hex-order", "int"), b"", "bytes or words"),
         (("decode", *overlaps, "-"), overlapping, ":2:", "share bits"),
         (("encode", *overlaps, "@-"), overlapping, ":2:", "share bits"),
+        (("encode", *ecc, "eccp=0x80", "parity=0"), b"", "share bits"),
+        (("encode", *ecc, "parity=0", "eccp=0x80"), b"", "share bits"),
         (("encode", *vlan, "@-"), b'{"stg":1}\n{"stg":2}', ":2:", "second object"),
         (("encode", *vlan, "@-", "--whole"), b'{"index":8192,"fields":{}}', "8192 is beyond"),
         (("encode", *vlan, "@-", "--whole"),

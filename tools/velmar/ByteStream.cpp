@@ -79,7 +79,6 @@ bool ByteStream::readMore() {
 
 bool LineReader::next(std::string_view& line) {
   stream_.take(taken_);
-  taken_ = 0;
   ++number_;
   size_t searched = 0;
   for (;;) {
