@@ -114,7 +114,6 @@ std::string Value::portRanges() const {
 void Value::setBit(U32 bit) { words_[bit / 32] |= 1U << bit % 32; }
 
 bool Value::setHexDigits(std::string_view digits) {
-  while (digits.size() > 1 && digits.front() == '0') digits.remove_prefix(1);
   U32 bit = 0;
   for (size_t i = digits.size(); i-- > 0; bit += 4) {
     const U32 digit = static_cast<U32>(hexDigit(digits[i]));
