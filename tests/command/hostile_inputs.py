@@ -61,6 +61,7 @@ for data, *words in (
         (b"4294967296: " + hex16, ":1:", "no entry index"),
         (b"99999999999999999999: " + hex16, ":1:", "index"),
         (b"00000000: " + b"0011 " * 7 + b"0011  ................\n00000020: 00\n", ":2:", "0x20"),
+        (b"00000000: " + b"0011 " * 8 + b"\n0000001z: 00\n", ":2:", "no line of xxd"),
         (b"00000008: " + b"0011 " * 8 + b"\n", ":1:", "0x8"),
         (b"00000000: " + b"00112233 " * 4 + b"\n", "--hex-order"),
         (b"00000000: " + b"4142 " * 8 + b" BABABABABABABABA\n", ":1:", "--hex-order"),
@@ -99,6 +100,8 @@ for data, *words in (
         (b"0" * (megabytes + 1) + b"\n", ":1:", "longer")):
     refused(decode, data, *words)
 refused((*decode, "--hex-order", "int"), b"5:\n", ":1:", "no digits")
+skipping = b"00000000:" + b"0000 " * 8 + b"\n*\n00020000: " + b"0000 " * 8
+check(run(*decode, "-f", "csv", data=skipping)[1].count(b"\n") == 8194, "zeros that xxd skips")
 check(run(*decode, "--stride", "20", data=hex16 + b"\n" + hex16 + b"ff " * 4)[0] == 0,
       "lines of text hold an entry, or a stride")
 check(run(*decode, data=b"\x80" + b"0" * 15)[0] == 0, "a byte that is no ASCII makes a dump raw")
