@@ -100,7 +100,7 @@ for data, *words in (
         (b"0" * (megabytes + 1) + b"\n", ":1:", "longer")):
     refused(decode, data, *words)
 refused((*decode, "--hex-order", "int"), b"5:\n", ":1:", "no digits")
-skipping = b"00000000:" + b"0000 " * 8 + b"\n*\n00020000: " + b"0000 " * 8
+skipping = b"0000000:" + b"0000 " * 8 + b"\n*\n00020000: " + b"0000 " * 8
 check(run(*decode, "-f", "csv", data=skipping)[1].count(b"\n") == 8194, "zeros that xxd skips")
 check(run(*decode, "--stride", "20", data=hex16 + b"\n" + hex16 + b"ff " * 4)[0] == 0,
       "lines of text hold an entry, or a stride")
