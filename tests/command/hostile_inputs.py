@@ -104,7 +104,8 @@ skipping = b"0000000:" + b"0000 " * 8 + b"\n*\n00020000: " + b"0000 " * 8
 check(run(*decode, "-f", "csv", data=skipping)[1].count(b"\n") == 8194, "zeros that xxd skips")
 check(run(*decode, "--stride", "20", data=hex16 + b"\n" + hex16 + b"ff " * 4)[0] == 0,
       "lines of text hold an entry, or a stride")
-check(run(*decode, data=b"\x80" + b"0" * 15)[0] == 0, "a byte that is no ASCII makes a dump raw")
+for data in (b"\x80" + b"0" * 15, b"0X00 " * 16, b"0" * 16 + b": " + b"0000 " * 8):
+    check(run(*decode, data=data)[0] == 0, f"{data} is an entry")
 
 # Options and documents that do not go with what is read.
 overlaps = ("IngVpVlanMembership", "--chip", "21")
