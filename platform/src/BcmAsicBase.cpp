@@ -1,6 +1,6 @@
 #include "AsicUtils/BcmAsicBase.h"
 
-#include "AssertionDoor.h"
+#include "FailDefault.h"
 
 namespace AsicUtils {
 

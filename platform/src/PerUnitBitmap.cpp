@@ -1,6 +1,8 @@
 #include "Oru/PerUnitBitmap.h"
 
 #include <algorithm>
+#include <limits>
+#include <stdexcept>
 #include <string>
 
 #include "Morvo/VectorOutOfRange.h"
@@ -8,7 +10,7 @@
 namespace Oru {
 
 void PerUnitBitmap::set(U32 port) {
-  if (port / 32 >= wordCount_) grow(port / 32 + 1);
+  if (port / 32 >= wordCount_) growTo(port / 32);
   words()[port / 32] |= 1U << port % 32;
 }
 
@@ -51,9 +53,12 @@ bool operator==(const PerUnitBitmap& a, const PerUnitBitmap& b) {
   return true;
 }
 
-void PerUnitBitmap::moveToHeap(U32 count) {
+void PerUnitBitmap::moveToHeap(U32 index) {
+  if (index == std::numeric_limits<U32>::max()) {
+    throw std::length_error("Oru::PerUnitBitmap: more words than a count of 32 bits holds");
+  }
   // Room for twice the words, so that a list that grows word by word is not copied each time.
-  const U32 room = std::max(count, 2 * heapWords_);
+  const U32 room = std::max(index + 1, 2 * heapWords_);
   U32* larger = new U32[room];
   std::copy_n(words(), wordCount_, larger);
   release();

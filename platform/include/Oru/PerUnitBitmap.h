@@ -16,7 +16,7 @@ class VELMAR_PLATFORM_EXPORT PerUnitBitmap {
   PerUnitBitmap() noexcept : wordCount_(0), heap_(nullptr), heapWords_(0) {}
   /// All the words that `ports` ports take, no port set.
   explicit PerUnitBitmap(U32 ports) : PerUnitBitmap() {
-    if (ports != 0) grow((ports - 1) / 32 + 1);
+    if (ports != 0) growTo((ports - 1) / 32);
   }
   PerUnitBitmap(const PerUnitBitmap& other) : PerUnitBitmap() { assign(other); }
   PerUnitBitmap(PerUnitBitmap&& other) noexcept : PerUnitBitmap() { take(other); }
@@ -40,9 +40,10 @@ class VELMAR_PLATFORM_EXPORT PerUnitBitmap {
     if (index >= wordCount_) throwOutOfRange(index);
     return words()[index];
   }
-  /// Sets word `index`; a shorter list grows to it with zero words.
+  /// Sets word `index`; a shorter list grows to it with zero words. An index that leaves no number
+  /// for the count of words throws std::length_error.
   void bitListIs(U32 index, U32 word) {
-    if (index >= wordCount_) grow(index + 1);
+    if (index >= wordCount_) growTo(index);
     words()[index] = word;
   }
 
@@ -87,16 +88,16 @@ class VELMAR_PLATFORM_EXPORT PerUnitBitmap {
   const U32* words() const { return heap_ == nullptr ? inline_ : heap_; }
   U32* words() { return heap_ == nullptr ? inline_ : heap_; }
 
-  void grow(U32 count) {
-    if (count > inlineWords && count > heapWords_) moveToHeap(count);
+  void growTo(U32 index) {
+    if (index >= inlineWords && index >= heapWords_) moveToHeap(index);
     U32* list = words();
-    for (U32 i = wordCount_; i < count; ++i) list[i] = 0;
-    wordCount_ = count;
+    for (U32 i = wordCount_; i <= index; ++i) list[i] = 0;
+    wordCount_ = index + 1;
   }
   void assign(const PerUnitBitmap& other) {
     wordCount_ = 0;
     if (other.wordCount_ > inlineWords && other.wordCount_ > heapWords_) {
-      moveToHeap(other.wordCount_);
+      moveToHeap(other.wordCount_ - 1);
     }
     U32* list = words();
     const U32* from = other.words();
@@ -117,7 +118,8 @@ class VELMAR_PLATFORM_EXPORT PerUnitBitmap {
   void release() noexcept {
     if (heap_ != nullptr) freeHeap();
   }
-  void moveToHeap(U32 count);
+  /// Makes room for word `index`.
+  void moveToHeap(U32 index);
   void freeHeap() noexcept;
   [[noreturn]] void throwOutOfRange(U32 index) const;
 

@@ -1,4 +1,4 @@
-#include "AssertionDoor.h"
+#include "FailDefault.h"
 
 // Declared here and not taken from <cassert>: that declaration promises not to throw.
 extern "C" [[noreturn]] void __assert_fail(const char* expression, const char* file,
