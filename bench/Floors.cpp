@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "Detail/CopyBits.h"
+#include "proofs/CopyBitsLoop.h"
 
 namespace Floors {
 namespace {

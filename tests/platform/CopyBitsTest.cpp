@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "Detail/CopyBits.h"
+#include "proofs/CopyBitsLoop.h"
 
 namespace {
 

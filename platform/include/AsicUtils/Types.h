@@ -14,7 +14,6 @@ using S32 = std::int32_t;
 /// A plain container of BITS bits in 32-bit words: bit n is bit n % 32 of words[n / 32].
 template <unsigned BITS>
 struct RawBits {
-  static constexpr unsigned bitCount = BITS;
   static constexpr unsigned wordCount = BITS / 32;
 
   U32 words[wordCount];

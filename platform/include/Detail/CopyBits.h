@@ -3,7 +3,6 @@
 #include <cstring>
 
 #include "AsicUtils/Types.h"
-#include "Detail/CopyBitsLoop.h"
 
 // The bit copy works through a window of up to 8 bytes that always lies inside the buffer: it is
 // read, and for a destination written back, as one little-endian integer.
