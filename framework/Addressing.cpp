@@ -28,13 +28,13 @@ bool lookUpAddress(const ClassData& data, U32 chipType, U8 variant, SchanOutputs
   }
   const RowFacts& facts = data.facts[row];
   checkIndices(data, facts, inputs, site);
-  // The address is written before the identifier is checked.
-  outputs.address = facts.base + inputs.identifier * facts.identifierTerm + inputs.tableEntry +
-                    inputs.arrayIndex * facts.addrStride;
+  // The address is set before the identifier is checked: a caller whose assertions throw sees which
+  // address was refused.
+  outputs.address = facts.addressOf(inputs.tableEntry, inputs.arrayIndex, inputs.identifier);
   if (!hasIdentifier(chipType, variant, inputs.identifier)) {
     fail("hasIdentifier( chipType, variant, identifier )", site);
   }
-  outputs.block = static_cast<U32>(data.block);
+  outputs.block = facts.block;
   outputs.accessType = facts.accessType;
   return true;
 }

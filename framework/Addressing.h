@@ -22,29 +22,28 @@ struct SchanInputs {
 
 using HasIdentifier = bool (*)(U32 chipType, U8 variant, U32 identifier);
 
-/// The whole look-up: trace, checks in their order, address, identifier. `hasIdentifier` is the
+/// The slow path of a look-up: trace, checks in their order, address, identifier. `hasIdentifier` is the
 /// class's own, which traces its own line.
 [[gnu::cold]] bool lookUpAddress(const ClassData& data, U32 chipType, U8 variant,
                                  SchanOutputs outputs, SchanInputs inputs,
                                  HasIdentifier hasIdentifier, Site site);
 
-template <const auto& table, const auto& data>
-struct Addressing {
-  static bool look(U32 chipType, U8 variant, SchanOutputs outputs, SchanInputs inputs,
-                   HasIdentifier hasIdentifier, Site site) {
-    const RowFacts& facts = table.facts[table.rowOf(chipType, variant)];
-    // The last row has no entries and fails this test too.
-    const bool isPlain = inputs.tableEntry < facts.entries &&
-                         inputs.arrayIndex < facts.arrayElements && inputs.identifier == 0;
-    if (__builtin_expect(!isPlain || traceMayBeOn(entryLevel), false)) {
-      return lookUpAddress(data, chipType, variant, outputs, inputs, hasIdentifier, site);
-    }
-    outputs.address = facts.base + inputs.tableEntry + inputs.arrayIndex * facts.addrStride;
-    outputs.block = static_cast<U32>(data.block);
-    outputs.accessType = facts.accessType;
-    return true;
+/// The same, with the fast path of an accepted entry of identifier 0.
+template <class Class>
+bool getAddress(U32 chipType, U8 variant, SchanOutputs outputs, SchanInputs inputs,
+                HasIdentifier hasIdentifier, Site site) {
+  const RowFacts& facts = Class::arrays.facts[rowIn(Class::arrays, chipType, variant)];
+  // The last row has no entries and is refused here too.
+  const bool isRefused = inputs.tableEntry >= facts.entries ||
+                         inputs.arrayIndex >= facts.arrayElements || inputs.identifier != 0;
+  if (takesSlowPath(isRefused)) {
+    return lookUpAddress(Class::data, chipType, variant, outputs, inputs, hasIdentifier, site);
   }
-};
+  outputs.address = facts.addressOf(inputs.tableEntry, inputs.arrayIndex, 0);
+  outputs.block = facts.block;
+  outputs.accessType = facts.accessType;
+  return true;
+}
 
 }  // namespace Framework
 }  // namespace Velmar

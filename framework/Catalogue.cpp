@@ -1,6 +1,7 @@
 #include "Velmar/Catalogue.h"
 
-#include "framework/AllClasses.h"
+#include "Velmar/FieldId.h"
+#include "framework/Knowledge.h"
 #include "framework/Reports.h"
 
 namespace Velmar {
@@ -12,15 +13,11 @@ Chip chip(U32 index) {
   return {chip.name, chip.number};
 }
 
-const char* valueTypeName(ValueType type) {
-  return Framework::valueName(static_cast<Framework::ValueType>(type));
-}
+const char* valueTypeName(ValueType type) { return Framework::valueName(type); }
 
 const char* Table::name() const { return data_->name; }
 const char* Table::purpose() const { return data_->purpose; }
-Kind Table::kind() const {
-  return data_->kind == Framework::Kind::table ? Kind::table : Kind::registerArray;
-}
+Kind Table::kind() const { return data_->kind; }
 U32 Table::rawBytes() const { return 4 * data_->rawWords; }
 U32 Table::allFieldsBytes() const { return data_->allFieldsBytes; }
 
@@ -32,8 +29,8 @@ Field Table::field(U32 index) const {
           FieldId::hardwareName(facts.id),
           facts.meaning,
           facts.id,
-          static_cast<ValueType>(facts.type),
-          facts.overlap == Framework::Overlap::marked};
+          facts.type,
+          facts.overlaps};
 }
 
 U32 Table::fieldIndex(U32 id) const {
@@ -47,21 +44,7 @@ bool Table::isOn(U32 chipType, U8 variant) const {
   return data_->rowOf(chipType, variant) != data_->rows;
 }
 
-Geometry Table::geometry(U32 chipType) const {
-  if (!isOn(chipType)) return {};
-  const Framework::RowFacts& facts = data_->facts[data_->rowOfChip(chipType)];
-  return {static_cast<Variants>(facts.variants),
-          facts.width,
-          facts.entries,
-          facts.arrayElements,
-          facts.addrStride,
-          facts.identifiers,
-          facts.identifierTerm,
-          facts.fieldCount,
-          facts.base,
-          facts.accessType,
-          static_cast<U32>(data_->block)};
-}
+Geometry Table::geometry(U32 chipType) const { return data_->facts[data_->rowOfChip(chipType)]; }
 
 BitRange Table::range(U32 index, U32 chipType) const {
   const Framework::FieldSlot& slot = data_->slot(index, data_->rowOfChip(chipType));

@@ -1,33 +1,69 @@
 #pragma once
 
+#include "Velmar/FieldId.h"
 #include "framework/Addressing.h"
 #include "framework/GenericAccess.h"
 #include "framework/Geometry.h"
-#include "framework/Proofs.h"
+#include "framework/RowChecks.h"
 
-// What a table's source defines. The source names, in an anonymous namespace,
-//   about     ClassRow: purpose, block
-//   layout    FieldRow for each field, or portRows of a rule
-//   chips     ChipRow for each set of chips that share everything
-//   columns   number of layout columns
-// and then calls VELMAR_DEFINE_TABLE(<Class>, <RawType>) or VELMAR_DEFINE_REGISTER, which proves
-// the rows and defines every member that Velmar/Declarations.h declared. A member is one call of
-// the engine.
+// What the rows of a class become: VELMAR_DEFINE_TABLE and VELMAR_DEFINE_REGISTER, at the end, check
+// them and define every member that the class's header declares. A member is one call of the engine.
+// The parts use names that the first of them, VELMAR_DEFINE_DATA, makes: View, Index, ViewData,
+// ViewFields. `scripts/expand <Class>` prints what all of it makes of a class.
+
+// clang-format off
 
 /// The member that stands here.
 #define VELMAR_SITE (::Velmar::Framework::Site{__PRETTY_FUNCTION__, __LINE__})
 
-/// One row of the field list, as data and as index.
-#define VELMAR_FIELD_ENTRY(accessor, Accessor, HARDWARE_NAME, TYPE, meaning) \
-  {#accessor,                                                                \
-   #Accessor,                                                                \
-   #HARDWARE_NAME,                                                           \
-   ::Velmar::FieldId::HARDWARE_NAME,                                         \
-   ::Velmar::Framework::valueTypeOf<VELMAR_VALUE_##TYPE>,                    \
-   meaning},
+/// A field as an index into the class's rows of names.
 #define VELMAR_FIELD_INDEX(accessor, Accessor, HARDWARE_NAME, TYPE, meaning) HARDWARE_NAME,
 
-/// The quintet of a field.
+#define VELMAR_SPAN_MEMBER(CHIP) {CHIP, View::_entrySpans_##CHIP},
+#define VELMAR_DEFINE_SPAN(CHIP)                             \
+  const AsicUtils::EntrySpan View::_entrySpans_##CHIP[1] = { \
+      {0, ::Velmar::Framework::entriesOn(chipRows, CHIP)}};
+
+/// The checks, and the class's constant data.
+#define VELMAR_DEFINE_DATA(CLASS, KIND, RAW, FIELDS, SPANS, about, layout, chips, chipFacts)   \
+  namespace {                                                                                  \
+  using View = CLASS;                                                                          \
+  namespace Index { enum : U32 { FIELDS(VELMAR_FIELD_INDEX) }; }                               \
+  constexpr Framework::FieldName names[] = {FIELDS(VELMAR_FIELD_NAME)};                        \
+  constexpr const auto& chipRows = chips;                                                      \
+  }                                                                                            \
+  SPANS(VELMAR_DEFINE_SPAN)                                                                    \
+  namespace {                                                                                  \
+  constexpr Framework::SpanMember spans[] = {SPANS(VELMAR_SPAN_MEMBER){ChipType_{}, nullptr}}; \
+  VELMAR_CHECK_ROWS(CLASS, KIND, sizeof(RAW) / 4, names, spans, about, layout, chips, chipFacts) \
+  constexpr auto tableArrays =                                                                 \
+      Framework::makeArrays<sizeof(RAW) / 4, Framework::idRangeOf(names).count>(               \
+          KIND, names, about, layout, chips, spans, chipFacts);                                \
+  }                                                                                            \
+  extern const Framework::ClassData classData_##CLASS;                                         \
+  constexpr Framework::ClassData classData_##CLASS = Framework::makeClassData(                 \
+      #CLASS, __LINE__, KIND, about, Framework::idRangeOf(names).first, tableArrays);          \
+  namespace {                                                                                  \
+  struct ViewData {                                                                            \
+    static constexpr const auto& arrays = tableArrays;                                         \
+    static constexpr const Framework::ClassData& data = classData_##CLASS;                     \
+  };                                                                                           \
+  using ViewFields = Framework::Fields<ViewData>;                                              \
+  }
+
+#define VELMAR_DEFINE_CONSTRUCTION(CLASS, KIND)                                      \
+  CLASS::CLASS(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant)          \
+      : BcmAsicBase(static_cast<U8>(chipType), buf, len, flag, variant, 0) {         \
+    Framework::construct<ViewData>(chipType, variant, VELMAR_SITE);                  \
+  }                                                                                  \
+  void CLASS::handleBuf(ChipType_, U8*, U16, bool, U8) {}                            \
+  bool CLASS::chipTypeVariantValid(ChipType_ chipType, U8 variant) {                 \
+    return Framework::isKnown(classData_##CLASS, chipType, variant);                 \
+  }                                                                                  \
+  bool CLASS::isPrimary() const { return true; }                                     \
+  bool CLASS::isTable() const { return (KIND) == Framework::Kind::table; }
+
+/// The five members of a field.
 #define VELMAR_DEFINE_FIELD(accessor, Accessor, HARDWARE_NAME, TYPE, meaning)                    \
   VELMAR_VALUE_##TYPE View::accessor() const {                                                   \
     return ViewFields::get<VELMAR_VALUE_##TYPE>(*this, Index::HARDWARE_NAME);                    \
@@ -41,149 +77,92 @@
     return ViewFields::isValid(*this, Index::HARDWARE_NAME);                                     \
   }
 
-/// A geometry value and its const form; READ is facts, or tracedFacts where the member traces.
-#define VELMAR_DEFINE_GEOMETRY(TYPE, member, READ)                            \
-  TYPE View::member(U32 chipType, U8 variant) {                               \
-    return Framework::READ(classData, chipType, variant, VELMAR_SITE).member; \
-  }                                                                           \
-  TYPE View::member() const { return member(chipType_, variant_); }
+/// Fields chosen by identifier, and the whole entry.
+#define VELMAR_DEFINE_GENERIC_ACCESS(CLASS, RAW)                                             \
+  U16 CLASS::fieldOffset(U32 fieldId) const {                                                \
+    return Framework::offsetOfId(*this, fieldId, classData_##CLASS, VELMAR_SITE);            \
+  }                                                                                          \
+  U16 CLASS::fieldWidth(U32 fieldId) const {                                                 \
+    return Framework::widthOfId(*this, fieldId, classData_##CLASS, VELMAR_SITE);             \
+  }                                                                                          \
+  bool CLASS::isFieldValid(U32 fieldId) const {                                              \
+    return Framework::isIdValid(*this, fieldId, classData_##CLASS, VELMAR_SITE);             \
+  }                                                                                          \
+  void CLASS::setField64(U32 fieldId, U64 value) {                                           \
+    Framework::setById(*this, fieldId, value, classData_##CLASS, VELMAR_SITE);               \
+  }                                                                                          \
+  RAW CLASS::getAllFields() const {                                                          \
+    return Framework::allFieldsAs<RAW>(classData_##CLASS, *this, VELMAR_SITE);               \
+  }                                                                                          \
+  Raw8192 CLASS::allFieldsMask(U32 chipType, U8 variant) {                                   \
+    return Framework::allFieldsMask(classData_##CLASS, chipType, variant, VELMAR_SITE);      \
+  }                                                                                          \
+  Raw8192 CLASS::allFieldsMask() const { return allFieldsMask(chipType_, variant_); }
 
-#define VELMAR_SPAN_MEMBER(CHIP) {CHIP, View::_entrySpans_##CHIP},
-#define VELMAR_DEFINE_SPAN(CHIP)                             \
-  const AsicUtils::EntrySpan View::_entrySpans_##CHIP[1] = { \
-      {0, ::Velmar::Framework::entriesOn(chips, CHIP)}};
+/// A geometry value, static and of the view; READ is facts, or tracedFacts where the member traces.
+#define VELMAR_DEFINE_GEOMETRY(CLASS, TYPE, member, fact, READ)                             \
+  TYPE CLASS::member(U32 chipType, U8 variant) {                                            \
+    return Framework::READ(classData_##CLASS, chipType, variant, VELMAR_SITE).fact;         \
+  }                                                                                         \
+  TYPE CLASS::member() const { return member(chipType_, variant_); }
 
-/// The proofs, before anything is made of the rows: a slip gives one sentence.
-#define VELMAR_PROVE(CLASS, KIND)                                                               \
-  static_assert(Framework::Proofs::namesDerive(list),                                           \
-                #CLASS ": an accessor is not the lowerCamelCase of its hardware name");         \
-  static_assert(Framework::Proofs::rowsMatchList(list, layout), #CLASS                          \
-                ": fields and layout rows differ: each field has one row, each row a field");   \
-  static_assert(Framework::Proofs::cellsAreFilled(layout),                                      \
-                #CLASS ": a layout row leaves a column out or gives a width of 0; write none"); \
-  static_assert(Framework::Proofs::columnsAreUsed(chips, columns), #CLASS                       \
-                ": a chip row names a column that does not exist, or a column has no chip");    \
-  static_assert(Framework::Proofs::chipsAreOnce(chips),                                         \
-                #CLASS ": a chip stands in two rows, or a row has no chip");                    \
-  static_assert(Framework::Proofs::generationsAreApart(chips),                                  \
-                #CLASS ": a row mixes bcm5699x with other chips, or gives variants to others"); \
-  static_assert(Framework::Proofs::shapesAreSound(KIND, chips), #CLASS                          \
-                ": a chip row has no width, entries or identifiers, or a stride or "            \
-                "identifiers that its kind does not have");                                     \
-  static_assert(Framework::Proofs::fieldsFitEntries(layout, chips),                             \
-                #CLASS ": a field ends beyond its entry");                                      \
-  static_assert(Framework::Proofs::typesFitFields(list, layout),                                \
-                #CLASS ": a value type is too small for its field, or larger than it needs");   \
-  static_assert(Framework::Proofs::overlapsAreMarked(layout, columns), #CLASS                   \
-                ": two fields share bits and neither is marked alias, or an alias shares "      \
-                "none");                                                                        \
-  static_assert(Framework::Proofs::rawTypeFits(rawWords, about.allFieldsBytes, chips),          \
-                #CLASS ": the raw type is not the smallest that holds the widest entry");       \
-  static_assert(Framework::Proofs::spansMatchEntries(KIND, chips, spans),                       \
-                #CLASS ": span members and numbers of entries differ");                         \
-  static_assert(Framework::Proofs::blockFitsName(about.block, #CLASS),                          \
-                #CLASS ": the block is egress for the Egr classes and ingress for all others");
-
-#define VELMAR_DEFINE_VIEW(CLASS, KIND, RAW)                                                      \
-  namespace {                                                                                     \
-  using View = CLASS;                                                                             \
+#define VELMAR_DEFINE_ADDRESSING(CLASS)                                                           \
+  bool CLASS::hasIdentifier(U32 chipType, U8 variant, U32 identifier) {                           \
+    return Framework::hasIdentifier(classData_##CLASS, chipType, variant, identifier,             \
+                                    VELMAR_SITE);                                                 \
   }                                                                                               \
-  VELMAR_SPANS_##CLASS(VELMAR_DEFINE_SPAN) namespace {                                            \
-    constexpr Framework::FieldEntry list[] = {VELMAR_FIELDS_##CLASS(VELMAR_FIELD_ENTRY)};         \
-    namespace Index {                                                                             \
-    enum : U32 { VELMAR_FIELDS_##CLASS(VELMAR_FIELD_INDEX) };                                     \
-    }                                                                                             \
-    constexpr Framework::SpanMember spans[] = {                                                   \
-        VELMAR_SPANS_##CLASS(VELMAR_SPAN_MEMBER){ChipType_{}, nullptr}};                          \
-    constexpr U32 rawWords = sizeof(RAW) / 4;                                                     \
-    VELMAR_PROVE(CLASS, KIND)                                                                     \
-    constexpr auto table = Framework::makeTable<rawWords, Framework::idRangeOf(list).count>(      \
-        KIND, list, layout, chips, spans);                                                        \
-  }                                                                                               \
-  extern const Framework::ClassData classData_##CLASS;                                            \
-  constexpr Framework::ClassData classData_##CLASS =                                              \
-      Framework::makeClassData(#CLASS, __LINE__, KIND, about, table);                             \
-  namespace {                                                                                     \
-  constexpr const Framework::ClassData& classData = classData_##CLASS;                            \
-  using ViewFields = Framework::Fields<table, classData_##CLASS>;                                 \
-  using ViewAddressing = Framework::Addressing<table, classData_##CLASS>;                         \
-  }                                                                                               \
-                                                                                                  \
-  CLASS::CLASS(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant)                       \
-      : BcmAsicBase(static_cast<U8>(chipType), buf, len, flag, variant, 0) {                      \
-    Framework::construct<table, classData_##CLASS>(chipType, variant, VELMAR_SITE);               \
-  }                                                                                               \
-  void View::handleBuf(ChipType_, U8*, U16, bool, U8) {}                                          \
-  bool View::chipTypeVariantValid(ChipType_ chipType, U8 variant) {                               \
-    return Framework::isKnown(classData, chipType, variant);                                      \
-  }                                                                                               \
-  bool View::isPrimary() const { return true; }                                                   \
-  bool View::isTable() const { return (KIND) == Framework::Kind::table; }                         \
-                                                                                                  \
-  VELMAR_FIELDS_##CLASS(VELMAR_DEFINE_FIELD)                                                      \
-                                                                                                  \
-      U16                                                                                         \
-      View::fieldOffset(U32 fieldId) const {                                                      \
-    return Framework::offsetOfId(*this, fieldId, classData, VELMAR_SITE);                         \
-  }                                                                                               \
-  U16 View::fieldWidth(U32 fieldId) const {                                                       \
-    return Framework::widthOfId(*this, fieldId, classData, VELMAR_SITE);                          \
-  }                                                                                               \
-  bool View::isFieldValid(U32 fieldId) const {                                                    \
-    return Framework::isIdValid(*this, fieldId, classData, VELMAR_SITE);                          \
-  }                                                                                               \
-  void View::setField64(U32 fieldId, U64 value) {                                                 \
-    Framework::setById(*this, fieldId, value, classData, VELMAR_SITE);                            \
-  }                                                                                               \
-                                                                                                  \
-  RAW View::getAllFields() const {                                                                \
-    return Framework::allFieldsAs<RAW>(classData, *this, VELMAR_SITE);                            \
-  }                                                                                               \
-  Raw8192 View::allFieldsMask(U32 chipType, U8 variant) {                                         \
-    return Framework::allFieldsMask(classData, chipType, variant, VELMAR_SITE);                   \
-  }                                                                                               \
-  Raw8192 View::allFieldsMask() const { return allFieldsMask(chipType_, variant_); }              \
-  VELMAR_DEFINE_GEOMETRY(U32, fieldCount, tracedFacts)                                            \
-  VELMAR_DEFINE_GEOMETRY(U16, width, facts)                                                       \
-  VELMAR_DEFINE_GEOMETRY(U32, arrayElements, facts)                                               \
-  VELMAR_DEFINE_GEOMETRY(U32, instanceCount, tracedFacts)                                         \
-  bool View::hasIdentifier(U32 chipType, U8 variant, U32 identifier) {                            \
-    return Framework::hasIdentifier(classData, chipType, variant, identifier, VELMAR_SITE);       \
-  }                                                                                               \
-  bool View::hasIdentifier(U32 identifier) const {                                                \
+  bool CLASS::hasIdentifier(U32 identifier) const {                                               \
     return hasIdentifier(chipType_, variant_, identifier);                                        \
   }                                                                                               \
-  bool View::getSchanAddress(U32 chipType, U8 variant, U32& address, U32& accessType, U32& block, \
-                             U16 identifier, U32 tableEntry, U16 arrayIndex) {                    \
-    return ViewAddressing::look(chipType, variant, {address, accessType, block},                  \
-                                {identifier, tableEntry, arrayIndex}, &View::hasIdentifier,       \
-                                VELMAR_SITE);                                                     \
+  bool CLASS::getSchanAddress(U32 chipType, U8 variant, U32& address, U32& accessType,            \
+                              U32& block, U16 identifier, U32 tableEntry, U16 arrayIndex) {       \
+    return Framework::getAddress<ViewData>(                                                       \
+        chipType, variant, {address, accessType, block}, {identifier, tableEntry, arrayIndex},    \
+        &CLASS::hasIdentifier, VELMAR_SITE);                                                      \
   }                                                                                               \
-  bool View::getSchanAddress(U32& address, U32& accessType, U32& block, U16 identifier,           \
-                             U32 tableEntry, U16 arrayIndex) const {                              \
+  bool CLASS::getSchanAddress(U32& address, U32& accessType, U32& block, U16 identifier,          \
+                              U32 tableEntry, U16 arrayIndex) const {                             \
     return getSchanAddress(chipType_, variant_, address, accessType, block, identifier,           \
                            tableEntry, arrayIndex);                                               \
   }
 
-#define VELMAR_DEFINE_TABLE(CLASS, RAW)                                                 \
-  VELMAR_DEFINE_VIEW(CLASS, Framework::Kind::table, RAW)                                \
-  VELMAR_DEFINE_GEOMETRY(U32, entries, facts)                                           \
-  VELMAR_DEFINE_GEOMETRY(U32, index_min, facts)                                         \
-  VELMAR_DEFINE_GEOMETRY(U32, arrayIndex_min, facts)                                    \
-  U16 View::tableWidth(U32 chipType, U8 variant) { return width(chipType, variant); }   \
-  View::EntrySpans View::entrySpans(U32 chipType, U8 variant) {                         \
-    return {Framework::tracedFacts(classData, chipType, variant, VELMAR_SITE).span, 1}; \
-  }                                                                                     \
-  View::EntrySpans View::entrySpans() const { return entrySpans(chipType_, variant_); } \
-  U32 View::tableVariantCount(U32 chipType) {                                           \
-    return Framework::isKnown(classData, chipType, 0) ? 1 : 0;                          \
-  }                                                                                     \
-  U32 View::tableVariantCount() const { return tableVariantCount(chipType_); }
+/// What memories and registers have in common.
+#define VELMAR_DEFINE_VIEW(CLASS, KIND, RAW, FIELDS, SPANS, about, layout, chips, chipFacts)    \
+  VELMAR_DEFINE_DATA(CLASS, KIND, RAW, FIELDS, SPANS, about, layout, chips, chipFacts)          \
+  VELMAR_DEFINE_CONSTRUCTION(CLASS, KIND)                                                       \
+  FIELDS(VELMAR_DEFINE_FIELD)                                                                   \
+  VELMAR_DEFINE_GENERIC_ACCESS(CLASS, RAW)                                                      \
+  VELMAR_DEFINE_GEOMETRY(CLASS, U32, fieldCount, fieldCount, tracedFacts)                       \
+  VELMAR_DEFINE_GEOMETRY(CLASS, U16, width, words, facts)                                       \
+  VELMAR_DEFINE_GEOMETRY(CLASS, U32, arrayElements, arrayElements, facts)                       \
+  VELMAR_DEFINE_GEOMETRY(CLASS, U32, instanceCount, instanceCount, tracedFacts)                 \
+  VELMAR_DEFINE_ADDRESSING(CLASS)
 
-#define VELMAR_DEFINE_REGISTER(CLASS, RAW)                                    \
-  VELMAR_DEFINE_VIEW(CLASS, Framework::Kind::registerArray, RAW)              \
-  U16 View::regWidth(U32 chipType, U8 variant) {                              \
-    return Framework::facts(classData, chipType, variant, VELMAR_SITE).width; \
-  }                                                                           \
-  VELMAR_DEFINE_GEOMETRY(U32, addrStride, facts)                              \
-  VELMAR_DEFINE_GEOMETRY(U32, maxIdentifier, facts)
+/// The class of a memory.
+#define VELMAR_DEFINE_TABLE(CLASS, RAW, FIELDS, SPANS, about, layout, chips, chipFacts)         \
+  VELMAR_DEFINE_VIEW(CLASS, Framework::Kind::table, RAW, FIELDS, SPANS, about, layout, chips,   \
+                     chipFacts)                                                                 \
+  VELMAR_DEFINE_GEOMETRY(CLASS, U32, entries, entries, facts)                                   \
+  VELMAR_DEFINE_GEOMETRY(CLASS, U32, index_min, index_min, facts)                               \
+  VELMAR_DEFINE_GEOMETRY(CLASS, U32, arrayIndex_min, arrayIndex_min, facts)                     \
+  U16 CLASS::tableWidth(U32 chipType, U8 variant) { return width(chipType, variant); }          \
+  CLASS::EntrySpans CLASS::entrySpans(U32 chipType, U8 variant) {                               \
+    return {Framework::tracedFacts(classData_##CLASS, chipType, variant, VELMAR_SITE).span, 1}; \
+  }                                                                                             \
+  CLASS::EntrySpans CLASS::entrySpans() const { return entrySpans(chipType_, variant_); }       \
+  U32 CLASS::tableVariantCount(U32 chipType) {                                                  \
+    return Framework::isKnown(classData_##CLASS, chipType, 0) ? 1 : 0;                          \
+  }                                                                                             \
+  U32 CLASS::tableVariantCount() const { return tableVariantCount(chipType_); }
+
+/// The class of a register array.
+#define VELMAR_DEFINE_REGISTER(CLASS, RAW, FIELDS, SPANS, about, layout, chips, chipFacts)     \
+  VELMAR_DEFINE_VIEW(CLASS, Framework::Kind::registerArray, RAW, FIELDS, SPANS, about, layout, \
+                     chips, chipFacts)                                                         \
+  U16 CLASS::regWidth(U32 chipType, U8 variant) {                                              \
+    return Framework::facts(classData_##CLASS, chipType, variant, VELMAR_SITE).words;          \
+  }                                                                                            \
+  VELMAR_DEFINE_GEOMETRY(CLASS, U32, addrStride, addrStride, facts)                            \
+  VELMAR_DEFINE_GEOMETRY(CLASS, U32, maxIdentifier, maxIdentifier, facts)
+
+// clang-format on

@@ -9,8 +9,9 @@ namespace Framework {
 /// A view of any class.
 using EntryView = AsicUtils::AsicBase;
 
-/// Reads what the views keep to themselves. None is ever made: a derived class may name the
-/// members.
+/// Reads the protected members of a view. The accessors are functions outside the view's class, and
+/// the base class, which belongs to the base libraries, has no public way to ask for them. A derived
+/// class may name the members of its base; no object of this one is ever made.
 class ViewAccess : public EntryView {
  public:
   static U8* buf(const EntryView& view) { return view.*(&ViewAccess::buf_); }

@@ -66,7 +66,7 @@ void write(const EntryView& view, const FieldSlot& slot, const Oru::PerUnitBitma
 
 template <class T>
 T wholeGet(const EntryView& view, const FieldSlot& slot, const ClassData& data) {
-  if (mustCheck(!isHeld(view, slot))) {
+  if (takesSlowPath(!isHeld(view, slot))) {
     traceAndCheck(view, data.fieldOf(slot), data, Member::getter);
   }
   T value{};
@@ -84,7 +84,7 @@ template Oru::PerUnitBitmap wholeGet<Oru::PerUnitBitmap>(const EntryView&, const
 
 template <class T>
 void wholeSet(const EntryView& view, T value, const FieldSlot& slot, const ClassData& data) {
-  if (mustCheck(!isHeld(view, slot) || value > largestValue(slot))) {
+  if (takesSlowPath(!isHeld(view, slot) || value > largestValue(slot))) {
     traceAndCheck(view, data.fieldOf(slot), data, Member::setter, value);
   }
   write(view, slot, value);
@@ -97,7 +97,7 @@ template void wholeSet<U64>(const EntryView&, U64, const FieldSlot&, const Class
 
 void setBitmap(const EntryView& view, const Oru::PerUnitBitmap& value, const FieldSlot& slot,
                const ClassData& data) {
-  if (mustCheck(!isHeld(view, slot))) {
+  if (takesSlowPath(!isHeld(view, slot))) {
     traceAndCheck(view, data.fieldOf(slot), data, Member::setter);
   }
   write(view, slot, value);
@@ -105,7 +105,7 @@ void setBitmap(const EntryView& view, const Oru::PerUnitBitmap& value, const Fie
 
 void setRaw(const EntryView& view, const Raw128& value, const FieldSlot& slot,
             const ClassData& data) {
-  if (mustCheck(!isHeld(view, slot))) {
+  if (takesSlowPath(!isHeld(view, slot))) {
     traceAndCheck(view, data.fieldOf(slot), data, Member::setter);
   }
   write(view, slot, value);

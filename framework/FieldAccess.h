@@ -3,9 +3,9 @@
 #include "framework/PlatformAdapter.h"
 #include "framework/Reports.h"
 
-// The field quintet. Each operation decides with one look at the slot whether the straight way is
-// open. Where it is not, or where the trace may be on, it hands over to a routine out of line that
-// traces first, then makes the checks in their order, and only then does the work.
+// The five members of a field. One comparison with the field's slot decides whether the fast path
+// holds. Where it does not, or where the trace may be on, a routine out of line takes the slow path:
+// trace, then the checks in their order, then the work.
 
 namespace Velmar {
 namespace Framework {
@@ -29,21 +29,16 @@ void setRaw(const EntryView& view, const Raw128& value, const FieldSlot& slot,
 [[gnu::cold]] bool checkedIsValid(const EntryView& view, const FieldSlot& slot,
                                   const ClassData& data);
 
-/// Whether to leave the straight way: something is wrong, or the trace may be on.
-inline bool mustCheck(bool isWrong) {
-  return __builtin_expect(isWrong || traceMayBeOn(entryLevel), false);
-}
-
-/// The fields of one class. `table` is its TableData, `data` the same as ClassData. Classes of many
-/// alike fields share one routine for each operation; in the others each accessor has its own copy.
-template <const auto& table, const auto& data>
+/// The fields of one class. `Class` names its data twice: Class::arrays as the fast path reads them,
+/// and Class::data for everything else.
+template <class Class>
 class Fields {
  public:
   template <class T>
   [[gnu::always_inline]] static T get(const EntryView& view, U32 field) {
     if constexpr (!isScalar(valueTypeOf<T>)) {
       return wholeGet<T>(view, slotOf(view, field), data);
-    } else if constexpr (table.shareRoutines) {
+    } else if constexpr (sharesRoutines) {
       return sharedGet<T>(view, field);
     } else {
       return inlineGet<T>(view, field);
@@ -56,7 +51,7 @@ class Fields {
       setBitmap(view, value, slotOf(view, field), data);
     } else if constexpr (valueTypeOf<T> == ValueType::raw128) {
       setRaw(view, value, slotOf(view, field), data);
-    } else if constexpr (table.shareRoutines) {
+    } else if constexpr (sharesRoutines) {
       sharedSet<T>(view, value, field);
     } else {
       inlineSet<T>(view, value, field);
@@ -64,7 +59,7 @@ class Fields {
   }
 
   [[gnu::always_inline]] static U16 offset(const EntryView& view, U32 field) {
-    if constexpr (table.shareRoutines) {
+    if constexpr (sharesRoutines) {
       return sharedOffset(view, field);
     } else {
       return inlineOffset(view, field);
@@ -72,7 +67,7 @@ class Fields {
   }
 
   [[gnu::always_inline]] static U16 length(const EntryView& view, U32 field) {
-    if constexpr (table.shareRoutines) {
+    if constexpr (sharesRoutines) {
       return sharedLength(view, field);
     } else {
       return inlineLength(view, field);
@@ -80,7 +75,7 @@ class Fields {
   }
 
   [[gnu::always_inline]] static bool isValid(const EntryView& view, U32 field) {
-    if constexpr (table.shareRoutines) {
+    if constexpr (sharesRoutines) {
       return sharedIsValid(view, field);
     } else {
       return inlineIsValid(view, field);
@@ -88,21 +83,27 @@ class Fields {
   }
 
  private:
+  static constexpr const ClassData& data = Class::data;
+
+  /// In a class of many fields the accessors share one routine for each operation; in the others
+  /// each has its own copy. Port families have hundreds of accessors.
+  static constexpr bool sharesRoutines = Class::arrays.fields > 64;
+
   static const FieldSlot& slotOf(const EntryView& view, U32 field) {
-    return table.slot(
-        field, table.rowIndex.row[ViewAccess::chipType(view)][ViewAccess::variant(view) != 0]);
+    const U32 row = rowIn(Class::arrays, ViewAccess::chipType(view), ViewAccess::variant(view));
+    return slotIn(Class::arrays, field, row);
   }
 
-  // What the straight way may rely on, for the compiler's sake.
-  /// The layout rows are proved: the width lies within the value type.
+  // What holds on the fast path, said for the compiler.
+  /// The layout rows are checked: the width lies within the value type.
   template <class T>
-  static int provedWidth(const FieldSlot& slot) {
+  static int checkedWidth(const FieldSlot& slot) {
     const int width = slot.width;
     if (width < 1 || width > static_cast<int>(8 * sizeof(T))) __builtin_unreachable();
     return width;
   }
   /// The length was compared with the slot's: the buffer holds a whole window.
-  static int provedLen(U16 len) {
+  static int checkedLen(U16 len) {
     if (len < plainCopyBytes) __builtin_unreachable();
     return len;
   }
@@ -111,10 +112,10 @@ class Fields {
   [[gnu::always_inline]] static T inlineGet(const EntryView& view, U32 field) {
     const FieldSlot& slot = slotOf(view, field);
     const U16 len = ViewAccess::len(view);
-    if (mustCheck(len <= slot.straightLen)) return wholeGet<T>(view, slot, data);
+    if (takesSlowPath(len <= slot.slowLen)) return wholeGet<T>(view, slot, data);
     T value = 0;
-    Detail::copyBits(bytesOf(value), sizeof(value), ViewAccess::buf(view), provedLen(len),
-                     provedWidth<T>(slot), 0, slot.offset);
+    Detail::copyBits(bytesOf(value), sizeof(value), ViewAccess::buf(view), checkedLen(len),
+                     checkedWidth<T>(slot), 0, slot.offset);
     return value;
   }
 
@@ -122,28 +123,28 @@ class Fields {
   [[gnu::always_inline]] static void inlineSet(const EntryView& view, T value, U32 field) {
     const FieldSlot& slot = slotOf(view, field);
     const U16 len = ViewAccess::len(view);
-    if (mustCheck(len <= slot.straightLen || value > largestValue(slot))) {
+    if (takesSlowPath(len <= slot.slowLen || value > largestValue(slot))) {
       return wholeSet<T>(view, value, slot, data);
     }
-    Detail::copyBits(ViewAccess::buf(view), provedLen(len), bytesOf(value), sizeof(value),
-                     provedWidth<T>(slot), slot.offset, 0);
+    Detail::copyBits(ViewAccess::buf(view), checkedLen(len), bytesOf(value), sizeof(value),
+                     checkedWidth<T>(slot), slot.offset, 0);
   }
 
   [[gnu::always_inline]] static U16 inlineOffset(const EntryView& view, U32 field) {
     const FieldSlot& slot = slotOf(view, field);
-    if (mustCheck(slot.width == 0)) return checkedOffset(view, slot, data);
+    if (takesSlowPath(slot.width == 0)) return checkedOffset(view, slot, data);
     return slot.offset;
   }
 
   [[gnu::always_inline]] static U16 inlineLength(const EntryView& view, U32 field) {
     const FieldSlot& slot = slotOf(view, field);
-    if (mustCheck(slot.width == 0)) return checkedLength(view, slot, data);
+    if (takesSlowPath(slot.width == 0)) return checkedLength(view, slot, data);
     return slot.width;
   }
 
   [[gnu::always_inline]] static bool inlineIsValid(const EntryView& view, U32 field) {
     const FieldSlot& slot = slotOf(view, field);
-    if (mustCheck(false)) return checkedIsValid(view, slot, data);
+    if (mayTrace()) return checkedIsValid(view, slot, data);
     return slot.width != 0;
   }
 

@@ -12,7 +12,7 @@ const FieldSlot& slotOfId(const EntryView& view, U32 id, const ClassData& data) 
 /// The value as the setter's parameter takes it: high bits that the type lacks are dropped.
 U64 narrowed(U64 value, ValueType type) { return value & (~U64{0} >> (64 - bitsOf(type))); }
 
-// Each operation with its trace and checks; what the straight ways below leave to others.
+// The slow paths of the operations below: trace, checks, answer.
 
 [[gnu::cold, gnu::noinline]] U16 tracedOffset(const EntryView& view, U32 id, const ClassData& data,
                                               Site site) {
@@ -37,25 +37,25 @@ U64 narrowed(U64 value, ValueType type) { return value & (~U64{0} >> (64 - bitsO
 
 U16 offsetOfId(const EntryView& view, U32 id, const ClassData& data, Site site) {
   const FieldSlot& slot = slotOfId(view, id, data);
-  if (mustCheck(slot.width == 0)) return tracedOffset(view, id, data, site);
+  if (takesSlowPath(slot.width == 0)) return tracedOffset(view, id, data, site);
   return slot.offset;
 }
 
 U16 widthOfId(const EntryView& view, U32 id, const ClassData& data, Site site) {
-  if (mustCheck(false)) traceMember(view, site);
+  if (mayTrace()) traceMember(view, site);
   if (!view.isFieldValid(id)) return 0;
   const FieldSlot& slot = slotOfId(view, id, data);
-  if (mustCheck(slot.width == 0)) return checkedWidth(view, id, data, site);
+  if (takesSlowPath(slot.width == 0)) return checkedWidth(view, id, data, site);
   return slot.width;
 }
 
 bool isIdValid(const EntryView& view, U32 id, const ClassData& data, Site site) {
-  if (mustCheck(false)) return tracedIsValid(view, id, data, site);
+  if (mayTrace()) return tracedIsValid(view, id, data, site);
   return slotOfId(view, id, data).width != 0;
 }
 
 void setById(const EntryView& view, U32 id, U64 value, const ClassData& data, Site site) {
-  if (mustCheck(false)) traceMember(view, site);
+  if (mayTrace()) traceMember(view, site);
   const U32 field = data.fieldOfId(id);
   if (field == data.fields || !isScalar(data.fieldFacts[field].type)) fail("false", site);
   wholeSet<U64>(view, narrowed(value, data.fieldFacts[field].type),

@@ -30,7 +30,7 @@ void allFields(const ClassData& data, const EntryView& view, Site site, U32* ent
 /// getAllFields in the type that the class returns.
 template <class Raw>
 Raw allFieldsAs(const ClassData& data, const EntryView& view, Site site) {
-  U32 words[sizeof(Raw) / sizeof(U32)];
+  U32 words[sizeof(Raw) / sizeof(U32)] = {};
   allFields(data, view, site, words, sizeof(Raw) / sizeof(U32));
   Raw entry;
   std::memcpy(&entry, words, sizeof(entry));
@@ -41,11 +41,10 @@ Raw allFieldsAs(const ClassData& data, const EntryView& view, Site site) {
 [[gnu::cold]] void checkConstruction(const ClassData& data, U32 chipType, U8 variant, Site site);
 
 /// The constructor's work beyond its base.
-template <const auto& table, const auto& data>
+template <class Class>
 inline void construct(U32 chipType, U8 variant, Site site) {
-  const bool isWrong = table.rowOf(chipType, variant) == table.rows;
-  if (__builtin_expect(isWrong || traceMayBeOn(entryLevel), false)) {
-    checkConstruction(data, chipType, variant, site);
+  if (takesSlowPath(rowIn(Class::arrays, chipType, variant) == Class::arrays.rows)) {
+    checkConstruction(Class::data, chipType, variant, site);
   }
 }
 

@@ -6,7 +6,8 @@
 
 #include "AsicUtils/ChipAndVariant.h"
 #include "Velmar/ChipAndVariantText.h"
-#include "framework/ChipCatalogue.h"
+#include "Velmar/FieldId.h"
+#include "framework/ChipSet.h"
 #include "framework/Names.h"
 #include "framework/PlatformAdapter.h"
 
@@ -65,41 +66,11 @@ template <class Write>
   fail("\"0\" == nullptr", site);
 }
 
-/// Setter parameters as signatures spell them.
-const char* parameterName(ValueType type) {
-  switch (type) {
-    case ValueType::u64:
-      return "const U64&";
-    case ValueType::raw128:
-      return "const Raw128&";
-    default:
-      return valueName(type);
-  }
-}
-
 /// What follows the name in each member's signature.
 constexpr const char* suffixes[] = {"() const", "Is(", "Len() const", "Offset() const",
                                     "Valid() const"};
 
 }  // namespace
-
-const char* valueName(ValueType type) {
-  switch (type) {
-    case ValueType::u8:
-      return "U8";
-    case ValueType::u16:
-      return "U16";
-    case ValueType::u32:
-      return "U32";
-    case ValueType::u64:
-      return "U64";
-    case ValueType::raw128:
-      return "Raw128";
-    case ValueType::bitmap:
-      break;
-  }
-  return "Oru::PerUnitBitmap";
-}
 
 FieldSite::FieldSite(const ClassData& data, U32 field, Member member) : line_(data.line) {
   const FieldFacts& facts = data.fieldFacts[field];

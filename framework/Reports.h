@@ -3,8 +3,8 @@
 #include "framework/EntryView.h"
 #include "framework/PlatformAdapter.h"
 
-// The three doors through which the library reports: trace lines, soft assertions and assertions.
-// All of them are out of line; texts are built only when a report is made.
+// The reports of the library: trace lines, soft assertions and assertions. All of them are out of
+// line; texts are built only when a report is made.
 
 namespace Velmar {
 namespace Framework {
@@ -14,9 +14,6 @@ struct Site {
   const char* signature;
   U32 line;
 };
-
-/// A value type as signatures spell it.
-const char* valueName(ValueType type);
 
 /// The members of the field quintet.
 enum class Member : U8 { getter, setter, length, offset, validity };
@@ -37,6 +34,11 @@ class FieldSite {
 constexpr U32 entryLevel = 8;
 /// Level of the line that a failed address look-up writes.
 constexpr U32 failureLevel = 0;
+
+/// Whether a member may have to write its line: false only where the trace is off.
+inline bool mayTrace() { return __builtin_expect(traceMayBeOn(entryLevel), false); }
+/// Whether a member leaves its fast path: something is wrong, or the trace may be on.
+inline bool takesSlowPath(bool isWrong) { return __builtin_expect(isWrong, false) || mayTrace(); }
 
 /// Fails an assertion. May be left by an exception: a test may replace the C library's report.
 [[noreturn, gnu::cold]] void fail(const char* expression, Site site);

@@ -1,10 +1,8 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 
-#include "AsicUtils/EntrySpans.h"
-#include "framework/LayoutRows.h"
+#include "framework/Rows.h"
 
 // What the engine reads, made from the rows of tables/ when compiled. A chip row of a table becomes
 // a "row" here; one more row, the last, stands for every chip and variant that the class lacks.
@@ -16,8 +14,9 @@ namespace Framework {
 struct FieldSlot {
   U16 offset = 0;  ///< first bit
   U16 width = 0;   ///< bits; 0: absent
-  U16 straightLen =
-      0xffff;            ///< a longer buffer holds the field and a whole window; absent: none does
+  /// The fast path takes longer buffers than this: they hold the field and a whole window of the
+  /// bit copy. An absent slot needs more than any buffer has.
+  U16 slowLen = 0xffff;
   U8 uncheckedBits = 0;  ///< values up to 2^(64 - this) - 1 are accepted
 };
 
@@ -30,8 +29,9 @@ constexpr FieldSlot makeSlot(BitRange range) {
   slot.offset = range.offset;
   slot.width = range.width;
   const U32 bytes = bytesUpTo(slot);
-  slot.straightLen = static_cast<U16>((bytes < plainCopyBytes ? plainCopyBytes : bytes) - 1);
-  // Widths of whole bytes take any value of their type.
+  slot.slowLen = static_cast<U16>((bytes < plainCopyBytes ? plainCopyBytes : bytes) - 1);
+  // A width of whole bytes takes any value of the field's type, and the bits that do not fit are
+  // dropped: callers rely on it for the fields that are narrower on some chips.
   if (range.width < 64 && range.width % 8 != 0)
     slot.uncheckedBits = static_cast<U8>(64 - range.width);
   return slot;
@@ -41,17 +41,7 @@ constexpr FieldSlot makeSlot(BitRange range) {
 constexpr U64 largestValue(const FieldSlot& slot) { return ~U64{0} >> slot.uncheckedBits; }
 
 /// Geometry and address of one row. The names are those of the public members that return them.
-struct RowFacts {
-  Variants variants = Variants::any;
-  U16 width = 0;
-  U32 entries = 0;
-  U32 arrayElements = 0;
-  U32 addrStride = 0;
-  U32 fieldCount = 0;
-  U32 base = 0;
-  U32 accessType = 0;
-  U32 identifiers = 0;
-  U32 identifierTerm = 0;  ///< what an identifier adds to the address
+struct RowFacts : Geometry {
   const AsicUtils::EntrySpan* span = nullptr;
 
   static constexpr U32 index_min = 0;
@@ -60,11 +50,11 @@ struct RowFacts {
   static constexpr U32 maxIdentifier = 0;
 };
 
-/// What is kept of a row of the field list.
+/// What is kept of a field's row of names.
 struct FieldFacts {
   U16 id = 0;
   ValueType type = ValueType::u8;
-  Overlap overlap = Overlap::disjoint;
+  bool overlaps = false;  ///< shares bits with another field on some row
   const char* meaning = nullptr;
 };
 
@@ -76,6 +66,19 @@ struct RowIndex {
   U8 row[chipTypes][2];
 };
 
+/// The row of a chip and variant in TableArrays or ClassData; `rows` where the class lacks them.
+template <class Data>
+constexpr U32 rowIn(const Data& data, U32 chipType, U8 variant) {
+  return chipType < chipTypes ? data.rowIndex.row[chipType][variant != 0] : data.rows;
+}
+
+/// The slot of a field on a row. The numbers are of full width, so that the compiler folds them into
+/// one address.
+template <class Data>
+constexpr const FieldSlot& slotIn(const Data& data, std::size_t field, std::size_t row) {
+  return data.slots[field * (data.rows + 1) + row];
+}
+
 /// The identifiers from the lowest to the highest that a class declares.
 struct IdRange {
   U32 first;
@@ -83,54 +86,42 @@ struct IdRange {
 };
 
 template <U32 fields>
-constexpr IdRange idRangeOf(const FieldEntry (&list)[fields]) {
-  U32 lowest = list[0].id;
+constexpr IdRange idRangeOf(const FieldName (&names)[fields]) {
+  U32 lowest = names[0].id;
   U32 highest = lowest;
-  for (const FieldEntry& field : list) {
+  for (const FieldName& field : names) {
     if (field.id < lowest) lowest = field.id;
     if (field.id > highest) highest = field.id;
   }
   return {lowest, highest - lowest + 1};
 }
 
+/// The arrays of one class.
 template <U32 fields_, U32 rows_, U32 rawWords_, U32 ids_>
-struct TableData {
+struct TableArrays {
   static_assert(fields_ < 256 && rows_ < 256, "fields and rows are numbered by bytes");
   static constexpr U32 fields = fields_;
   static constexpr U32 rows = rows_;
-  static constexpr U32 rawWords = rawWords_;
-  /// Families of many alike fields share one routine instead of each having its own copy.
-  static constexpr bool shareRoutines = fields_ > 64;
 
   RowIndex rowIndex{};
   FieldSlot slots[(fields_ + 1) * (rows_ + 1)]{};  ///< by field, then row; the last field is absent
   RowFacts facts[rows_ + 1]{};
   U32 masks[rows_][rawWords_]{};
   FieldFacts fieldFacts[fields_]{};
-  U32 firstId = 0;
-  U8 fieldOfId[ids_]{};  ///< by identifier, from firstId; `fields` where the class lacks it
-
-  constexpr U32 rowOf(U32 chipType, U8 variant) const {
-    return chipType < chipTypes ? rowIndex.row[chipType][variant != 0] : rows_;
-  }
-  /// Called with full-width indices, which the compiler folds into one address.
-  constexpr const FieldSlot& slot(std::size_t field, std::size_t row) const {
-    return slots[field * (rows_ + 1) + row];
-  }
+  U8 fieldOfId[ids_]{};  ///< by identifier, from the lowest; `fields` where the class lacks it
 };
 
-/// A class's data without its sizes, for the paths that need not be fast and for the catalogue.
+/// A class's data without its sizes, for the slow paths and for the catalogue.
 struct ClassData {
   const char* name;
   const char* purpose;
   U32 line;  ///< source line of the class's members
   Kind kind;
-  Block block;
   U16 allFieldsBytes;
   U32 fields;
   U32 rows;
   U32 rawWords;
-  const RowIndex* rowIndex;
+  const RowIndex& rowIndex;
   const FieldSlot* slots;  ///< (fields + 1) x (rows + 1)
   const RowFacts* facts;   ///< rows + 1
   const U32* masks;        ///< rows x rawWords
@@ -139,12 +130,11 @@ struct ClassData {
   U32 ids;
   const U8* fieldIndex;  ///< field by identifier, from firstId
 
-  U32 rowOf(U32 chipType, U8 variant) const {
-    return chipType < chipTypes ? rowIndex->row[chipType][variant != 0] : rows;
-  }
+  /// The row of a chip and variant; `rows` where the class lacks them.
+  U32 rowOf(U32 chipType, U8 variant) const { return rowIn(*this, chipType, variant); }
   /// The row of a chip whatever the variant.
   U32 rowOfChip(U32 chipType) const { return rowOf(chipType, 0); }
-  const FieldSlot& slot(U32 field, U32 row) const { return slots[field * (rows + 1) + row]; }
+  const FieldSlot& slot(U32 field, U32 row) const { return slotIn(*this, field, row); }
   /// The field that a slot belongs to.
   U32 fieldOf(const FieldSlot& slot) const { return static_cast<U32>(&slot - slots) / (rows + 1); }
   /// The field of an identifier; `fields`, which is absent everywhere, for one that is not
@@ -153,87 +143,117 @@ struct ClassData {
   bool hasId(U32 id) const { return fieldOfId(id) != fields; }
 };
 
-template <class FieldRows>
-constexpr const auto& fieldRowOf(const FieldRows& fieldRows, U32 id) {
-  for (const auto& row : fieldRows) {
-    if (row.id == id) return row;
-  }
-  return *std::begin(fieldRows);
-}
-
-template <U32 rawWords, U32 ids, class FieldRows, U32 fields, U32 rows, U32 spans>
-constexpr auto makeTable(Kind kind, const FieldEntry (&list)[fields], const FieldRows& fieldRows,
-                         const ChipRow (&chipRows)[rows], const SpanMember (&spanMembers)[spans]) {
-  TableData<fields, rows, rawWords, ids> table;
-  table.firstId = idRangeOf(list).first;
-  for (U8& field : table.fieldOfId) field = fields;
-  for (U32 chip = 0; chip < chipTypes; ++chip) {
-    table.rowIndex.row[chip][0] = table.rowIndex.row[chip][1] = rows;
-  }
+template <U32 rows>
+constexpr RowIndex makeRowIndex(const ChipRow (&chipRows)[rows]) {
+  RowIndex index{};
+  for (auto& chip : index.row) chip[0] = chip[1] = rows;
   for (U32 row = 0; row < rows; ++row) {
-    const ChipRow& from = chipRows[row];
     for (const ChipName& chip : chipNames) {
-      if (!from.chips.has(chip.number)) continue;
-      table.rowIndex.row[chip.number][0] = static_cast<U8>(row);
-      if (from.variants == Variants::any) table.rowIndex.row[chip.number][1] = static_cast<U8>(row);
-    }
-    RowFacts& facts = table.facts[row];
-    facts.variants = from.variants;
-    facts.width = from.width;
-    facts.entries = from.entries;
-    facts.arrayElements = kind == Kind::table ? 1 : registerArrayElements;
-    facts.addrStride = from.addrStride;
-    facts.base = from.base;
-    facts.accessType = from.accessType;
-    facts.identifiers = from.identifiers;
-    if (kind == Kind::table && bcm5699x.has(from.chips.lowest())) {
-      facts.identifierTerm = identifierTerm;
-    }
-    for (const SpanMember& member : spanMembers) {
-      if (member.span != nullptr && entriesOn(chipRows, member.chip) == from.entries) {
-        facts.span = member.span;
+      if (!chipRows[row].chips.has(chip.number)) continue;
+      index.row[chip.number][0] = static_cast<U8>(row);
+      if (chipRows[row].variants == Variants::any) {
+        index.row[chip.number][1] = static_cast<U8>(row);
       }
     }
   }
-  for (U32 field = 0; field < fields; ++field) {
-    table.fieldOfId[list[field].id - table.firstId] = static_cast<U8>(field);
-    const auto& fieldRow = fieldRowOf(fieldRows, list[field].id);
-    table.fieldFacts[field] = {static_cast<U16>(list[field].id), list[field].type, fieldRow.overlap,
-                               list[field].meaning};
-    for (U32 row = 0; row < rows; ++row) {
-      const BitRange range = fieldRow.ranges[chipRows[row].column];
-      table.slots[field * (rows + 1) + row] = makeSlot(range);
-      if (!isPresent(range)) continue;
-      ++table.facts[row].fieldCount;
-      for (U32 bit = range.offset; bit < endOf(range); ++bit) {
-        table.masks[row][bit / 32] |= 1U << bit % 32;
-      }
-    }
-  }
-  return table;
+  return index;
 }
 
-template <class Table>
+/// The span member of a number of entries; null where the class has none.
+template <U32 rows, U32 spans>
+constexpr const AsicUtils::EntrySpan* spanOf(const SpanMember (&members)[spans],
+                                             const ChipRow (&chipRows)[rows], U32 entries) {
+  for (const SpanMember& member : members) {
+    if (member.span != nullptr && entriesOn(chipRows, member.chip) == entries) return member.span;
+  }
+  return nullptr;
+}
+
+/// The facts of a chip row, but for its number of fields.
+constexpr RowFacts makeRowFacts(Kind kind, const ClassRow& about, const ChipRow& row,
+                                const ChipFacts& chip, const AsicUtils::EntrySpan* span) {
+  const bool isTable = kind == Kind::table;
+  RowFacts facts{};
+  facts.variants = row.variants;
+  facts.words = row.words;
+  facts.entries = row.entries;
+  facts.arrayElements = about.elements;
+  facts.addrStride = isTable ? 0 : chip.registerStride;
+  facts.identifiers = isTable ? 1 : chip.registerIdentifiers;
+  facts.identifierTerm = isTable ? chip.identifierTerm : 0;
+  facts.base = row.base;
+  facts.accessType = row.accessType;
+  facts.block = static_cast<U32>(about.block);
+  facts.span = span;
+  return facts;
+}
+
+/// Whether a field shares bits with another on any chip.
+template <class FieldRows>
+constexpr bool sharesBits(const FieldRows& fieldRows, U32 id) {
+  const auto& row = fieldRowOf(fieldRows, id);
+  for (const auto& other : fieldRows) {
+    if (other.id == id) continue;
+    for (U32 column = 0; column < columnsOf(fieldRows); ++column) {
+      if (shareBits(row.ranges[column], other.ranges[column])) return true;
+    }
+  }
+  return false;
+}
+
+/// The arrays of a class, from its rows.
+template <U32 rawWords, U32 ids, class FieldRows, U32 fields, U32 rows, U32 spans, U32 allChips>
+constexpr auto makeArrays(Kind kind, const FieldName (&names)[fields], const ClassRow& about,
+                          const FieldRows& fieldRows, const ChipRow (&chipRows)[rows],
+                          const SpanMember (&spanMembers)[spans],
+                          const ChipFacts (&chipFacts)[allChips]) {
+  TableArrays<fields, rows, rawWords, ids> arrays;
+  arrays.rowIndex = makeRowIndex(chipRows);
+  for (U32 row = 0; row < rows; ++row) {
+    const ChipRow& chips = chipRows[row];
+    arrays.facts[row] = makeRowFacts(kind, about, chips, factsOf(chipFacts, chips.chips.lowest()),
+                                     spanOf(spanMembers, chipRows, chips.entries));
+  }
+  for (U8& field : arrays.fieldOfId) field = fields;
+  for (U32 field = 0; field < fields; ++field) {
+    const U32 id = names[field].id;
+    arrays.fieldOfId[id - idRangeOf(names).first] = static_cast<U8>(field);
+    arrays.fieldFacts[field] = {static_cast<U16>(id), names[field].type, sharesBits(fieldRows, id),
+                                names[field].meaning};
+    for (U32 row = 0; row < rows; ++row) {
+      const BitRange range = fieldRowOf(fieldRows, id).ranges[chipRows[row].column];
+      arrays.slots[field * (rows + 1) + row] = makeSlot(range);
+      if (!isPresent(range)) continue;
+      ++arrays.facts[row].fieldCount;
+      for (U32 bit = range.offset; bit < endOf(range); ++bit) {
+        arrays.masks[row][bit / 32] |= 1U << bit % 32;
+      }
+    }
+  }
+  return arrays;
+}
+
+template <U32 fields, U32 rows, U32 rawWords, U32 ids>
 constexpr ClassData makeClassData(const char* name, U32 line, Kind kind, const ClassRow& about,
-                                  const Table& table) {
-  const U32 rawBytes = 4 * Table::rawWords;
+                                  U32 firstId,
+                                  const TableArrays<fields, rows, rawWords, ids>& arrays) {
+  const U32 rawBytes = 4 * rawWords;
   return {name,
           about.purpose,
           line,
           kind,
-          about.block,
           static_cast<U16>(about.allFieldsBytes != 0 ? about.allFieldsBytes : rawBytes),
-          Table::fields,
-          Table::rows,
-          Table::rawWords,
-          &table.rowIndex,
-          table.slots,
-          table.facts,
-          &table.masks[0][0],
-          table.fieldFacts,
-          table.firstId,
-          sizeof(table.fieldOfId),
-          table.fieldOfId};
+          fields,
+          rows,
+          rawWords,
+          arrays.rowIndex,
+          arrays.slots,
+          arrays.facts,
+          &arrays.masks[0][0],
+          arrays.fieldFacts,
+          firstId,
+          ids,
+          arrays.fieldOfId};
 }
 
 }  // namespace Framework

@@ -1,16 +1,22 @@
-#include "Velmar/EgrVpVlanMembershipEccEntry.h"
-
-#include "framework/Definitions.h"
+#include "tables/Table.h"
 
 namespace Velmar {
 namespace {
 
 using namespace Framework;
 
-constexpr ClassRow about = {"egress virtual-port VLAN membership, raw data with check bits", egress,
-                            12};
+constexpr ClassRow about = {
+    "egress virtual-port VLAN membership, raw data with check bits", egress, 1, 12};
 
 // clang-format off
+#define FIELDS(FIELD) \
+  FIELD(eccData, EccData, ECC_DATA, Raw128, "raw data of a pair of membership entries") \
+  FIELD(ecc,     Ecc,     ECC,      U8,     "check bits") \
+  FIELD(eccp,    Eccp,    ECCP,     U8,     "check bits and parity") \
+  FIELD(parity,  Parity,  PARITY,   U8,     "parity bit")
+
+#define SPANS(SPAN) SPAN(BCM56470_A0)
+
 enum : U8 { c56470, columns };
 
 constexpr FieldRow<columns> layout[] = {
@@ -22,13 +28,13 @@ constexpr FieldRow<columns> layout[] = {
 };
 
 constexpr ChipRow chips[] = {
-  // chips        column  variants    words  entries base        access
-  {{BCM56470_A0}, c56470, anyVariant,    3,    8192, 0x0a0c0000,    0},
+  // chips        column  variants    words  entries  base        access
+  {{BCM56470_A0}, c56470, anyVariant,     3,    8192, 0x0a0c0000,      0},
 };
 // clang-format on
 
 }  // namespace
 
-VELMAR_DEFINE_TABLE(EgrVpVlanMembershipEccEntry, Raw128)
+VELMAR_TABLE(EgrVpVlanMembershipEccEntry, Raw128, FIELDS, SPANS, about, layout, chips)
 
 }  // namespace Velmar

@@ -1,6 +1,4 @@
-#include "Velmar/IngVpVlanMembershipEntry.h"
-
-#include "framework/Definitions.h"
+#include "tables/Table.h"
 
 namespace Velmar {
 namespace {
@@ -10,6 +8,23 @@ using namespace Framework;
 constexpr ClassRow about = {"ingress virtual-port VLAN membership, hash entries", ingress};
 
 // clang-format off
+#define FIELDS(FIELD) \
+  FIELD(baseValid,          BaseValid,          BASE_VALID,           U8,  "valid code") \
+  FIELD(vlan,               Vlan,               VLAN,                 U16, "VLAN of the key") \
+  FIELD(hashLsb,            HashLsb,            HASH_LSB,             U16, "low bits of the key payload that feed the hash") \
+  FIELD(key,                Key,                KEY,                  U64, "whole key: key type and payload") \
+  FIELD(vp,                 Vp,                 VP,                   U16, "virtual port of the key") \
+  FIELD(data,               Data,               DATA,                 U8,  "whole data part above the key") \
+  FIELD(tableFields,        TableFields,        TABLE_FIELDS,         U64, "all above the key type: key payload and data") \
+  FIELD(vfi,                Vfi,                VFI,                  U16, "virtual forwarding instance") \
+  FIELD(keyType,            KeyType,            KEY_TYPE,             U8,  "key type") \
+  FIELD(sglp,               Sglp,               SGLP,                 U32, "source global port of the key") \
+  FIELD(reservedKeyPadding, ReservedKeyPadding, RESERVED_KEY_PADDING, U8,  "padding of the key") \
+  FIELD(spTree,             SpTree,             SP_TREE,              U8,  "spanning-tree state") \
+  FIELD(rsvdVlan,           RsvdVlan,           RSVD_VLAN,            U8,  "reserved bits above the VLAN")
+
+#define SPANS(SPAN) SPAN(BCM56470_A0)
+
 enum : U8 { c56470, columns };
 
 constexpr FieldRow<columns> layout[] = {
@@ -30,13 +45,13 @@ constexpr FieldRow<columns> layout[] = {
 };
 
 constexpr ChipRow chips[] = {
-  // chips        column  variants    words  entries base        access
-  {{BCM56470_A0}, c56470, anyVariant,    2,   16384, 0x68880000,    0},
+  // chips        column  variants    words  entries  base        access
+  {{BCM56470_A0}, c56470, anyVariant,     2,   16384, 0x68880000,      0},
 };
 // clang-format on
 
 }  // namespace
 
-VELMAR_DEFINE_TABLE(IngVpVlanMembershipEntry, U64)
+VELMAR_TABLE(IngVpVlanMembershipEntry, U64, FIELDS, SPANS, about, layout, chips)
 
 }  // namespace Velmar

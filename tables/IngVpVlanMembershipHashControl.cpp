@@ -1,6 +1,4 @@
-#include "Velmar/IngVpVlanMembershipHashControl.h"
-
-#include "framework/Definitions.h"
+#include "tables/Table.h"
 
 namespace Velmar {
 namespace {
@@ -10,6 +8,15 @@ using namespace Framework;
 constexpr ClassRow about = {"hash control of the ingress virtual-port VLAN membership", ingress};
 
 // clang-format off
+#define FIELDS(FIELD) \
+  FIELD(hashOffsetDedicatedBank0, HashOffsetDedicatedBank0, HASH_OFFSET_DEDICATED_BANK_0, U8, "hash offset of dedicated bank 0") \
+  FIELD(hashOffsetDedicatedBank1, HashOffsetDedicatedBank1, HASH_OFFSET_DEDICATED_BANK_1, U8, "hash offset of dedicated bank 1") \
+  FIELD(robustHashEn,             RobustHashEn,             ROBUST_HASH_EN,               U8, "robust hashing is enabled") \
+  FIELD(enCorErrRpt,              EnCorErrRpt,              EN_COR_ERR_RPT,               U8, "corrected errors are reported") \
+  FIELD(eccEn,                    EccEn,                    ECC_EN,                       U8, "ECC is enabled")
+
+#define SPANS(SPAN) SPAN(BCM56470_A0)
+
 enum : U8 { c56470, columns };
 
 constexpr FieldRow<columns> layout[] = {
@@ -22,13 +29,13 @@ constexpr FieldRow<columns> layout[] = {
 };
 
 constexpr ChipRow chips[] = {
-  // chips        column  variants    words  entries base        access
-  {{BCM56470_A0}, c56470, anyVariant,    1,       1, 0x68940000,    0},
+  // chips        column  variants    words  entries  base        access
+  {{BCM56470_A0}, c56470, anyVariant,     1,       1, 0x68940000,      0},
 };
 // clang-format on
 
 }  // namespace
 
-VELMAR_DEFINE_TABLE(IngVpVlanMembershipHashControl, U32)
+VELMAR_TABLE(IngVpVlanMembershipHashControl, U32, FIELDS, SPANS, about, layout, chips)
 
 }  // namespace Velmar

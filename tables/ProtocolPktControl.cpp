@@ -1,15 +1,29 @@
-#include "Velmar/ProtocolPktControl.h"
-
-#include "framework/Definitions.h"
+#include "tables/Table.h"
 
 namespace Velmar {
 namespace {
 
 using namespace Framework;
 
-constexpr ClassRow about = {"protocol packet control, actions per packet kind", ingress};
+constexpr ClassRow about = {"protocol packet control, actions per packet kind", ingress, 64};
 
 // clang-format off
+#define FIELDS(FIELD) \
+  FIELD(dhcpPktToCpu,    DhcpPktToCpu,    DHCP_PKT_TO_CPU,    U8, "DHCP packets are copied to the CPU") \
+  FIELD(dhcpPktDrop,     DhcpPktDrop,     DHCP_PKT_DROP,      U8, "DHCP packets are dropped") \
+  FIELD(ndPktToCpu,      NdPktToCpu,      ND_PKT_TO_CPU,      U8, "IPv6 neighbour discovery packets are copied to the CPU") \
+  FIELD(ndPktDrop,       NdPktDrop,       ND_PKT_DROP,        U8, "IPv6 neighbour discovery packets are dropped") \
+  FIELD(arpRequestToCpu, ArpRequestToCpu, ARP_REQUEST_TO_CPU, U8, "ARP requests are copied to the CPU") \
+  FIELD(arpRequestDrop,  ArpRequestDrop,  ARP_REQUEST_DROP,   U8, "ARP requests are dropped") \
+  FIELD(arpReplyToCpu,   ArpReplyToCpu,   ARP_REPLY_TO_CPU,   U8, "ARP replies are copied to the CPU") \
+  FIELD(arpReplyDrop,    ArpReplyDrop,    ARP_REPLY_DROP,     U8, "ARP replies are dropped") \
+  FIELD(srpPktToCpu,     SrpPktToCpu,     SRP_PKT_TO_CPU,     U8, "SRP packets are copied to the CPU") \
+  FIELD(srpFwdAction,    SrpFwdAction,    SRP_FWD_ACTION,     U8, "forward action for SRP packets") \
+  FIELD(mmrpPktToCpu,    MmrpPktToCpu,    MMRP_PKT_TO_CPU,    U8, "MMRP packets are copied to the CPU") \
+  FIELD(mmrpFwdAction,   MmrpFwdAction,   MMRP_FWD_ACTION,    U8, "forward action for MMRP packets")
+
+#define SPANS(SPAN)
+
 enum : U8 { c56960, c56870, c56980, columns };
 
 constexpr FieldRow<columns> layout[] = {
@@ -29,18 +43,18 @@ constexpr FieldRow<columns> layout[] = {
 };
 
 constexpr ChipRow chips[] = {
-  // chips                                               column  variants    words  entries base        access  stride  identifiers
-  {{BCM56960_A0, BCM56965_A0, BCM56968_A0},              c56960, anyVariant,    1,       1, 0x42008000,    9,     256,  2},
-  {{BCM56970_A0},                                        c56960, anyVariant,    1,       1, 0x82008000,    9,     256,  2},
-  {{BCM56870_A0, BCM56770_A0},                           c56870, anyVariant,    1,       1, 0x72008000,    9,     256,  2},
-  {{BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0}, c56870, anyVariant,    1,       1, 0x72008000,    0,     256,  2},
-  {{BCM56980_A0},                                        c56980, anyVariant,    1,       1, 0x12004900,    9,     256,  2},
-  {bcm5699x,                                             c56980, anyVariant,    1,       1, 0x12012400,   17,    1024,  1},
+  // chips                                                            column  variants    words  entries  base        access
+  {{BCM56960_A0, BCM56965_A0, BCM56968_A0},                           c56960, anyVariant,     1,       1, 0x42008000,      9},
+  {{BCM56970_A0},                                                     c56960, anyVariant,     1,       1, 0x82008000,      9},
+  {{BCM56870_A0, BCM56770_A0},                                        c56870, anyVariant,     1,       1, 0x72008000,      9},
+  {{BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0},              c56870, anyVariant,     1,       1, 0x72008000,      0},
+  {{BCM56980_A0},                                                     c56980, anyVariant,     1,       1, 0x12004900,      9},
+  {{BCM56990_B0, BCM56992_B0, BCM56993_B0, BCM56996_A0, BCM56996_B0}, c56980, anyVariant,     1,       1, 0x12012400,     17},
 };
 // clang-format on
 
 }  // namespace
 
-VELMAR_DEFINE_REGISTER(ProtocolPktControl, U32)
+VELMAR_REGISTER(ProtocolPktControl, U32, FIELDS, SPANS, about, layout, chips)
 
 }  // namespace Velmar

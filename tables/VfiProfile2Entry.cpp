@@ -1,6 +1,4 @@
-#include "Velmar/VfiProfile2Entry.h"
-
-#include "framework/Definitions.h"
+#include "tables/Table.h"
 
 namespace Velmar {
 namespace {
@@ -10,10 +8,20 @@ using namespace Framework;
 constexpr ClassRow about = {"second VFI profile table, block masks and their selectors", ingress};
 
 // clang-format off
-enum : U8 { c56870, c56470, c5699x, columns };
+#define FIELDS(FIELD) \
+  FIELD(bcastMaskSel,        BcastMaskSel,        BCAST_MASK_SEL,         U8,     "block mask for broadcast") \
+  FIELD(unknownUcastMaskSel, UnknownUcastMaskSel, UNKNOWN_UCAST_MASK_SEL, U8,     "block mask for unknown unicast") \
+  FIELD(knownMcastMaskSel,   KnownMcastMaskSel,   KNOWN_MCAST_MASK_SEL,   U8,     "block mask for known multicast") \
+  FIELD(unknownMcastMaskSel, UnknownMcastMaskSel, UNKNOWN_MCAST_MASK_SEL, U8,     "block mask for unknown multicast") \
+  FIELD(blockMaskA,          BlockMaskA,          BLOCK_MASK_A,           Bitmap, "block mask A") \
+  FIELD(blockMaskB,          BlockMaskB,          BLOCK_MASK_B,           Bitmap, "block mask B")
+
+#define SPANS(SPAN) SPAN(BCM56470_A0)
+
+enum : U8 { c56870, c56470, c56990, columns };
 
 constexpr FieldRow<columns> layout[] = {
-  //                                   56870       56470      5699x
+  //                                   56870       56470      56990
   {FieldId::BCAST_MASK_SEL,         {{280,   2}, {150,  2}, {  0,   2}}},
   {FieldId::UNKNOWN_UCAST_MASK_SEL, {{282,   2}, {152,  2}, {550,   2}}},
   {FieldId::KNOWN_MCAST_MASK_SEL,   {{286,   2}, {156,  2}, {546,   2}}},
@@ -23,15 +31,15 @@ constexpr FieldRow<columns> layout[] = {
 };
 
 constexpr ChipRow chips[] = {
-  // chips                                               column  variants    words  entries base        access
-  {{BCM56870_A0, BCM56770_A0},                           c56870, anyVariant,   10,     128, 0x80ec0000,    9},
-  {{BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0}, c56470, anyVariant,    6,     128, 0x80ec0000,    0},
-  {bcm5699x,                                             c5699x, anyVariant,   18,     128, 0x20f80000,   17},
+  // chips                                                            column  variants    words  entries  base        access
+  {{BCM56870_A0, BCM56770_A0},                                        c56870, anyVariant,    10,     128, 0x80ec0000,      9},
+  {{BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0},              c56470, anyVariant,     6,     128, 0x80ec0000,      0},
+  {{BCM56990_B0, BCM56992_B0, BCM56993_B0, BCM56996_A0, BCM56996_B0}, c56990, anyVariant,    18,     128, 0x20f80000,     17},
 };
 // clang-format on
 
 }  // namespace
 
-VELMAR_DEFINE_TABLE(VfiProfile2Entry, Raw1024)
+VELMAR_TABLE(VfiProfile2Entry, Raw1024, FIELDS, SPANS, about, layout, chips)
 
 }  // namespace Velmar

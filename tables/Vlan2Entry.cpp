@@ -1,16 +1,23 @@
-#include "Velmar/Vlan2Entry.h"
-
-#include "framework/Definitions.h"
+#include "tables/Table.h"
 
 namespace Velmar {
 namespace {
 
 using namespace Framework;
 
-constexpr ClassRow about = {"second ingress VLAN table, port bitmaps or their profile per VLAN",
-                            ingress};
+constexpr ClassRow about = {
+    "second ingress VLAN table, port bitmaps or their profile per VLAN", ingress};
 
 // clang-format off
+#define FIELDS(FIELD) \
+  FIELD(valid,                Valid,                VALID,                   U8,     "the entry is valid") \
+  FIELD(stg,                  Stg,                  STG,                     U16,    "spanning-tree group") \
+  FIELD(portBitmapProfilePtr, PortBitmapProfilePtr, PORT_BITMAP_PROFILE_PTR, U16,    "index of the port bitmap profile") \
+  FIELD(ingPortBitmap,        IngPortBitmap,        ING_PORT_BITMAP,         Bitmap, "ingress member ports") \
+  FIELD(portBitmap,           PortBitmap,           PORT_BITMAP,             Bitmap, "member ports")
+
+#define SPANS(SPAN) SPAN(BCM56970_A0)
+
 enum : U8 { c56970, c56980, columns };
 
 constexpr FieldRow<columns> layout[] = {
@@ -23,14 +30,14 @@ constexpr FieldRow<columns> layout[] = {
 };
 
 constexpr ChipRow chips[] = {
-  // chips        column  variants    words  entries base        access
-  {{BCM56970_A0}, c56970, anyVariant,   12,    4096, 0x5c2c0000,   14},
-  {{BCM56980_A0}, c56980, anyVariant,    8,    4096, 0x0c780000,   14},
+  // chips        column  variants    words  entries  base        access
+  {{BCM56970_A0}, c56970, anyVariant,    12,    4096, 0x5c2c0000,     14},
+  {{BCM56980_A0}, c56980, anyVariant,     8,    4096, 0x0c780000,     14},
 };
 // clang-format on
 
 }  // namespace
 
-VELMAR_DEFINE_TABLE(Vlan2Entry, Raw512)
+VELMAR_TABLE(Vlan2Entry, Raw512, FIELDS, SPANS, about, layout, chips)
 
 }  // namespace Velmar

@@ -1,6 +1,4 @@
-#include "Velmar/VlanEntry.h"
-
-#include "framework/Definitions.h"
+#include "tables/Table.h"
 
 namespace Velmar {
 namespace {
@@ -10,10 +8,34 @@ using namespace Framework;
 constexpr ClassRow about = {"ingress VLAN table, one entry per VLAN", ingress};
 
 // clang-format off
-enum : U8 { c56960, c56970, c56870, c56470, c56370, c56275, c56175, c56980, c5699x, columns };
+#define FIELDS(FIELD) \
+  FIELD(valid,                 Valid,                 VALID,                    U8,     "the entry is valid") \
+  FIELD(fidId,                 FidId,                 FID_ID,                   U16,    "forwarding id") \
+  FIELD(enableIgmpMldSnooping, EnableIgmpMldSnooping, ENABLE_IGMP_MLD_SNOOPING, U8,     "IGMP/MLD snooping is enabled") \
+  FIELD(vlanClassId,           VlanClassId,           VLAN_CLASS_ID,            U16,    "VLAN class id") \
+  FIELD(stg,                   Stg,                   STG,                      U16,    "spanning-tree group") \
+  FIELD(vlanProfilePtr,        VlanProfilePtr,        VLAN_PROFILE_PTR,         U8,     "index of the VLAN profile") \
+  FIELD(ingPortBitmap,         IngPortBitmap,         ING_PORT_BITMAP,          Bitmap, "ingress member ports") \
+  FIELD(portBitmap,            PortBitmap,            PORT_BITMAP,              Bitmap, "member ports") \
+  FIELD(vfi,                   Vfi,                   VFI,                      U16,    "virtual forwarding instance") \
+  FIELD(membershipProfilePtr,  MembershipProfilePtr,  MEMBERSHIP_PROFILE_PTR,   U16,    "index of the membership profile") \
+  FIELD(portBitmapProfilePtr,  PortBitmapProfilePtr,  PORT_BITMAP_PROFILE_PTR,  U16,    "index of the port bitmap profile") \
+  FIELD(enIfilter,             EnIfilter,             EN_IFILTER,               U8,     "the ingress filter is enabled") \
+  FIELD(l3Iif,                 L3Iif,                 L3_IIF,                   U16,    "layer-3 ingress interface") \
+  FIELD(virtualPortEn,         VirtualPortEn,         VIRTUAL_PORT_EN,          U8,     "virtual ports are enabled") \
+  FIELD(learnDisable,          LearnDisable,          LEARN_DISABLE,            U8,     "learning is disabled") \
+  FIELD(l2EntryKeyType,        L2EntryKeyType,        L2_ENTRY_KEY_TYPE,        U8,     "key type of the layer-2 entry") \
+  FIELD(flexCtrAction,         FlexCtrAction,         FLEX_CTR_ACTION,          U8,     "flexible counter action") \
+  FIELD(uucIdx,                UucIdx,                UUC_IDX,                  U16,    "unknown unicast flood index") \
+  FIELD(umcIdx,                UmcIdx,                UMC_IDX,                  U16,    "unknown multicast flood index") \
+  FIELD(bcIdx,                 BcIdx,                 BC_IDX,                   U16,    "broadcast flood index")
+
+#define SPANS(SPAN) SPAN(BCM56968_A0) SPAN(BCM56996_A0)
+
+enum : U8 { c56960, c56970, c56870, c56470, c56370, c56275, c56175, c56980, c56990, columns };
 
 constexpr FieldRow<columns> layout[] = {
-  //                                  56960       56970       56870       56470       56370       56275       56175       56980       5699x
+  //                                  56960       56970       56870       56470       56370       56275       56175       56980       56990
   {FieldId::VALID,                   {{345,   1}, {  0,   1}, {150,   1}, {150,   1}, {150,   1}, {150,   1}, {150,   1}, { 62,   1}, { 66,   1}}},
   {FieldId::FID_ID,                  {{365,  12}, { 20,  12}, {172,  12}, {172,  12}, {172,  12}, {172,  12}, {172,  12}, { 10,  12}, { 10,  13}}},
   {FieldId::ENABLE_IGMP_MLD_SNOOPING,{{380,   1}, { 35,   1}, none      , none      , none      , none      , none      , {  9,   1}, {  9,   1}}},
@@ -37,21 +59,21 @@ constexpr FieldRow<columns> layout[] = {
 };
 
 constexpr ChipRow chips[] = {
-  // chips                                    column  variants     words entries base        access
-  {{BCM56960_A0, BCM56965_A0, BCM56968_A0},   c56960, anyVariant,  16,   4096,   0x380c0000, 14},
-  {{BCM56970_A0},                             c56970, anyVariant,   5,   4096,   0x5c280000, 14},
-  {{BCM56870_A0, BCM56770_A0},                c56870, anyVariant,  12,   4096,   0x643c0000,  9},
-  {{BCM56470_A0},                             c56470, anyVariant,  12,   4096,   0x68400000,  0},
-  {{BCM56370_A0},                             c56370, anyVariant,  12,   4096,   0x643c0000,  0},
-  {{BCM56275_A0},                             c56275, anyVariant,  12,   4096,   0x643c0000,  0},
-  {{BCM56175_A0},                             c56175, anyVariant,  12,   4096,   0x643c0000,  0},
-  {{BCM56980_A0},                             c56980, anyVariant,   3,   4096,   0x0c740000,  9},
-  {bcm5699x,                                  c5699x, variantZero,  4,   8192,   0x0c7c0000, 17},
+  // chips                                                            column  variants     words  entries  base        access
+  {{BCM56960_A0, BCM56965_A0, BCM56968_A0},                           c56960, anyVariant,     16,    4096, 0x380c0000,     14},
+  {{BCM56970_A0},                                                     c56970, anyVariant,      5,    4096, 0x5c280000,     14},
+  {{BCM56870_A0, BCM56770_A0},                                        c56870, anyVariant,     12,    4096, 0x643c0000,      9},
+  {{BCM56470_A0},                                                     c56470, anyVariant,     12,    4096, 0x68400000,      0},
+  {{BCM56370_A0},                                                     c56370, anyVariant,     12,    4096, 0x643c0000,      0},
+  {{BCM56275_A0},                                                     c56275, anyVariant,     12,    4096, 0x643c0000,      0},
+  {{BCM56175_A0},                                                     c56175, anyVariant,     12,    4096, 0x643c0000,      0},
+  {{BCM56980_A0},                                                     c56980, anyVariant,      3,    4096, 0x0c740000,      9},
+  {{BCM56990_B0, BCM56992_B0, BCM56993_B0, BCM56996_A0, BCM56996_B0}, c56990, variantZero,     4,    8192, 0x0c7c0000,     17},
 };
 // clang-format on
 
 }  // namespace
 
-VELMAR_DEFINE_TABLE(VlanEntry, Raw512)
+VELMAR_TABLE(VlanEntry, Raw512, FIELDS, SPANS, about, layout, chips)
 
 }  // namespace Velmar

@@ -1,6 +1,4 @@
-#include "Velmar/VlanMplsEntry.h"
-
-#include "framework/Definitions.h"
+#include "tables/Table.h"
 
 namespace Velmar {
 namespace {
@@ -11,6 +9,16 @@ constexpr ClassRow about = {
     "ingress VLAN MPLS table, tunnel enables and layer-3 interface per VLAN", ingress};
 
 // clang-format off
+#define FIELDS(FIELD) \
+  FIELD(mplsEnable,           MplsEnable,           MPLS_ENABLE,            U8,  "MPLS is enabled") \
+  FIELD(mimTermEnable,        MimTermEnable,        MIM_TERM_ENABLE,        U8,  "MAC-in-MAC termination is enabled") \
+  FIELD(l3Iif,                L3Iif,                L3_IIF,                 U16, "layer-3 ingress interface") \
+  FIELD(enIfilter,            EnIfilter,            EN_IFILTER,             U8,  "the ingress filter is enabled") \
+  FIELD(membershipProfilePtr, MembershipProfilePtr, MEMBERSHIP_PROFILE_PTR, U8,  "index of the membership profile") \
+  FIELD(vfi,                  Vfi,                  VFI,                    U8,  "virtual forwarding instance")
+
+#define SPANS(SPAN) SPAN(BCM56968_A0) SPAN(BCM56996_A0)
+
 enum : U8 { c56960, c56980, columns };
 
 constexpr FieldRow<columns> layout[] = {
@@ -24,16 +32,16 @@ constexpr FieldRow<columns> layout[] = {
 };
 
 constexpr ChipRow chips[] = {
-  // chips                                  column  variants     words  entries base        access
-  {{BCM56960_A0, BCM56965_A0, BCM56968_A0}, c56960, anyVariant,     1,    4096, 0x34000000,    9},
-  {{BCM56970_A0},                           c56960, anyVariant,     1,    4096, 0x58000000,    9},
-  {{BCM56980_A0},                           c56980, anyVariant,     1,    4096, 0x08240000,    9},
-  {bcm5699x,                                c56980, variantZero,    1,    8192, 0x08380000,   17},
+  // chips                                                            column  variants     words  entries  base        access
+  {{BCM56960_A0, BCM56965_A0, BCM56968_A0},                           c56960, anyVariant,      1,    4096, 0x34000000,      9},
+  {{BCM56970_A0},                                                     c56960, anyVariant,      1,    4096, 0x58000000,      9},
+  {{BCM56980_A0},                                                     c56980, anyVariant,      1,    4096, 0x08240000,      9},
+  {{BCM56990_B0, BCM56992_B0, BCM56993_B0, BCM56996_A0, BCM56996_B0}, c56980, variantZero,     1,    8192, 0x08380000,     17},
 };
 // clang-format on
 
 }  // namespace
 
-VELMAR_DEFINE_TABLE(VlanMplsEntry, U32)
+VELMAR_TABLE(VlanMplsEntry, U32, FIELDS, SPANS, about, layout, chips)
 
 }  // namespace Velmar

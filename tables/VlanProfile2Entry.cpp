@@ -1,6 +1,4 @@
-#include "Velmar/VlanProfile2Entry.h"
-
-#include "framework/Definitions.h"
+#include "tables/Table.h"
 
 namespace Velmar {
 namespace {
@@ -10,10 +8,20 @@ using namespace Framework;
 constexpr ClassRow about = {"second VLAN profile table, block masks and their selectors", ingress};
 
 // clang-format off
-enum : U8 { c56960, c56870, c56470, c56980, c5699x, columns };
+#define FIELDS(FIELD) \
+  FIELD(bcastMaskSel,        BcastMaskSel,        BCAST_MASK_SEL,         U8,     "block mask for broadcast") \
+  FIELD(unknownUcastMaskSel, UnknownUcastMaskSel, UNKNOWN_UCAST_MASK_SEL, U8,     "block mask for unknown unicast") \
+  FIELD(knownMcastMaskSel,   KnownMcastMaskSel,   KNOWN_MCAST_MASK_SEL,   U8,     "block mask for known multicast") \
+  FIELD(unknownMcastMaskSel, UnknownMcastMaskSel, UNKNOWN_MCAST_MASK_SEL, U8,     "block mask for unknown multicast") \
+  FIELD(blockMaskA,          BlockMaskA,          BLOCK_MASK_A,           Bitmap, "block mask A") \
+  FIELD(blockMaskB,          BlockMaskB,          BLOCK_MASK_B,           Bitmap, "block mask B")
+
+#define SPANS(SPAN) SPAN(BCM56968_A0)
+
+enum : U8 { c56960, c56870, c56470, c56980, c56990, columns };
 
 constexpr FieldRow<columns> layout[] = {
-  //                                   56960       56870       56470      56980       5699x
+  //                                   56960       56870       56470      56980       56990
   {FieldId::BCAST_MASK_SEL,         {{272,   2}, {280,   2}, {150,  2}, {  0,   2}, {  0,   2}}},
   {FieldId::UNKNOWN_UCAST_MASK_SEL, {{274,   2}, {282,   2}, {152,  2}, {326,   2}, {550,   2}}},
   {FieldId::KNOWN_MCAST_MASK_SEL,   {{278,   2}, {286,   2}, {156,  2}, {322,   2}, {546,   2}}},
@@ -23,18 +31,18 @@ constexpr FieldRow<columns> layout[] = {
 };
 
 constexpr ChipRow chips[] = {
-  // chips                                               column  variants     words  entries base        access
-  {{BCM56960_A0, BCM56965_A0, BCM56968_A0},              c56960, anyVariant,     9,     128, 0x506c0000,    9},
-  {{BCM56970_A0},                                        c56960, anyVariant,    10,     128, 0x906c0000,    9},
-  {{BCM56870_A0, BCM56770_A0},                           c56870, anyVariant,    10,     128, 0x807c0000,    9},
-  {{BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0}, c56470, anyVariant,     6,     128, 0x807c0000,    0},
-  {{BCM56980_A0},                                        c56980, anyVariant,    11,     128, 0x1cc80000,    9},
-  {bcm5699x,                                             c5699x, variantZero,   18,     128, 0x20f80000,   17},
+  // chips                                                            column  variants     words  entries  base        access
+  {{BCM56960_A0, BCM56965_A0, BCM56968_A0},                           c56960, anyVariant,      9,     128, 0x506c0000,      9},
+  {{BCM56970_A0},                                                     c56960, anyVariant,     10,     128, 0x906c0000,      9},
+  {{BCM56870_A0, BCM56770_A0},                                        c56870, anyVariant,     10,     128, 0x807c0000,      9},
+  {{BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0},              c56470, anyVariant,      6,     128, 0x807c0000,      0},
+  {{BCM56980_A0},                                                     c56980, anyVariant,     11,     128, 0x1cc80000,      9},
+  {{BCM56990_B0, BCM56992_B0, BCM56993_B0, BCM56996_A0, BCM56996_B0}, c56990, variantZero,    18,     128, 0x20f80000,     17},
 };
 // clang-format on
 
 }  // namespace
 
-VELMAR_DEFINE_TABLE(VlanProfile2Entry, Raw1024)
+VELMAR_TABLE(VlanProfile2Entry, Raw1024, FIELDS, SPANS, about, layout, chips)
 
 }  // namespace Velmar

@@ -1,6 +1,4 @@
-#include "Velmar/VlanStgBEntry.h"
-
-#include "framework/Definitions.h"
+#include "tables/Table.h"
 
 namespace Velmar {
 namespace {
@@ -10,20 +8,24 @@ using namespace Framework;
 constexpr ClassRow about = {"ingress spanning-tree groups, upper ports, a state per port", ingress};
 
 // clang-format off
-enum : U8 { c5699x, columns };
+#define FIELDS(FIELD) VELMAR_SP_TREE_PORTS_136_TO_271(FIELD)
 
-//                                    first  bits  ports: 5699x
-constexpr PortRule<columns> states = {136,   2,          {136}};
+#define SPANS(SPAN) SPAN(BCM56996_A0)
+
+enum : U8 { c56990, columns };
+
+// field of the first port, bits per port, ports of 56990
+constexpr PortRule<columns> states = {FieldId::SP_TREE_PORT136, 2, {136}};
 constexpr auto layout = portRows<136>(states);
 
 constexpr ChipRow chips[] = {
-  // chips   column  variants    words  entries base        access
-  {bcm5699x, c5699x, anyVariant,   10,      64, 0x0c8c0000,   22},
+  // chips                                                            column  variants    words  entries  base        access
+  {{BCM56990_B0, BCM56992_B0, BCM56993_B0, BCM56996_A0, BCM56996_B0}, c56990, anyVariant,    10,      64, 0x0c8c0000,     22},
 };
 // clang-format on
 
 }  // namespace
 
-VELMAR_DEFINE_TABLE(VlanStgBEntry, Raw512)
+VELMAR_TABLE(VlanStgBEntry, Raw512, FIELDS, SPANS, about, layout, chips)
 
 }  // namespace Velmar

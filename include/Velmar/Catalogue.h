@@ -24,8 +24,11 @@ VELMAR_EXPORT U32 chipCount();
 /// Chip `index`, below chipCount().
 VELMAR_EXPORT Chip chip(U32 index);
 
+/// A table is a memory of many entries, a register array one register of many elements.
 enum class Kind : U8 { table, registerArray };
+/// What a field's getter returns.
 enum class ValueType : U8 { u8, u16, u32, u64, raw128, bitmap };
+/// What a class on a chip takes as variant: any number, or 0 only.
 enum class Variants : U8 { any, zeroOnly };
 
 /// The name of a value type as signatures have it, such as "U16" or "Oru::PerUnitBitmap".
@@ -38,7 +41,7 @@ struct Field {
   const char* meaning;       ///< a few words
   U32 id;                    ///< identifier
   ValueType type;            ///< what its getter returns
-  bool overlaps;             ///< names bits that other fields of the class name too
+  bool overlaps;             ///< shares bits with another field of the class on some chip
 };
 
 /// Where a field lies in an entry, in bits.
@@ -50,7 +53,7 @@ struct BitRange {
 /// Shape and address of a class on one chip.
 struct Geometry {
   Variants variants;   ///< whether the chip takes any variant or variant 0 only
-  U16 width;           ///< entry width in 32-bit words
+  U16 words;           ///< size of an entry in 32-bit words
   U32 entries;         ///< number of entries; 1 for a register array
   U32 arrayElements;   ///< number of array elements; 1 for a table
   U32 addrStride;      ///< address distance between array elements; 0 for a table
@@ -60,13 +63,16 @@ struct Geometry {
   U32 base;            ///< S-channel address of entry 0, element 0, identifier 0
   U32 accessType;      ///< S-channel access code
   U32 block;           ///< pipeline block: 1 ingress, 2 egress
+
+  /// S-channel address of an entry (of a table) and element (of a register array).
+  constexpr U32 addressOf(U32 entry, U32 element, U32 identifier) const {
+    return base + identifier * identifierTerm + entry + element * addrStride;
+  }
 };
 
 /// One view class. A small value; copy it freely.
 class VELMAR_EXPORT Table {
  public:
-  explicit Table(const Framework::ClassData& data) : data_(&data) {}
-
   const char* name() const;     ///< class name, such as "VlanEntry"
   const char* purpose() const;  ///< what it holds, in a few words
   Kind kind() const;
@@ -90,6 +96,9 @@ class VELMAR_EXPORT Table {
   bool isFieldBit(U32 bit, U32 chipType) const;
 
  private:
+  friend VELMAR_EXPORT Table table(U32 index);
+  explicit Table(const Framework::ClassData& data) : data_(&data) {}
+
   const Framework::ClassData* data_;
 };
 

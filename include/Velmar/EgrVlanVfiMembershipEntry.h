@@ -1,20 +1,127 @@
+// Derived from tables/EgrVlanVfiMembershipEntry.cpp; do not edit.
+// To refresh: cmake --build --preset release --target refresh
 #pragma once
 
+#include "AsicUtils/BcmAsicBase.h"
 #include "Oru/PerUnitBitmap.h"
-#include "Velmar/Declarations.h"
-
-// clang-format off
-#define VELMAR_FIELDS_EgrVlanVfiMembershipEntry(FIELD) \
-  FIELD(portBitmap, PortBitmap, PORT_BITMAP, Bitmap, "member ports")
-
-#define VELMAR_SPANS_EgrVlanVfiMembershipEntry(SPAN) SPAN(BCM56470_A0)
-// clang-format on
+#include "Velmar/Export.h"
 
 namespace Velmar {
 
-/// Egress membership profiles: the member ports.
+/// Egress membership profiles, member ports.
+///
+/// A view of one entry of this egress memory. The bytes are the caller's; bit 0 of the entry is bit
+/// 0 of the first byte. On BCM56870_A0, BCM56770_A0, BCM56470_A0, BCM56370_A0, BCM56275_A0,
+/// BCM56175_A0, BCM56990_B0, BCM56992_B0, BCM56993_B0, BCM56996_A0, BCM56996_B0: "from" in the
+/// comments below follows this order.
+///
+/// The members of a field F trace at level 8, then check in this order:
+///  - F() and FIs(): "0" where the chip lacks the field, "variant_ == 0" where only the variant
+///    does, "len_ >= N" where the buffer ends before the field. FIs(): also "value <= 0x<mask>"
+///    where the value is too large and the width is not a multiple of 8. A bitmap of too few words
+///    throws Morvo::VectorOutOfRangeException after the words it had; surplus words are ignored.
+///  - FLen(): where the view lacks the field, the soft assertion " does not have field
+///    <HARDWARE_NAME>", then "\"0\" == nullptr". FOffset(): "0" and "variant_ == 0" as F().
+///  - isFValid() never fails.
+/// A static member fails "0" for a chip without the memory and "variant == 0" for a variant that
+/// the chip does not have, unless its comment says otherwise.
 class VELMAR_EXPORT EgrVlanVfiMembershipEntry : public AsicUtils::BcmAsicBase {
-  VELMAR_DECLARE_TABLE(EgrVlanVfiMembershipEntry, Raw512)
+ public:
+  using EntrySpans = AsicUtils::EntrySpans;
+
+  /// Binds the view to `buf`, `len` bytes that outlive it. A chip or variant without the class: the
+  /// soft assertion " not in metainfo for EgrVlanVfiMembershipEntry!", then "\"0\" == nullptr".
+  EgrVlanVfiMembershipEntry(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
+  /// Does nothing.
+  static void handleBuf(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
+  /// Whether the constructor accepts the pair. Never fails.
+  static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
+  /// True.
+  bool isPrimary() const;
+  /// True: a memory.
+  bool isTable() const override;
+
+  /// Sets a scalar field by identifier (Velmar/FieldId.h). The value first loses the bits that the
+  /// field's type lacks. Any other identifier fails "false".
+  void setField64(U32 fieldId, U64 value) override;
+  /// Width of a field in bits; 0 where the view lacks it.
+  U16 fieldWidth(U32 fieldId) const override;
+  /// First bit of a field. An identifier without a field here fails "false".
+  U16 fieldOffset(U32 fieldId) const override;
+  /// Whether the view has a field. Never fails.
+  bool isFieldValid(U32 fieldId) const override;
+  /// The entry with every bit outside its fields zero. Fails "len_ >= 64" where the buffer is
+  /// shorter.
+  Raw512 getAllFields() const;
+  /// A one at every bit of an entry that belongs to a field.
+  static Raw8192 allFieldsMask(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  Raw8192 allFieldsMask() const override;
+  /// Number of fields that the chip has.
+  static U32 fieldCount(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 fieldCount() const override;
+
+  /// Whether an instance identifier is accepted.
+  static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
+  /// The same for the view's chip and variant.
+  bool hasIdentifier(U32 identifier) const override;
+  /// S-channel address, access code and block (1 ingress, 2 egress). False, and nothing written,
+  /// for a chip or variant without the class. Fails "tableEntry < N", "arrayIndex == 0",
+  /// "hasIdentifier( chipType, variant, identifier )".
+  static bool getSchanAddress(U32 chipType, U8 variant, U32& address, U32& accessType, U32& block,
+                              U16 identifier, U32 tableEntry, U16 arrayIndex);
+  /// The same for the view's chip and variant.
+  bool getSchanAddress(U32& address, U32& accessType, U32& block, U16 identifier, U32 tableEntry,
+                       U16 arrayIndex) const override;
+
+  /// Size of an entry in 32-bit words.
+  static U16 width(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U16 width() const override;
+  /// The same as width().
+  static U16 tableWidth(U32 chipType, U8 variant);
+  /// 1.
+  static U32 arrayElements(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 arrayElements() const override;
+  /// Number of instances: 1.
+  static U32 instanceCount(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 instanceCount() const override;
+  /// Number of entries.
+  static U32 entries(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 entries() const override;
+  /// Lowest index of an entry: 0.
+  static U32 index_min(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 index_min() const;
+  /// 0.
+  static U32 arrayIndex_min(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 arrayIndex_min() const;
+  /// The ranges of valid indices.
+  static EntrySpans entrySpans(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  EntrySpans entrySpans() const override;
+  /// 1 where the chip has the memory, else 0. Never fails.
+  static U32 tableVariantCount(U32 chipType);
+  /// The same for the view's chip.
+  U32 tableVariantCount() const override;
+  /// The valid indices on BCM56470_A0 and chips with as many entries.
+  static const AsicUtils::EntrySpan _entrySpans_BCM56470_A0[1];
+
+  /// Member ports. PORT_BITMAP: 132 bits, 72 from BCM56470_A0, 272 from BCM56990_B0; on all chips.
+  Oru::PerUnitBitmap portBitmap() const;
+  /// Sets PORT_BITMAP.
+  void portBitmapIs(Oru::PerUnitBitmap value);
+  /// Width of PORT_BITMAP in bits.
+  U16 portBitmapLen() const;
+  /// First bit of PORT_BITMAP in the entry.
+  U16 portBitmapOffset() const;
+  /// Whether the view has PORT_BITMAP.
+  bool isPortBitmapValid() const;
 };
 
 }  // namespace Velmar

@@ -1,33 +1,278 @@
+// Derived from tables/EgrVpVlanMembershipEntry.cpp; do not edit.
+// To refresh: cmake --build --preset release --target refresh
 #pragma once
 
-#include "Velmar/Declarations.h"
-
-// clang-format off
-#define VELMAR_FIELDS_EgrVpVlanMembershipEntry(FIELD) \
-  FIELD(baseValid,          BaseValid,          BASE_VALID,           U8,  "valid code") \
-  FIELD(vlan,               Vlan,               VLAN,                 U16, "VLAN of the key") \
-  FIELD(hashLsb,            HashLsb,            HASH_LSB,             U16, "low bits of the key payload that feed the hash") \
-  FIELD(key,                Key,                KEY,                  U64, "whole key: key type and payload") \
-  FIELD(vp,                 Vp,                 VP,                   U16, "virtual port of the key") \
-  FIELD(untag,              Untag,              UNTAG,                U8,  "the port is untagged") \
-  FIELD(data,               Data,               DATA,                 U8,  "whole data part above the key") \
-  FIELD(tableFields,        TableFields,        TABLE_FIELDS,         U64, "all above the key type: key payload and data") \
-  FIELD(dglp,               Dglp,               DGLP,                 U32, "destination global port of the key") \
-  FIELD(vfi,                Vfi,                VFI,                  U16, "virtual forwarding instance") \
-  FIELD(keyType,            KeyType,            KEY_TYPE,             U8,  "key type") \
-  FIELD(rsvdVp,             RsvdVp,             RSVD_VP,              U8,  "reserved bit above the virtual port") \
-  FIELD(reservedKeyPadding, ReservedKeyPadding, RESERVED_KEY_PADDING, U8,  "padding of the key") \
-  FIELD(spTree,             SpTree,             SP_TREE,              U8,  "spanning-tree state") \
-  FIELD(rsvdVlan,           RsvdVlan,           RSVD_VLAN,            U8,  "reserved bits above the VLAN")
-
-#define VELMAR_SPANS_EgrVpVlanMembershipEntry(SPAN) SPAN(BCM56470_A0)
-// clang-format on
+#include "AsicUtils/BcmAsicBase.h"
+#include "Velmar/Export.h"
 
 namespace Velmar {
 
-/// Egress virtual-port VLAN membership: a hash table of ports in VLANs.
+/// Egress virtual-port VLAN membership, hash entries.
+///
+/// A view of one entry of this egress memory. The bytes are the caller's; bit 0 of the entry is bit
+/// 0 of the first byte. On BCM56470_A0: "from" in the comments below follows this order.
+///
+/// The members of a field F trace at level 8, then check in this order:
+///  - F() and FIs(): "0" where the chip lacks the field, "variant_ == 0" where only the variant
+///    does, "len_ >= N" where the buffer ends before the field. FIs(): also "value <= 0x<mask>"
+///    where the value is too large and the width is not a multiple of 8. A bitmap of too few words
+///    throws Morvo::VectorOutOfRangeException after the words it had; surplus words are ignored.
+///  - FLen(): where the view lacks the field, the soft assertion " does not have field
+///    <HARDWARE_NAME>", then "\"0\" == nullptr". FOffset(): "0" and "variant_ == 0" as F().
+///  - isFValid() never fails.
+/// A static member fails "0" for a chip without the memory and "variant == 0" for a variant that
+/// the chip does not have, unless its comment says otherwise.
 class VELMAR_EXPORT EgrVpVlanMembershipEntry : public AsicUtils::BcmAsicBase {
-  VELMAR_DECLARE_TABLE(EgrVpVlanMembershipEntry, U64)
+ public:
+  using EntrySpans = AsicUtils::EntrySpans;
+
+  /// Binds the view to `buf`, `len` bytes that outlive it. A chip or variant without the class: the
+  /// soft assertion " not in metainfo for EgrVpVlanMembershipEntry!", then "\"0\" == nullptr".
+  EgrVpVlanMembershipEntry(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
+  /// Does nothing.
+  static void handleBuf(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
+  /// Whether the constructor accepts the pair. Never fails.
+  static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
+  /// True.
+  bool isPrimary() const;
+  /// True: a memory.
+  bool isTable() const override;
+
+  /// Sets a scalar field by identifier (Velmar/FieldId.h). The value first loses the bits that the
+  /// field's type lacks. Any other identifier fails "false".
+  void setField64(U32 fieldId, U64 value) override;
+  /// Width of a field in bits; 0 where the view lacks it.
+  U16 fieldWidth(U32 fieldId) const override;
+  /// First bit of a field. An identifier without a field here fails "false".
+  U16 fieldOffset(U32 fieldId) const override;
+  /// Whether the view has a field. Never fails.
+  bool isFieldValid(U32 fieldId) const override;
+  /// The entry with every bit outside its fields zero. Fails "len_ >= 8" where the buffer is
+  /// shorter.
+  U64 getAllFields() const;
+  /// A one at every bit of an entry that belongs to a field.
+  static Raw8192 allFieldsMask(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  Raw8192 allFieldsMask() const override;
+  /// Number of fields that the chip has.
+  static U32 fieldCount(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 fieldCount() const override;
+
+  /// Whether an instance identifier is accepted.
+  static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
+  /// The same for the view's chip and variant.
+  bool hasIdentifier(U32 identifier) const override;
+  /// S-channel address, access code and block (1 ingress, 2 egress). False, and nothing written,
+  /// for a chip or variant without the class. Fails "tableEntry < N", "arrayIndex == 0",
+  /// "hasIdentifier( chipType, variant, identifier )".
+  static bool getSchanAddress(U32 chipType, U8 variant, U32& address, U32& accessType, U32& block,
+                              U16 identifier, U32 tableEntry, U16 arrayIndex);
+  /// The same for the view's chip and variant.
+  bool getSchanAddress(U32& address, U32& accessType, U32& block, U16 identifier, U32 tableEntry,
+                       U16 arrayIndex) const override;
+
+  /// Size of an entry in 32-bit words.
+  static U16 width(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U16 width() const override;
+  /// The same as width().
+  static U16 tableWidth(U32 chipType, U8 variant);
+  /// 1.
+  static U32 arrayElements(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 arrayElements() const override;
+  /// Number of instances: 1.
+  static U32 instanceCount(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 instanceCount() const override;
+  /// Number of entries.
+  static U32 entries(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 entries() const override;
+  /// Lowest index of an entry: 0.
+  static U32 index_min(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 index_min() const;
+  /// 0.
+  static U32 arrayIndex_min(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 arrayIndex_min() const;
+  /// The ranges of valid indices.
+  static EntrySpans entrySpans(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  EntrySpans entrySpans() const override;
+  /// 1 where the chip has the memory, else 0. Never fails.
+  static U32 tableVariantCount(U32 chipType);
+  /// The same for the view's chip.
+  U32 tableVariantCount() const override;
+  /// The valid indices on BCM56470_A0 and chips with as many entries.
+  static const AsicUtils::EntrySpan _entrySpans_BCM56470_A0[1];
+
+  /// Valid code. BASE_VALID: 3 bits; on all chips.
+  U8 baseValid() const;
+  /// Sets BASE_VALID.
+  void baseValidIs(U8 value);
+  /// Width of BASE_VALID in bits.
+  U16 baseValidLen() const;
+  /// First bit of BASE_VALID in the entry.
+  U16 baseValidOffset() const;
+  /// Whether the view has BASE_VALID.
+  bool isBaseValidValid() const;
+
+  /// VLAN of the key. VLAN: 12 bits; on all chips.
+  U16 vlan() const;
+  /// Sets VLAN.
+  void vlanIs(U16 value);
+  /// Width of VLAN in bits.
+  U16 vlanLen() const;
+  /// First bit of VLAN in the entry.
+  U16 vlanOffset() const;
+  /// Whether the view has VLAN.
+  bool isVlanValid() const;
+
+  /// Low bits of the key payload that feed the hash. HASH_LSB: 11 bits; on all chips.
+  U16 hashLsb() const;
+  /// Sets HASH_LSB.
+  void hashLsbIs(U16 value);
+  /// Width of HASH_LSB in bits.
+  U16 hashLsbLen() const;
+  /// First bit of HASH_LSB in the entry.
+  U16 hashLsbOffset() const;
+  /// Whether the view has HASH_LSB.
+  bool isHashLsbValid() const;
+
+  /// Whole key: key type and payload. KEY: 36 bits; on all chips.
+  U64 key() const;
+  /// Sets KEY.
+  void keyIs(const U64& value);
+  /// Width of KEY in bits.
+  U16 keyLen() const;
+  /// First bit of KEY in the entry.
+  U16 keyOffset() const;
+  /// Whether the view has KEY.
+  bool isKeyValid() const;
+
+  /// Virtual port of the key. VP: 15 bits; on all chips.
+  U16 vp() const;
+  /// Sets VP.
+  void vpIs(U16 value);
+  /// Width of VP in bits.
+  U16 vpLen() const;
+  /// First bit of VP in the entry.
+  U16 vpOffset() const;
+  /// Whether the view has VP.
+  bool isVpValid() const;
+
+  /// The port is untagged. UNTAG: 1 bit; on all chips.
+  U8 untag() const;
+  /// Sets UNTAG.
+  void untagIs(U8 value);
+  /// Width of UNTAG in bits.
+  U16 untagLen() const;
+  /// First bit of UNTAG in the entry.
+  U16 untagOffset() const;
+  /// Whether the view has UNTAG.
+  bool isUntagValid() const;
+
+  /// Whole data part above the key. DATA: 3 bits; on all chips.
+  U8 data() const;
+  /// Sets DATA.
+  void dataIs(U8 value);
+  /// Width of DATA in bits.
+  U16 dataLen() const;
+  /// First bit of DATA in the entry.
+  U16 dataOffset() const;
+  /// Whether the view has DATA.
+  bool isDataValid() const;
+
+  /// All above the key type: key payload and data. TABLE_FIELDS: 37 bits; on all chips.
+  U64 tableFields() const;
+  /// Sets TABLE_FIELDS.
+  void tableFieldsIs(const U64& value);
+  /// Width of TABLE_FIELDS in bits.
+  U16 tableFieldsLen() const;
+  /// First bit of TABLE_FIELDS in the entry.
+  U16 tableFieldsOffset() const;
+  /// Whether the view has TABLE_FIELDS.
+  bool isTableFieldsValid() const;
+
+  /// Destination global port of the key. DGLP: 17 bits; on all chips.
+  U32 dglp() const;
+  /// Sets DGLP.
+  void dglpIs(U32 value);
+  /// Width of DGLP in bits.
+  U16 dglpLen() const;
+  /// First bit of DGLP in the entry.
+  U16 dglpOffset() const;
+  /// Whether the view has DGLP.
+  bool isDglpValid() const;
+
+  /// Virtual forwarding instance. VFI: 14 bits; on all chips.
+  U16 vfi() const;
+  /// Sets VFI.
+  void vfiIs(U16 value);
+  /// Width of VFI in bits.
+  U16 vfiLen() const;
+  /// First bit of VFI in the entry.
+  U16 vfiOffset() const;
+  /// Whether the view has VFI.
+  bool isVfiValid() const;
+
+  /// Key type. KEY_TYPE: 2 bits; on all chips.
+  U8 keyType() const;
+  /// Sets KEY_TYPE.
+  void keyTypeIs(U8 value);
+  /// Width of KEY_TYPE in bits.
+  U16 keyTypeLen() const;
+  /// First bit of KEY_TYPE in the entry.
+  U16 keyTypeOffset() const;
+  /// Whether the view has KEY_TYPE.
+  bool isKeyTypeValid() const;
+
+  /// Reserved bit above the virtual port. RSVD_VP: 1 bit; on all chips.
+  U8 rsvdVp() const;
+  /// Sets RSVD_VP.
+  void rsvdVpIs(U8 value);
+  /// Width of RSVD_VP in bits.
+  U16 rsvdVpLen() const;
+  /// First bit of RSVD_VP in the entry.
+  U16 rsvdVpOffset() const;
+  /// Whether the view has RSVD_VP.
+  bool isRsvdVpValid() const;
+
+  /// Padding of the key. RESERVED_KEY_PADDING: 3 bits; on all chips.
+  U8 reservedKeyPadding() const;
+  /// Sets RESERVED_KEY_PADDING.
+  void reservedKeyPaddingIs(U8 value);
+  /// Width of RESERVED_KEY_PADDING in bits.
+  U16 reservedKeyPaddingLen() const;
+  /// First bit of RESERVED_KEY_PADDING in the entry.
+  U16 reservedKeyPaddingOffset() const;
+  /// Whether the view has RESERVED_KEY_PADDING.
+  bool isReservedKeyPaddingValid() const;
+
+  /// Spanning-tree state. SP_TREE: 2 bits; on all chips.
+  U8 spTree() const;
+  /// Sets SP_TREE.
+  void spTreeIs(U8 value);
+  /// Width of SP_TREE in bits.
+  U16 spTreeLen() const;
+  /// First bit of SP_TREE in the entry.
+  U16 spTreeOffset() const;
+  /// Whether the view has SP_TREE.
+  bool isSpTreeValid() const;
+
+  /// Reserved bits above the VLAN. RSVD_VLAN: 2 bits; on all chips.
+  U8 rsvdVlan() const;
+  /// Sets RSVD_VLAN.
+  void rsvdVlanIs(U8 value);
+  /// Width of RSVD_VLAN in bits.
+  U16 rsvdVlanLen() const;
+  /// First bit of RSVD_VLAN in the entry.
+  U16 rsvdVlanOffset() const;
+  /// Whether the view has RSVD_VLAN.
+  bool isRsvdVlanValid() const;
 };
 
 }  // namespace Velmar

@@ -1,136 +1,394 @@
+// Derived from tables/FieldIds.h; do not edit.
+// To refresh: cmake --build --preset release --target refresh
 #pragma once
 
 #include "AsicUtils/Types.h"
 #include "Velmar/Export.h"
-#include "Velmar/PortLists.h"
-
-// The field identifiers: one number for each hardware field name, the same in every class. A number
-// is the place of its name in a naturally sorted list that is longer than this one, so the gaps
-// stay. The list is split around the per-port fields, whose identifiers follow by rule.
-
-// clang-format off
-#define VELMAR_FIELD_IDS_BEFORE_PORTS(ID) \
-  ID(  1, ARP_REPLY_DROP)                     \
-  ID(  2, ARP_REPLY_TO_CPU)                   \
-  ID(  3, ARP_REQUEST_DROP)                   \
-  ID(  4, ARP_REQUEST_TO_CPU)                 \
-  ID(  5, BASE_VALID)                         \
-  ID(  6, BCAST_MASK_SEL)                     \
-  ID(  8, BC_IDX)                             \
-  ID( 10, BITMAP)                             \
-  ID( 11, BLOCK_MASK_A)                       \
-  ID( 12, BLOCK_MASK_B)                       \
-  ID( 14, DATA)                               \
-  ID( 15, DGLP)                               \
-  ID( 16, DHCP_PKT_DROP)                      \
-  ID( 17, DHCP_PKT_TO_CPU)                    \
-  ID( 19, ECC)                                \
-  ID( 24, ECCP)                               \
-  ID( 48, ECC_DATA)                           \
-  ID( 54, ECC_EN)                             \
-  ID( 67, ENABLE_IGMP_MLD_SNOOPING)           \
-  ID( 68, EN_COR_ERR_RPT)                     \
-  ID( 69, EN_EFILTER)                         \
-  ID( 70, EN_IFILTER)                         \
-  ID( 90, FID_ID)                             \
-  ID( 91, FLEX_CTR_ACTION)                    \
-  ID( 96, HASH_LSB)                           \
-  ID( 97, HASH_OFFSET_DEDICATED_BANK_0)       \
-  ID( 98, HASH_OFFSET_DEDICATED_BANK_1)       \
-  ID(101, IGMP_QUERY_FWD_ACTION)              \
-  ID(102, IGMP_QUERY_TO_CPU)                  \
-  ID(103, IGMP_REP_LEAVE_FWD_ACTION)          \
-  ID(104, IGMP_REP_LEAVE_TO_CPU)              \
-  ID(105, IGMP_UNKNOWN_MSG_FWD_ACTION)        \
-  ID(106, IGMP_UNKNOWN_MSG_TO_CPU)            \
-  ID(107, ING_PORT_BITMAP)                    \
-  ID(118, IPMCV4_L2_ENABLE)                   \
-  ID(119, IPMCV6_L2_ENABLE)                   \
-  ID(120, IPV4_MC_ROUTER_ADV_PKT_FWD_ACTION)  \
-  ID(121, IPV4_MC_ROUTER_ADV_PKT_TO_CPU)      \
-  ID(122, IPV4_RESVD_MC_PKT_FWD_ACTION)       \
-  ID(123, IPV4_RESVD_MC_PKT_TO_CPU)           \
-  ID(124, IPV6_MC_ROUTER_ADV_PKT_FWD_ACTION)  \
-  ID(125, IPV6_MC_ROUTER_ADV_PKT_TO_CPU)      \
-  ID(126, IPV6_RESVD_MC_PKT_FWD_ACTION)       \
-  ID(127, IPV6_RESVD_MC_PKT_TO_CPU)           \
-  ID(128, KEY)                                \
-  ID(129, KEY_TYPE)                           \
-  ID(130, KNOWN_MCAST_MASK_SEL)               \
-  ID(131, L2_ENTRY_KEY_TYPE)                  \
-  ID(132, L2_MISS_DROP)                       \
-  ID(133, L2_MISS_TOCPU)                      \
-  ID(134, L2_NON_UCAST_DROP)                  \
-  ID(135, L2_NON_UCAST_TOCPU)                 \
-  ID(136, L2_PFM)                             \
-  ID(137, L3_IIF)                             \
-  ID(138, L3_IPV4_PFM)                        \
-  ID(139, L3_IPV6_PFM)                        \
-  ID(140, LEARN_DISABLE)                      \
-  ID(141, MEMBERSHIP_PROFILE_PTR)             \
-  ID(142, MIM_TERM_ENABLE)                    \
-  ID(143, MLD_QUERY_FWD_ACTION)               \
-  ID(144, MLD_QUERY_TO_CPU)                   \
-  ID(145, MLD_REP_DONE_FWD_ACTION)            \
-  ID(146, MLD_REP_DONE_TO_CPU)                \
-  ID(147, MMRP_FWD_ACTION)                    \
-  ID(148, MMRP_PKT_TO_CPU)                    \
-  ID(149, MPLS_ENABLE)                        \
-  ID(150, ND_PKT_DROP)                        \
-  ID(151, ND_PKT_TO_CPU)                      \
-  ID(154, OVID)                               \
-  ID(155, OVID_VALID)                         \
-  ID(156, PARITY)                             \
-  ID(176, PFM_RULE_APPLY)                     \
-  ID(181, PKT_FLOW_SELECT_CTRL_ID_2)          \
-  ID(182, PORT_BITMAP)                        \
-  ID(191, PORT_BITMAP_PROFILE_PTR)            \
-  ID(194, PROTOCOL_PKT_INDEX)                 \
-  ID(216, RESERVED_KEY_PADDING)               \
-  ID(221, ROBUST_HASH_EN)                     \
-  ID(231, RSVD_VLAN)                          \
-  ID(232, RSVD_VP)                            \
-  ID(233, SGLP)                               \
-  ID(243, SP_TREE)
-
-#define VELMAR_FIELD_IDS_AFTER_PORTS(ID) \
-  ID(583, SRP_FWD_ACTION)          \
-  ID(584, SRP_PKT_TO_CPU)          \
-  ID(585, STG)                     \
-  ID(587, TABLE_FIELDS)            \
-  ID(595, UMC_IDX)                 \
-  ID(597, UNKNOWN_MCAST_MASK_SEL)  \
-  ID(598, UNKNOWN_UCAST_MASK_SEL)  \
-  ID(599, UNTAG)                   \
-  ID(600, UNTAG_PROFILE_PTR)       \
-  ID(602, UT_PORT_BITMAP)          \
-  ID(614, UUC_IDX)                 \
-  ID(616, VALID)                   \
-  ID(617, VFI)                     \
-  ID(618, VIRTUAL_PORT_EN)         \
-  ID(619, VLAN)                    \
-  ID(620, VLAN_CLASS_ID)           \
-  ID(622, VLAN_PROFILE_PTR)        \
-  ID(623, VP)
-// clang-format on
 
 namespace Velmar {
+
+/// The field identifiers: one number for each hardware name, the same in every class. The numbers
+/// up to VP are fixed places in a longer sorted list, so that numbers are missing; a new name takes
+/// the next free number.
 namespace FieldId {
 
 /// Identifier of SP_TREE_PORT0; port n has this plus n.
 constexpr U32 firstPort = 244;
 
-/// An enumerator for every identifier, under the hardware name. Converts to U32. The ports follow
-/// SP_TREE without numbers of their own.
+/// Every identifier, under the hardware name. Converts to U32.
 enum Id : U32 {
-#define VELMAR_ENUMERATOR(number, NAME) NAME = number,
-#define VELMAR_PORT_ENUMERATOR(accessor, Accessor, NAME, TYPE, meaning) NAME,
-  VELMAR_FIELD_IDS_BEFORE_PORTS(VELMAR_ENUMERATOR)
-      VELMAR_SP_TREE_PORTS_0_TO_159(VELMAR_PORT_ENUMERATOR)
-          VELMAR_SP_TREE_PORTS_160_TO_271(VELMAR_PORT_ENUMERATOR)
-              VELMAR_FIELD_IDS_AFTER_PORTS(VELMAR_ENUMERATOR)
-#undef VELMAR_ENUMERATOR
-#undef VELMAR_PORT_ENUMERATOR
+  ARP_REPLY_DROP = 1,
+  ARP_REPLY_TO_CPU = 2,
+  ARP_REQUEST_DROP = 3,
+  ARP_REQUEST_TO_CPU = 4,
+  BASE_VALID = 5,
+  BCAST_MASK_SEL = 6,
+  BC_IDX = 8,
+  BITMAP = 10,
+  BLOCK_MASK_A = 11,
+  BLOCK_MASK_B = 12,
+  DATA = 14,
+  DGLP = 15,
+  DHCP_PKT_DROP = 16,
+  DHCP_PKT_TO_CPU = 17,
+  ECC = 19,
+  ECCP = 24,
+  ECC_DATA = 48,
+  ECC_EN = 54,
+  ENABLE_IGMP_MLD_SNOOPING = 67,
+  EN_COR_ERR_RPT = 68,
+  EN_EFILTER = 69,
+  EN_IFILTER = 70,
+  FID_ID = 90,
+  FLEX_CTR_ACTION = 91,
+  HASH_LSB = 96,
+  HASH_OFFSET_DEDICATED_BANK_0 = 97,
+  HASH_OFFSET_DEDICATED_BANK_1 = 98,
+  IGMP_QUERY_FWD_ACTION = 101,
+  IGMP_QUERY_TO_CPU = 102,
+  IGMP_REP_LEAVE_FWD_ACTION = 103,
+  IGMP_REP_LEAVE_TO_CPU = 104,
+  IGMP_UNKNOWN_MSG_FWD_ACTION = 105,
+  IGMP_UNKNOWN_MSG_TO_CPU = 106,
+  ING_PORT_BITMAP = 107,
+  IPMCV4_L2_ENABLE = 118,
+  IPMCV6_L2_ENABLE = 119,
+  IPV4_MC_ROUTER_ADV_PKT_FWD_ACTION = 120,
+  IPV4_MC_ROUTER_ADV_PKT_TO_CPU = 121,
+  IPV4_RESVD_MC_PKT_FWD_ACTION = 122,
+  IPV4_RESVD_MC_PKT_TO_CPU = 123,
+  IPV6_MC_ROUTER_ADV_PKT_FWD_ACTION = 124,
+  IPV6_MC_ROUTER_ADV_PKT_TO_CPU = 125,
+  IPV6_RESVD_MC_PKT_FWD_ACTION = 126,
+  IPV6_RESVD_MC_PKT_TO_CPU = 127,
+  KEY = 128,
+  KEY_TYPE = 129,
+  KNOWN_MCAST_MASK_SEL = 130,
+  L2_ENTRY_KEY_TYPE = 131,
+  L2_MISS_DROP = 132,
+  L2_MISS_TOCPU = 133,
+  L2_NON_UCAST_DROP = 134,
+  L2_NON_UCAST_TOCPU = 135,
+  L2_PFM = 136,
+  L3_IIF = 137,
+  L3_IPV4_PFM = 138,
+  L3_IPV6_PFM = 139,
+  LEARN_DISABLE = 140,
+  MEMBERSHIP_PROFILE_PTR = 141,
+  MIM_TERM_ENABLE = 142,
+  MLD_QUERY_FWD_ACTION = 143,
+  MLD_QUERY_TO_CPU = 144,
+  MLD_REP_DONE_FWD_ACTION = 145,
+  MLD_REP_DONE_TO_CPU = 146,
+  MMRP_FWD_ACTION = 147,
+  MMRP_PKT_TO_CPU = 148,
+  MPLS_ENABLE = 149,
+  ND_PKT_DROP = 150,
+  ND_PKT_TO_CPU = 151,
+  OVID = 154,
+  OVID_VALID = 155,
+  PARITY = 156,
+  PFM_RULE_APPLY = 176,
+  PKT_FLOW_SELECT_CTRL_ID_2 = 181,
+  PORT_BITMAP = 182,
+  PORT_BITMAP_PROFILE_PTR = 191,
+  PROTOCOL_PKT_INDEX = 194,
+  RESERVED_KEY_PADDING = 216,
+  ROBUST_HASH_EN = 221,
+  RSVD_VLAN = 231,
+  RSVD_VP = 232,
+  SGLP = 233,
+  SP_TREE = 243,
+  SP_TREE_PORT0 = 244,
+  SP_TREE_PORT1 = 245,
+  SP_TREE_PORT2 = 246,
+  SP_TREE_PORT3 = 247,
+  SP_TREE_PORT4 = 248,
+  SP_TREE_PORT5 = 249,
+  SP_TREE_PORT6 = 250,
+  SP_TREE_PORT7 = 251,
+  SP_TREE_PORT8 = 252,
+  SP_TREE_PORT9 = 253,
+  SP_TREE_PORT10 = 254,
+  SP_TREE_PORT11 = 255,
+  SP_TREE_PORT12 = 256,
+  SP_TREE_PORT13 = 257,
+  SP_TREE_PORT14 = 258,
+  SP_TREE_PORT15 = 259,
+  SP_TREE_PORT16 = 260,
+  SP_TREE_PORT17 = 261,
+  SP_TREE_PORT18 = 262,
+  SP_TREE_PORT19 = 263,
+  SP_TREE_PORT20 = 264,
+  SP_TREE_PORT21 = 265,
+  SP_TREE_PORT22 = 266,
+  SP_TREE_PORT23 = 267,
+  SP_TREE_PORT24 = 268,
+  SP_TREE_PORT25 = 269,
+  SP_TREE_PORT26 = 270,
+  SP_TREE_PORT27 = 271,
+  SP_TREE_PORT28 = 272,
+  SP_TREE_PORT29 = 273,
+  SP_TREE_PORT30 = 274,
+  SP_TREE_PORT31 = 275,
+  SP_TREE_PORT32 = 276,
+  SP_TREE_PORT33 = 277,
+  SP_TREE_PORT34 = 278,
+  SP_TREE_PORT35 = 279,
+  SP_TREE_PORT36 = 280,
+  SP_TREE_PORT37 = 281,
+  SP_TREE_PORT38 = 282,
+  SP_TREE_PORT39 = 283,
+  SP_TREE_PORT40 = 284,
+  SP_TREE_PORT41 = 285,
+  SP_TREE_PORT42 = 286,
+  SP_TREE_PORT43 = 287,
+  SP_TREE_PORT44 = 288,
+  SP_TREE_PORT45 = 289,
+  SP_TREE_PORT46 = 290,
+  SP_TREE_PORT47 = 291,
+  SP_TREE_PORT48 = 292,
+  SP_TREE_PORT49 = 293,
+  SP_TREE_PORT50 = 294,
+  SP_TREE_PORT51 = 295,
+  SP_TREE_PORT52 = 296,
+  SP_TREE_PORT53 = 297,
+  SP_TREE_PORT54 = 298,
+  SP_TREE_PORT55 = 299,
+  SP_TREE_PORT56 = 300,
+  SP_TREE_PORT57 = 301,
+  SP_TREE_PORT58 = 302,
+  SP_TREE_PORT59 = 303,
+  SP_TREE_PORT60 = 304,
+  SP_TREE_PORT61 = 305,
+  SP_TREE_PORT62 = 306,
+  SP_TREE_PORT63 = 307,
+  SP_TREE_PORT64 = 308,
+  SP_TREE_PORT65 = 309,
+  SP_TREE_PORT66 = 310,
+  SP_TREE_PORT67 = 311,
+  SP_TREE_PORT68 = 312,
+  SP_TREE_PORT69 = 313,
+  SP_TREE_PORT70 = 314,
+  SP_TREE_PORT71 = 315,
+  SP_TREE_PORT72 = 316,
+  SP_TREE_PORT73 = 317,
+  SP_TREE_PORT74 = 318,
+  SP_TREE_PORT75 = 319,
+  SP_TREE_PORT76 = 320,
+  SP_TREE_PORT77 = 321,
+  SP_TREE_PORT78 = 322,
+  SP_TREE_PORT79 = 323,
+  SP_TREE_PORT80 = 324,
+  SP_TREE_PORT81 = 325,
+  SP_TREE_PORT82 = 326,
+  SP_TREE_PORT83 = 327,
+  SP_TREE_PORT84 = 328,
+  SP_TREE_PORT85 = 329,
+  SP_TREE_PORT86 = 330,
+  SP_TREE_PORT87 = 331,
+  SP_TREE_PORT88 = 332,
+  SP_TREE_PORT89 = 333,
+  SP_TREE_PORT90 = 334,
+  SP_TREE_PORT91 = 335,
+  SP_TREE_PORT92 = 336,
+  SP_TREE_PORT93 = 337,
+  SP_TREE_PORT94 = 338,
+  SP_TREE_PORT95 = 339,
+  SP_TREE_PORT96 = 340,
+  SP_TREE_PORT97 = 341,
+  SP_TREE_PORT98 = 342,
+  SP_TREE_PORT99 = 343,
+  SP_TREE_PORT100 = 344,
+  SP_TREE_PORT101 = 345,
+  SP_TREE_PORT102 = 346,
+  SP_TREE_PORT103 = 347,
+  SP_TREE_PORT104 = 348,
+  SP_TREE_PORT105 = 349,
+  SP_TREE_PORT106 = 350,
+  SP_TREE_PORT107 = 351,
+  SP_TREE_PORT108 = 352,
+  SP_TREE_PORT109 = 353,
+  SP_TREE_PORT110 = 354,
+  SP_TREE_PORT111 = 355,
+  SP_TREE_PORT112 = 356,
+  SP_TREE_PORT113 = 357,
+  SP_TREE_PORT114 = 358,
+  SP_TREE_PORT115 = 359,
+  SP_TREE_PORT116 = 360,
+  SP_TREE_PORT117 = 361,
+  SP_TREE_PORT118 = 362,
+  SP_TREE_PORT119 = 363,
+  SP_TREE_PORT120 = 364,
+  SP_TREE_PORT121 = 365,
+  SP_TREE_PORT122 = 366,
+  SP_TREE_PORT123 = 367,
+  SP_TREE_PORT124 = 368,
+  SP_TREE_PORT125 = 369,
+  SP_TREE_PORT126 = 370,
+  SP_TREE_PORT127 = 371,
+  SP_TREE_PORT128 = 372,
+  SP_TREE_PORT129 = 373,
+  SP_TREE_PORT130 = 374,
+  SP_TREE_PORT131 = 375,
+  SP_TREE_PORT132 = 376,
+  SP_TREE_PORT133 = 377,
+  SP_TREE_PORT134 = 378,
+  SP_TREE_PORT135 = 379,
+  SP_TREE_PORT136 = 380,
+  SP_TREE_PORT137 = 381,
+  SP_TREE_PORT138 = 382,
+  SP_TREE_PORT139 = 383,
+  SP_TREE_PORT140 = 384,
+  SP_TREE_PORT141 = 385,
+  SP_TREE_PORT142 = 386,
+  SP_TREE_PORT143 = 387,
+  SP_TREE_PORT144 = 388,
+  SP_TREE_PORT145 = 389,
+  SP_TREE_PORT146 = 390,
+  SP_TREE_PORT147 = 391,
+  SP_TREE_PORT148 = 392,
+  SP_TREE_PORT149 = 393,
+  SP_TREE_PORT150 = 394,
+  SP_TREE_PORT151 = 395,
+  SP_TREE_PORT152 = 396,
+  SP_TREE_PORT153 = 397,
+  SP_TREE_PORT154 = 398,
+  SP_TREE_PORT155 = 399,
+  SP_TREE_PORT156 = 400,
+  SP_TREE_PORT157 = 401,
+  SP_TREE_PORT158 = 402,
+  SP_TREE_PORT159 = 403,
+  SP_TREE_PORT160 = 404,
+  SP_TREE_PORT161 = 405,
+  SP_TREE_PORT162 = 406,
+  SP_TREE_PORT163 = 407,
+  SP_TREE_PORT164 = 408,
+  SP_TREE_PORT165 = 409,
+  SP_TREE_PORT166 = 410,
+  SP_TREE_PORT167 = 411,
+  SP_TREE_PORT168 = 412,
+  SP_TREE_PORT169 = 413,
+  SP_TREE_PORT170 = 414,
+  SP_TREE_PORT171 = 415,
+  SP_TREE_PORT172 = 416,
+  SP_TREE_PORT173 = 417,
+  SP_TREE_PORT174 = 418,
+  SP_TREE_PORT175 = 419,
+  SP_TREE_PORT176 = 420,
+  SP_TREE_PORT177 = 421,
+  SP_TREE_PORT178 = 422,
+  SP_TREE_PORT179 = 423,
+  SP_TREE_PORT180 = 424,
+  SP_TREE_PORT181 = 425,
+  SP_TREE_PORT182 = 426,
+  SP_TREE_PORT183 = 427,
+  SP_TREE_PORT184 = 428,
+  SP_TREE_PORT185 = 429,
+  SP_TREE_PORT186 = 430,
+  SP_TREE_PORT187 = 431,
+  SP_TREE_PORT188 = 432,
+  SP_TREE_PORT189 = 433,
+  SP_TREE_PORT190 = 434,
+  SP_TREE_PORT191 = 435,
+  SP_TREE_PORT192 = 436,
+  SP_TREE_PORT193 = 437,
+  SP_TREE_PORT194 = 438,
+  SP_TREE_PORT195 = 439,
+  SP_TREE_PORT196 = 440,
+  SP_TREE_PORT197 = 441,
+  SP_TREE_PORT198 = 442,
+  SP_TREE_PORT199 = 443,
+  SP_TREE_PORT200 = 444,
+  SP_TREE_PORT201 = 445,
+  SP_TREE_PORT202 = 446,
+  SP_TREE_PORT203 = 447,
+  SP_TREE_PORT204 = 448,
+  SP_TREE_PORT205 = 449,
+  SP_TREE_PORT206 = 450,
+  SP_TREE_PORT207 = 451,
+  SP_TREE_PORT208 = 452,
+  SP_TREE_PORT209 = 453,
+  SP_TREE_PORT210 = 454,
+  SP_TREE_PORT211 = 455,
+  SP_TREE_PORT212 = 456,
+  SP_TREE_PORT213 = 457,
+  SP_TREE_PORT214 = 458,
+  SP_TREE_PORT215 = 459,
+  SP_TREE_PORT216 = 460,
+  SP_TREE_PORT217 = 461,
+  SP_TREE_PORT218 = 462,
+  SP_TREE_PORT219 = 463,
+  SP_TREE_PORT220 = 464,
+  SP_TREE_PORT221 = 465,
+  SP_TREE_PORT222 = 466,
+  SP_TREE_PORT223 = 467,
+  SP_TREE_PORT224 = 468,
+  SP_TREE_PORT225 = 469,
+  SP_TREE_PORT226 = 470,
+  SP_TREE_PORT227 = 471,
+  SP_TREE_PORT228 = 472,
+  SP_TREE_PORT229 = 473,
+  SP_TREE_PORT230 = 474,
+  SP_TREE_PORT231 = 475,
+  SP_TREE_PORT232 = 476,
+  SP_TREE_PORT233 = 477,
+  SP_TREE_PORT234 = 478,
+  SP_TREE_PORT235 = 479,
+  SP_TREE_PORT236 = 480,
+  SP_TREE_PORT237 = 481,
+  SP_TREE_PORT238 = 482,
+  SP_TREE_PORT239 = 483,
+  SP_TREE_PORT240 = 484,
+  SP_TREE_PORT241 = 485,
+  SP_TREE_PORT242 = 486,
+  SP_TREE_PORT243 = 487,
+  SP_TREE_PORT244 = 488,
+  SP_TREE_PORT245 = 489,
+  SP_TREE_PORT246 = 490,
+  SP_TREE_PORT247 = 491,
+  SP_TREE_PORT248 = 492,
+  SP_TREE_PORT249 = 493,
+  SP_TREE_PORT250 = 494,
+  SP_TREE_PORT251 = 495,
+  SP_TREE_PORT252 = 496,
+  SP_TREE_PORT253 = 497,
+  SP_TREE_PORT254 = 498,
+  SP_TREE_PORT255 = 499,
+  SP_TREE_PORT256 = 500,
+  SP_TREE_PORT257 = 501,
+  SP_TREE_PORT258 = 502,
+  SP_TREE_PORT259 = 503,
+  SP_TREE_PORT260 = 504,
+  SP_TREE_PORT261 = 505,
+  SP_TREE_PORT262 = 506,
+  SP_TREE_PORT263 = 507,
+  SP_TREE_PORT264 = 508,
+  SP_TREE_PORT265 = 509,
+  SP_TREE_PORT266 = 510,
+  SP_TREE_PORT267 = 511,
+  SP_TREE_PORT268 = 512,
+  SP_TREE_PORT269 = 513,
+  SP_TREE_PORT270 = 514,
+  SP_TREE_PORT271 = 515,
+  SRP_FWD_ACTION = 583,
+  SRP_PKT_TO_CPU = 584,
+  STG = 585,
+  TABLE_FIELDS = 587,
+  UMC_IDX = 595,
+  UNKNOWN_MCAST_MASK_SEL = 597,
+  UNKNOWN_UCAST_MASK_SEL = 598,
+  UNTAG = 599,
+  UNTAG_PROFILE_PTR = 600,
+  UT_PORT_BITMAP = 602,
+  UUC_IDX = 614,
+  VALID = 616,
+  VFI = 617,
+  VIRTUAL_PORT_EN = 618,
+  VLAN = 619,
+  VLAN_CLASS_ID = 620,
+  VLAN_PROFILE_PTR = 622,
+  VP = 623,
 };
 
 /// The hardware name of an identifier, such as "FID_ID"; null for a number that names no field.

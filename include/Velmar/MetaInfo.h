@@ -1,3 +1,5 @@
+// Derived from tables/Classes.h; do not edit.
+// To refresh: cmake --build --preset release --target refresh
 #pragma once
 
 #include "Velmar/Catalogue.h"
@@ -30,33 +32,3 @@
 #include "Velmar/VlanStg2Entry.h"
 #include "Velmar/VlanStgBEntry.h"
 #include "Velmar/VlanStgEntry.h"
-
-/// Every view class of the library, once: CLASS(name). The lists of classes are made from this one.
-#define VELMAR_FOR_EACH_CLASS(CLASS)    \
-  CLASS(VlanEntry)                      \
-  CLASS(Vlan2Entry)                     \
-  CLASS(VlanAttrs1Entry)                \
-  CLASS(VlanMplsEntry)                  \
-  CLASS(VlanProfileEntry)               \
-  CLASS(VlanProfile2Entry)              \
-  CLASS(EgrVlanEntry)                   \
-  CLASS(EgrVlan2Entry)                  \
-  CLASS(VlanStgEntry)                   \
-  CLASS(VlanStg2Entry)                  \
-  CLASS(VlanStgBEntry)                  \
-  CLASS(EgrVlanStgEntry)                \
-  CLASS(EgrVlanStgBEntry)               \
-  CLASS(VfiProfileEntry)                \
-  CLASS(VfiProfile2Entry)               \
-  CLASS(IngVlanVfiMembershipEntry)      \
-  CLASS(EgrVlanVfiMembershipEntry)      \
-  CLASS(EgrVlanVfiUntagEntry)           \
-  CLASS(PortBitmapProfileEntry)         \
-  CLASS(IngVpVlanMembershipEntry)       \
-  CLASS(EgrVpVlanMembershipEntry)       \
-  CLASS(IngVpVlanMembershipEccEntry)    \
-  CLASS(EgrVpVlanMembershipEccEntry)    \
-  CLASS(IngVpVlanMembershipHashControl) \
-  CLASS(EgrVpVlanMembershipHashControl) \
-  CLASS(IgmpMldPktControl)              \
-  CLASS(ProtocolPktControl)

@@ -1,30 +1,238 @@
+// Derived from tables/ProtocolPktControl.cpp; do not edit.
+// To refresh: cmake --build --preset release --target refresh
 #pragma once
 
-#include "Velmar/Declarations.h"
-
-// clang-format off
-#define VELMAR_FIELDS_ProtocolPktControl(FIELD) \
-  FIELD(dhcpPktToCpu,    DhcpPktToCpu,    DHCP_PKT_TO_CPU,    U8, "DHCP packets are copied to the CPU") \
-  FIELD(dhcpPktDrop,     DhcpPktDrop,     DHCP_PKT_DROP,      U8, "DHCP packets are dropped") \
-  FIELD(ndPktToCpu,      NdPktToCpu,      ND_PKT_TO_CPU,      U8, "IPv6 neighbour discovery packets are copied to the CPU") \
-  FIELD(ndPktDrop,       NdPktDrop,       ND_PKT_DROP,        U8, "IPv6 neighbour discovery packets are dropped") \
-  FIELD(arpRequestToCpu, ArpRequestToCpu, ARP_REQUEST_TO_CPU, U8, "ARP requests are copied to the CPU") \
-  FIELD(arpRequestDrop,  ArpRequestDrop,  ARP_REQUEST_DROP,   U8, "ARP requests are dropped") \
-  FIELD(arpReplyToCpu,   ArpReplyToCpu,   ARP_REPLY_TO_CPU,   U8, "ARP replies are copied to the CPU") \
-  FIELD(arpReplyDrop,    ArpReplyDrop,    ARP_REPLY_DROP,     U8, "ARP replies are dropped") \
-  FIELD(srpPktToCpu,     SrpPktToCpu,     SRP_PKT_TO_CPU,     U8, "SRP packets are copied to the CPU") \
-  FIELD(srpFwdAction,    SrpFwdAction,    SRP_FWD_ACTION,     U8, "forward action for SRP packets") \
-  FIELD(mmrpPktToCpu,    MmrpPktToCpu,    MMRP_PKT_TO_CPU,    U8, "MMRP packets are copied to the CPU") \
-  FIELD(mmrpFwdAction,   MmrpFwdAction,   MMRP_FWD_ACTION,    U8, "forward action for MMRP packets")
-
-#define VELMAR_SPANS_ProtocolPktControl(SPAN)
-// clang-format on
+#include "AsicUtils/BcmAsicBase.h"
+#include "Velmar/Export.h"
 
 namespace Velmar {
 
-/// What happens to ARP, DHCP, ND, MMRP and SRP packets: a register array.
+/// Protocol packet control, actions per packet kind.
+///
+/// A view of one element of this ingress register array. The bytes are the caller's; bit 0 of the
+/// element is bit 0 of the first byte. On BCM56960_A0, BCM56965_A0, BCM56968_A0, BCM56970_A0,
+/// BCM56870_A0, BCM56770_A0, BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0, BCM56980_A0,
+/// BCM56990_B0, BCM56992_B0, BCM56993_B0, BCM56996_A0, BCM56996_B0: "from" in the comments below
+/// follows this order.
+///
+/// The members of a field F trace at level 8, then check in this order:
+///  - F() and FIs(): "0" where the chip lacks the field, "variant_ == 0" where only the variant
+///    does, "len_ >= N" where the buffer ends before the field. FIs(): also "value <= 0x<mask>"
+///    where the value is too large and the width is not a multiple of 8. A bitmap of too few words
+///    throws Morvo::VectorOutOfRangeException after the words it had; surplus words are ignored.
+///  - FLen(): where the view lacks the field, the soft assertion " does not have field
+///    <HARDWARE_NAME>", then "\"0\" == nullptr". FOffset(): "0" and "variant_ == 0" as F().
+///  - isFValid() never fails.
+/// A static member fails "0" for a chip without the register array and "variant == 0" for a variant
+/// that the chip does not have, unless its comment says otherwise.
 class VELMAR_EXPORT ProtocolPktControl : public AsicUtils::BcmAsicBase {
-  VELMAR_DECLARE_REGISTER(ProtocolPktControl, U32)
+ public:
+  using EntrySpans = AsicUtils::EntrySpans;
+
+  /// Binds the view to `buf`, `len` bytes that outlive it. A chip or variant without the class: the
+  /// soft assertion " not in metainfo for ProtocolPktControl!", then "\"0\" == nullptr".
+  ProtocolPktControl(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
+  /// Does nothing.
+  static void handleBuf(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
+  /// Whether the constructor accepts the pair. Never fails.
+  static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
+  /// True.
+  bool isPrimary() const;
+  /// False: a register array.
+  bool isTable() const override;
+
+  /// Sets a scalar field by identifier (Velmar/FieldId.h). The value first loses the bits that the
+  /// field's type lacks. Any other identifier fails "false".
+  void setField64(U32 fieldId, U64 value) override;
+  /// Width of a field in bits; 0 where the view lacks it.
+  U16 fieldWidth(U32 fieldId) const override;
+  /// First bit of a field. An identifier without a field here fails "false".
+  U16 fieldOffset(U32 fieldId) const override;
+  /// Whether the view has a field. Never fails.
+  bool isFieldValid(U32 fieldId) const override;
+  /// The entry with every bit outside its fields zero. Fails "len_ >= 4" where the buffer is
+  /// shorter.
+  U32 getAllFields() const;
+  /// A one at every bit of an entry that belongs to a field.
+  static Raw8192 allFieldsMask(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  Raw8192 allFieldsMask() const override;
+  /// Number of fields that the chip has.
+  static U32 fieldCount(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 fieldCount() const override;
+
+  /// Whether an instance identifier is accepted.
+  static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
+  /// The same for the view's chip and variant.
+  bool hasIdentifier(U32 identifier) const override;
+  /// S-channel address, access code and block (1 ingress, 2 egress). False, and nothing written,
+  /// for a chip or variant without the class. Fails "tableEntry == 0", "arrayIndex < 64",
+  /// "hasIdentifier( chipType, variant, identifier )".
+  static bool getSchanAddress(U32 chipType, U8 variant, U32& address, U32& accessType, U32& block,
+                              U16 identifier, U32 tableEntry, U16 arrayIndex);
+  /// The same for the view's chip and variant.
+  bool getSchanAddress(U32& address, U32& accessType, U32& block, U16 identifier, U32 tableEntry,
+                       U16 arrayIndex) const override;
+
+  /// Size of an entry in 32-bit words.
+  static U16 width(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U16 width() const override;
+  /// The same as width().
+  static U16 regWidth(U32 chipType, U8 variant);
+  /// Number of elements.
+  static U32 arrayElements(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 arrayElements() const override;
+  /// Number of instances: 1.
+  static U32 instanceCount(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 instanceCount() const override;
+  /// Address distance between two elements.
+  static U32 addrStride(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 addrStride() const;
+  /// 0, also where hasIdentifier() accepts more.
+  static U32 maxIdentifier(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 maxIdentifier() const override;
+
+  /// DHCP packets are copied to the CPU. DHCP_PKT_TO_CPU: 1 bit; on all chips.
+  U8 dhcpPktToCpu() const;
+  /// Sets DHCP_PKT_TO_CPU.
+  void dhcpPktToCpuIs(U8 value);
+  /// Width of DHCP_PKT_TO_CPU in bits.
+  U16 dhcpPktToCpuLen() const;
+  /// First bit of DHCP_PKT_TO_CPU in the entry.
+  U16 dhcpPktToCpuOffset() const;
+  /// Whether the view has DHCP_PKT_TO_CPU.
+  bool isDhcpPktToCpuValid() const;
+
+  /// DHCP packets are dropped. DHCP_PKT_DROP: 1 bit; on all chips.
+  U8 dhcpPktDrop() const;
+  /// Sets DHCP_PKT_DROP.
+  void dhcpPktDropIs(U8 value);
+  /// Width of DHCP_PKT_DROP in bits.
+  U16 dhcpPktDropLen() const;
+  /// First bit of DHCP_PKT_DROP in the entry.
+  U16 dhcpPktDropOffset() const;
+  /// Whether the view has DHCP_PKT_DROP.
+  bool isDhcpPktDropValid() const;
+
+  /// IPv6 neighbour discovery packets are copied to the CPU. ND_PKT_TO_CPU: 1 bit; on all chips.
+  U8 ndPktToCpu() const;
+  /// Sets ND_PKT_TO_CPU.
+  void ndPktToCpuIs(U8 value);
+  /// Width of ND_PKT_TO_CPU in bits.
+  U16 ndPktToCpuLen() const;
+  /// First bit of ND_PKT_TO_CPU in the entry.
+  U16 ndPktToCpuOffset() const;
+  /// Whether the view has ND_PKT_TO_CPU.
+  bool isNdPktToCpuValid() const;
+
+  /// IPv6 neighbour discovery packets are dropped. ND_PKT_DROP: 1 bit; on all chips.
+  U8 ndPktDrop() const;
+  /// Sets ND_PKT_DROP.
+  void ndPktDropIs(U8 value);
+  /// Width of ND_PKT_DROP in bits.
+  U16 ndPktDropLen() const;
+  /// First bit of ND_PKT_DROP in the entry.
+  U16 ndPktDropOffset() const;
+  /// Whether the view has ND_PKT_DROP.
+  bool isNdPktDropValid() const;
+
+  /// ARP requests are copied to the CPU. ARP_REQUEST_TO_CPU: 1 bit; on all chips.
+  U8 arpRequestToCpu() const;
+  /// Sets ARP_REQUEST_TO_CPU.
+  void arpRequestToCpuIs(U8 value);
+  /// Width of ARP_REQUEST_TO_CPU in bits.
+  U16 arpRequestToCpuLen() const;
+  /// First bit of ARP_REQUEST_TO_CPU in the entry.
+  U16 arpRequestToCpuOffset() const;
+  /// Whether the view has ARP_REQUEST_TO_CPU.
+  bool isArpRequestToCpuValid() const;
+
+  /// ARP requests are dropped. ARP_REQUEST_DROP: 1 bit; on all chips.
+  U8 arpRequestDrop() const;
+  /// Sets ARP_REQUEST_DROP.
+  void arpRequestDropIs(U8 value);
+  /// Width of ARP_REQUEST_DROP in bits.
+  U16 arpRequestDropLen() const;
+  /// First bit of ARP_REQUEST_DROP in the entry.
+  U16 arpRequestDropOffset() const;
+  /// Whether the view has ARP_REQUEST_DROP.
+  bool isArpRequestDropValid() const;
+
+  /// ARP replies are copied to the CPU. ARP_REPLY_TO_CPU: 1 bit; on all chips.
+  U8 arpReplyToCpu() const;
+  /// Sets ARP_REPLY_TO_CPU.
+  void arpReplyToCpuIs(U8 value);
+  /// Width of ARP_REPLY_TO_CPU in bits.
+  U16 arpReplyToCpuLen() const;
+  /// First bit of ARP_REPLY_TO_CPU in the entry.
+  U16 arpReplyToCpuOffset() const;
+  /// Whether the view has ARP_REPLY_TO_CPU.
+  bool isArpReplyToCpuValid() const;
+
+  /// ARP replies are dropped. ARP_REPLY_DROP: 1 bit; on all chips.
+  U8 arpReplyDrop() const;
+  /// Sets ARP_REPLY_DROP.
+  void arpReplyDropIs(U8 value);
+  /// Width of ARP_REPLY_DROP in bits.
+  U16 arpReplyDropLen() const;
+  /// First bit of ARP_REPLY_DROP in the entry.
+  U16 arpReplyDropOffset() const;
+  /// Whether the view has ARP_REPLY_DROP.
+  bool isArpReplyDropValid() const;
+
+  /// SRP packets are copied to the CPU. SRP_PKT_TO_CPU: 1 bit; on all chips but BCM56870_A0,
+  /// BCM56770_A0, BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0.
+  U8 srpPktToCpu() const;
+  /// Sets SRP_PKT_TO_CPU.
+  void srpPktToCpuIs(U8 value);
+  /// Width of SRP_PKT_TO_CPU in bits.
+  U16 srpPktToCpuLen() const;
+  /// First bit of SRP_PKT_TO_CPU in the entry.
+  U16 srpPktToCpuOffset() const;
+  /// Whether the view has SRP_PKT_TO_CPU.
+  bool isSrpPktToCpuValid() const;
+
+  /// Forward action for SRP packets. SRP_FWD_ACTION: 2 bits; on all chips but BCM56870_A0,
+  /// BCM56770_A0, BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0.
+  U8 srpFwdAction() const;
+  /// Sets SRP_FWD_ACTION.
+  void srpFwdActionIs(U8 value);
+  /// Width of SRP_FWD_ACTION in bits.
+  U16 srpFwdActionLen() const;
+  /// First bit of SRP_FWD_ACTION in the entry.
+  U16 srpFwdActionOffset() const;
+  /// Whether the view has SRP_FWD_ACTION.
+  bool isSrpFwdActionValid() const;
+
+  /// MMRP packets are copied to the CPU. MMRP_PKT_TO_CPU: 1 bit; on all chips but BCM56870_A0,
+  /// BCM56770_A0, BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0.
+  U8 mmrpPktToCpu() const;
+  /// Sets MMRP_PKT_TO_CPU.
+  void mmrpPktToCpuIs(U8 value);
+  /// Width of MMRP_PKT_TO_CPU in bits.
+  U16 mmrpPktToCpuLen() const;
+  /// First bit of MMRP_PKT_TO_CPU in the entry.
+  U16 mmrpPktToCpuOffset() const;
+  /// Whether the view has MMRP_PKT_TO_CPU.
+  bool isMmrpPktToCpuValid() const;
+
+  /// Forward action for MMRP packets. MMRP_FWD_ACTION: 2 bits; on all chips but BCM56870_A0,
+  /// BCM56770_A0, BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0.
+  U8 mmrpFwdAction() const;
+  /// Sets MMRP_FWD_ACTION.
+  void mmrpFwdActionIs(U8 value);
+  /// Width of MMRP_FWD_ACTION in bits.
+  U16 mmrpFwdActionLen() const;
+  /// First bit of MMRP_FWD_ACTION in the entry.
+  U16 mmrpFwdActionOffset() const;
+  /// Whether the view has MMRP_FWD_ACTION.
+  bool isMmrpFwdActionValid() const;
 };
 
 }  // namespace Velmar

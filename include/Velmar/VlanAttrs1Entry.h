@@ -1,21 +1,147 @@
+// Derived from tables/VlanAttrs1Entry.cpp; do not edit.
+// To refresh: cmake --build --preset release --target refresh
 #pragma once
 
-#include "Velmar/Declarations.h"
-
-// clang-format off
-#define VELMAR_FIELDS_VlanAttrs1Entry(FIELD) \
-  FIELD(mplsEnable,    MplsEnable,    MPLS_ENABLE,     U8, "MPLS is enabled") \
-  FIELD(mimTermEnable, MimTermEnable, MIM_TERM_ENABLE, U8, "MAC-in-MAC termination is enabled") \
-  FIELD(valid,         Valid,         VALID,           U8, "the entry is valid")
-
-#define VELMAR_SPANS_VlanAttrs1Entry(SPAN) SPAN(BCM56470_A0)
-// clang-format on
+#include "AsicUtils/BcmAsicBase.h"
+#include "Velmar/Export.h"
 
 namespace Velmar {
 
-/// VLAN attributes: MPLS and MAC-in-MAC termination enables per VLAN.
+/// Ingress VLAN attributes, tunnel termination enables per VLAN.
+///
+/// A view of one entry of this ingress memory. The bytes are the caller's; bit 0 of the entry is
+/// bit 0 of the first byte. On BCM56870_A0, BCM56770_A0, BCM56470_A0, BCM56370_A0, BCM56275_A0,
+/// BCM56175_A0: "from" in the comments below follows this order.
+///
+/// The members of a field F trace at level 8, then check in this order:
+///  - F() and FIs(): "0" where the chip lacks the field, "variant_ == 0" where only the variant
+///    does, "len_ >= N" where the buffer ends before the field. FIs(): also "value <= 0x<mask>"
+///    where the value is too large and the width is not a multiple of 8. A bitmap of too few words
+///    throws Morvo::VectorOutOfRangeException after the words it had; surplus words are ignored.
+///  - FLen(): where the view lacks the field, the soft assertion " does not have field
+///    <HARDWARE_NAME>", then "\"0\" == nullptr". FOffset(): "0" and "variant_ == 0" as F().
+///  - isFValid() never fails.
+/// A static member fails "0" for a chip without the memory and "variant == 0" for a variant that
+/// the chip does not have, unless its comment says otherwise.
 class VELMAR_EXPORT VlanAttrs1Entry : public AsicUtils::BcmAsicBase {
-  VELMAR_DECLARE_TABLE(VlanAttrs1Entry, Raw128)
+ public:
+  using EntrySpans = AsicUtils::EntrySpans;
+
+  /// Binds the view to `buf`, `len` bytes that outlive it. A chip or variant without the class: the
+  /// soft assertion " not in metainfo for VlanAttrs1Entry!", then "\"0\" == nullptr".
+  VlanAttrs1Entry(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
+  /// Does nothing.
+  static void handleBuf(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
+  /// Whether the constructor accepts the pair. Never fails.
+  static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
+  /// True.
+  bool isPrimary() const;
+  /// True: a memory.
+  bool isTable() const override;
+
+  /// Sets a scalar field by identifier (Velmar/FieldId.h). The value first loses the bits that the
+  /// field's type lacks. Any other identifier fails "false".
+  void setField64(U32 fieldId, U64 value) override;
+  /// Width of a field in bits; 0 where the view lacks it.
+  U16 fieldWidth(U32 fieldId) const override;
+  /// First bit of a field. An identifier without a field here fails "false".
+  U16 fieldOffset(U32 fieldId) const override;
+  /// Whether the view has a field. Never fails.
+  bool isFieldValid(U32 fieldId) const override;
+  /// The entry with every bit outside its fields zero. Fails "len_ >= 16" where the buffer is
+  /// shorter.
+  Raw128 getAllFields() const;
+  /// A one at every bit of an entry that belongs to a field.
+  static Raw8192 allFieldsMask(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  Raw8192 allFieldsMask() const override;
+  /// Number of fields that the chip has.
+  static U32 fieldCount(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 fieldCount() const override;
+
+  /// Whether an instance identifier is accepted.
+  static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
+  /// The same for the view's chip and variant.
+  bool hasIdentifier(U32 identifier) const override;
+  /// S-channel address, access code and block (1 ingress, 2 egress). False, and nothing written,
+  /// for a chip or variant without the class. Fails "tableEntry < N", "arrayIndex == 0",
+  /// "hasIdentifier( chipType, variant, identifier )".
+  static bool getSchanAddress(U32 chipType, U8 variant, U32& address, U32& accessType, U32& block,
+                              U16 identifier, U32 tableEntry, U16 arrayIndex);
+  /// The same for the view's chip and variant.
+  bool getSchanAddress(U32& address, U32& accessType, U32& block, U16 identifier, U32 tableEntry,
+                       U16 arrayIndex) const override;
+
+  /// Size of an entry in 32-bit words.
+  static U16 width(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U16 width() const override;
+  /// The same as width().
+  static U16 tableWidth(U32 chipType, U8 variant);
+  /// 1.
+  static U32 arrayElements(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 arrayElements() const override;
+  /// Number of instances: 1.
+  static U32 instanceCount(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 instanceCount() const override;
+  /// Number of entries.
+  static U32 entries(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 entries() const override;
+  /// Lowest index of an entry: 0.
+  static U32 index_min(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 index_min() const;
+  /// 0.
+  static U32 arrayIndex_min(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  U32 arrayIndex_min() const;
+  /// The ranges of valid indices.
+  static EntrySpans entrySpans(U32 chipType, U8 variant);
+  /// The same for the view's chip and variant.
+  EntrySpans entrySpans() const override;
+  /// 1 where the chip has the memory, else 0. Never fails.
+  static U32 tableVariantCount(U32 chipType);
+  /// The same for the view's chip.
+  U32 tableVariantCount() const override;
+  /// The valid indices on BCM56470_A0 and chips with as many entries.
+  static const AsicUtils::EntrySpan _entrySpans_BCM56470_A0[1];
+
+  /// MPLS is enabled. MPLS_ENABLE: 1 bit; on all chips.
+  U8 mplsEnable() const;
+  /// Sets MPLS_ENABLE.
+  void mplsEnableIs(U8 value);
+  /// Width of MPLS_ENABLE in bits.
+  U16 mplsEnableLen() const;
+  /// First bit of MPLS_ENABLE in the entry.
+  U16 mplsEnableOffset() const;
+  /// Whether the view has MPLS_ENABLE.
+  bool isMplsEnableValid() const;
+
+  /// MAC-in-MAC termination is enabled. MIM_TERM_ENABLE: 1 bit; on all chips.
+  U8 mimTermEnable() const;
+  /// Sets MIM_TERM_ENABLE.
+  void mimTermEnableIs(U8 value);
+  /// Width of MIM_TERM_ENABLE in bits.
+  U16 mimTermEnableLen() const;
+  /// First bit of MIM_TERM_ENABLE in the entry.
+  U16 mimTermEnableOffset() const;
+  /// Whether the view has MIM_TERM_ENABLE.
+  bool isMimTermEnableValid() const;
+
+  /// The entry is valid. VALID: 1 bit; on all chips.
+  U8 valid() const;
+  /// Sets VALID.
+  void validIs(U8 value);
+  /// Width of VALID in bits.
+  U16 validLen() const;
+  /// First bit of VALID in the entry.
+  U16 validOffset() const;
+  /// Whether the view has VALID.
+  bool isValidValid() const;
 };
 
 }  // namespace Velmar

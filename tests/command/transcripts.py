@@ -59,5 +59,5 @@ for path in paths:
     difference = difflib.unified_diff(expected.splitlines(), printed.splitlines(), name,
                                       "what the command prints", lineterm="")
     check(expected == printed, "\n".join(difference) +
-          "\nto accept it: cmake --build --preset release --target refresh-transcripts")
+          "\nto accept it: cmake --build --preset release --target refresh")
 finish()

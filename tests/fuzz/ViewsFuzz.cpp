@@ -4,7 +4,9 @@
 
 #include "EntryBuilder.h"
 #include "Fuzzing.h"
+#include "FieldLists.h"
 #include "Velmar/MetaInfo.h"
+#include "tables/Classes.h"
 
 namespace Fuzzing {
 namespace {
@@ -16,7 +18,7 @@ U64 scalarOf(const T& value) {
 }
 
 /// Copies a field, where the chip has it; scalars also by identifier.
-#define COPY_FIELD(accessor, Accessor, HARDWARE_NAME, TYPE, meaning)     \
+#define COPY_FIELD(accessor, Accessor, HARDWARE_NAME, TYPE)              \
   if (from.is##Accessor##Valid()) {                                      \
     const auto value = from.accessor();                                  \
     if (byIdentifier && std::is_integral_v<decltype(from.accessor())>) { \
@@ -37,14 +39,14 @@ U64 scalarOf(const T& value) {
     VELMAR_FIELDS_##CLASS(COPY_FIELD) if (size < layout.table().allFieldsBytes()) return;     \
     require(from.getAllFields() == into.getAllFields(), "both have the same fields", #CLASS); \
   }
-VELMAR_FOR_EACH_CLASS(DEFINE_COPY)
+VELMAR_CLASSES(DEFINE_COPY)
 
 void copyByViews(const Tool::Layout& layout, std::vector<U8>& entry, std::vector<U8>& copy,
                  bool byIdentifier) {
   const std::string_view name = layout.name();
 #define CALL_COPY(CLASS) \
   if (name == #CLASS) copy##CLASS(layout, entry, copy, byIdentifier);
-  VELMAR_FOR_EACH_CLASS(CALL_COPY)
+  VELMAR_CLASSES(CALL_COPY)
 }
 
 /// Types the fields as `velmar encode` takes them, each in one of the forms that decode prints.

@@ -60,7 +60,7 @@ TEST(Construction, handleBufDoesNothing) {
 TEST(Construction, viewsAddNoData) {
 #define VELMAR_SAME_SIZE(CLASS) \
   static_assert(sizeof(Velmar::CLASS) == sizeof(AsicUtils::BcmAsicBase), #CLASS);
-  VELMAR_FOR_EACH_CLASS(VELMAR_SAME_SIZE)
+  VELMAR_CLASSES(VELMAR_SAME_SIZE)
 #undef VELMAR_SAME_SIZE
 }
 

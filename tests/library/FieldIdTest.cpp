@@ -70,7 +70,7 @@ TEST(Catalogue, agreesWithEveryAccessor) {
       EXPECT_EQ(table.isOn(chip, 1), probe.chipTypeVariantValid(chipType, 1));
       const Catalogue::Geometry geometry = table.geometry(chip);
       if (!table.isOn(chip)) {
-        EXPECT_EQ(geometry.width, 0);
+        EXPECT_EQ(geometry.words, 0);
         EXPECT_FALSE(table.isFieldBit(0, chip));
         for (U32 f = 0; f < table.fieldCount(); ++f) EXPECT_EQ(table.range(f, chip).width, 0);
         continue;
@@ -83,7 +83,7 @@ TEST(Catalogue, agreesWithEveryAccessor) {
       EXPECT_EQ(geometry.variants == Catalogue::Variants::any, table.isOn(chip, 1));
       for (const GeometryProbe& member : probe.geometry) {
         const U32 value = member.ofChip(chip, 0);
-        if (member.name == "width") EXPECT_EQ(geometry.width, value);
+        if (member.name == "width") EXPECT_EQ(geometry.words, value);
         if (member.name == "entries") EXPECT_EQ(geometry.entries, value);
         if (member.name == "arrayElements") EXPECT_EQ(geometry.arrayElements, value);
         if (member.name == "fieldCount") EXPECT_EQ(geometry.fieldCount, value);

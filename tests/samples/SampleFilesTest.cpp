@@ -56,7 +56,7 @@ U32 entryBytesOf(const std::string& tableName, const std::string& chipName) {
   for (U32 t = 0; t < tableCount(); ++t) {
     for (U32 c = 0; c < chipCount(); ++c) {
       if (table(t).name() == tableName && chip(c).name == chipName) {
-        return 4U * table(t).geometry(chip(c).number).width;
+        return 4U * table(t).geometry(chip(c).number).words;
       }
     }
   }

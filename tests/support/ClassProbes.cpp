@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <type_traits>
 
+#include "FieldLists.h"
 #include "support/GoldenData.h"
 
 namespace VelmarTest {
@@ -143,7 +144,7 @@ ClassProbe makeClass(const char* name, const char* rawName, std::vector<FieldPro
 #define VELMAR_SPELLING_Raw128 "raw128", "Raw128", "const Raw128&"
 #define VELMAR_SPELLING_Bitmap "bitmap", "Oru::PerUnitBitmap", "Oru::PerUnitBitmap"
 
-#define VELMAR_FIELD_PROBE(accessor, Accessor, HARDWARE_NAME, TYPE, meaning) \
+#define VELMAR_FIELD_PROBE(accessor, Accessor, HARDWARE_NAME, TYPE) \
   {#accessor,                                                                \
    #Accessor,                                                                \
    #HARDWARE_NAME,                                                           \
@@ -174,7 +175,7 @@ const char* rawNameOf() {
                            {std::begin(fields), std::end(fields)},                             \
                            {VELMAR_SPANS_##CLASS(VELMAR_SPAN_POINTER)});                       \
   }
-VELMAR_FOR_EACH_CLASS(VELMAR_CLASS_PROBE)
+VELMAR_CLASSES(VELMAR_CLASS_PROBE)
 
 }  // namespace
 
@@ -226,7 +227,7 @@ const FieldProbe& ClassProbe::field(const std::string& accessor) const {
 const std::vector<ClassProbe>& classProbes() {
   static const std::vector<ClassProbe> probes = {
 #define VELMAR_MAKE_PROBE(CLASS) makeProbe_##CLASS(),
-      VELMAR_FOR_EACH_CLASS(VELMAR_MAKE_PROBE)
+      VELMAR_CLASSES(VELMAR_MAKE_PROBE)
 #undef VELMAR_MAKE_PROBE
   };
   return probes;

@@ -8,8 +8,9 @@
 
 #include "AsicUtils/BcmAsicBase.h"
 #include "Velmar/MetaInfo.h"
+#include "tables/Classes.h"
 
-// Every class and field in one shape, made from the public field lists, so that a sweep is written
+// Every class and field in one shape, made from the lists of classes and fields, so that a sweep is written
 // once and runs over all of them through the public accessors.
 
 namespace VelmarTest {

@@ -16,7 +16,7 @@ namespace {
 using Cells = MarkdownTable::Row;
 
 const std::string refreshNote = R"(<!-- Made from the layout rows; do not edit. To refresh:
-     cmake --build --preset release --target reference -->
+     cmake --build --preset release --target refresh -->
 
 )";
 
@@ -86,7 +86,7 @@ std::string geometryOf(const Catalogue::Table& table, const std::vector<Layout>&
     const Catalogue::Geometry geometry = table.geometry(chip.number);
     const bool ignores = geometry.variants == Catalogue::Variants::any;
     chips.addRow({chip.name, layoutOf(layouts, chip.number).name, ignores ? "any" : "0 only",
-                  std::to_string(geometry.width), std::to_string(4 * geometry.width),
+                  std::to_string(geometry.words), std::to_string(4 * geometry.words),
                   std::to_string(isTable(table) ? geometry.entries : geometry.arrayElements),
                   std::to_string(geometry.fieldCount)});
   }

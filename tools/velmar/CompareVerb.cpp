@@ -50,7 +50,7 @@ class Comparison {
   static Cell sizeText(const Pair& pair, const Geometry& geometry) {
     const bool isArray = pair.table.kind() == Catalogue::Kind::registerArray;
     return formatText("{} x {} bytes at {}", isArray ? geometry.arrayElements : geometry.entries,
-                      4 * geometry.width, addressText(geometry.base));
+                      4 * geometry.words, addressText(geometry.base));
   }
 
   void compareNumber(const Pair& pair, const char* part, U32 Geometry::*member) {
@@ -61,8 +61,8 @@ class Comparison {
   void compareGeometry(const Pair& pair) {
     const Geometry& before = pair.before;
     const Geometry& after = pair.after;
-    if (before.width != after.width) {
-      add(pair.table, "(entry bytes)", "changed", U32{4} * before.width, U32{4} * after.width);
+    if (before.words != after.words) {
+      add(pair.table, "(entry bytes)", "changed", U32{4} * before.words, U32{4} * after.words);
     }
     compareNumber(pair, "(entries)", &Geometry::entries);
     compareNumber(pair, "(elements)", &Geometry::arrayElements);

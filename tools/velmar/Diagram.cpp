@@ -114,7 +114,7 @@ class Row {
 
 void drawDiagram(Output& output, const Layout& layout) {
   const auto lanes = lanesOf(layout);
-  for (U32 word = 0; word < layout.geometry().width; ++word) {
+  for (U32 word = 0; word < layout.geometry().words; ++word) {
     Row row(output, word);
     for (const auto& lane : lanes) {
       const bool isFirstLane = &lane == &lanes.front();

@@ -31,7 +31,7 @@ Json layoutAsJson(const Catalogue::Table& table, const Catalogue::Chip& chip) {
   const bool anyVariant = geometry.variants == Catalogue::Variants::any;
   return {{"chip", chip.name},
           {"variants", anyVariant ? "any" : "zeroOnly"},
-          {"entryBytes", 4U * geometry.width},
+          {"entryBytes", 4U * geometry.words},
           {"entries", geometry.entries},
           {"arrayElements", geometry.arrayElements},
           {"addrStride", geometry.addrStride},

@@ -30,8 +30,8 @@ Layout::Layout(const Catalogue::Table& table, const Catalogue::Chip& chip, U8 va
 }
 
 Address Layout::addressOf(U32 index, U32 identifier) const {
-  const U32 step = isRegisterArray() ? geometry_.addrStride : 1;
-  const U32 address = geometry_.base + identifier * geometry_.identifierTerm + index * step;
+  const U32 address = isRegisterArray() ? geometry_.addressOf(0, index, identifier)
+                                        : geometry_.addressOf(index, 0, identifier);
   return {address, geometry_.accessType, geometry_.block};
 }
 

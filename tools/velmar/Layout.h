@@ -44,7 +44,7 @@ class Layout {
   const std::vector<FieldPlace>& fields() const { return fields_; }
 
   bool isRegisterArray() const { return table_.kind() == Catalogue::Kind::registerArray; }
-  U32 entryBytes() const { return 4U * geometry_.width; }
+  U32 entryBytes() const { return 4U * geometry_.words; }
   /// Number of entries, or of elements of a register array: an index is below it.
   U32 indexCount() const { return isRegisterArray() ? geometry_.arrayElements : geometry_.entries; }
   /// Address of an entry or element below indexCount().

@@ -52,7 +52,7 @@ void printHead(Output& output, const Layout& layout) {
   output.write(formatText("{} on {}", layout.name(), layout.chip().name), Style::strong);
   output.print(": {}\n", layout.table().purpose());
   output.print("  entry     {} bytes ({} word{}), {} field{}\n", layout.entryBytes(),
-               geometry.width, pluralEnd(geometry.width), geometry.fieldCount,
+               geometry.words, pluralEnd(geometry.words), geometry.fieldCount,
                pluralEnd(geometry.fieldCount));
   output.print("  {}  {}, index 0 to {}\n", layout.isRegisterArray() ? "elements" : "entries ",
                layout.indexCount(), layout.indexCount() - 1);

@@ -1,4 +1,4 @@
-#include "framework/ChipCatalogue.h"
+#include "framework/ChipSet.h"
 
 namespace Velmar {
 namespace Framework {

@@ -1,6 +1,6 @@
 #pragma once
 
-// Field rows of the per-port fields SP_TREE_PORT<n>, made by rule. Each list calls
+// Rows of names of the per-port fields SP_TREE_PORT<n>, made by rule. Each list calls
 // FIELD(accessor, Accessor, HARDWARE_NAME, TYPE, meaning) once per port, in ascending order.
 
 // clang-format off

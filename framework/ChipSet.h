@@ -23,17 +23,20 @@ constexpr U32 chipCount = sizeof(chipNames) / sizeof(chipNames[0]);
 /// The name of a chip, such as "BCM56990_B0"; null for an unknown chip.
 const char* chipName(U32 chipType);
 
-/// A set of chips.
+/// A set of chips, each named.
 class ChipSet {
  public:
+  /// Chips are numbered below this, so that a set is one number.
+  static constexpr U32 end = 64;
+
   constexpr ChipSet(std::initializer_list<ChipType_> chips) : bits_(0) {
     for (const ChipType_ chip : chips) bits_ |= U64{1} << chip;
   }
-  constexpr bool has(U32 chipType) const { return chipType < 64 && (bits_ >> chipType & 1) != 0; }
-  /// The lowest number in the set; 64 for an empty set.
+  constexpr bool has(U32 chipType) const { return chipType < end && (bits_ >> chipType & 1) != 0; }
+  /// The lowest number in the set; `end` for an empty set.
   constexpr U32 lowest() const {
     U32 chip = 0;
-    while (chip < 64 && !has(chip)) ++chip;
+    while (chip < end && !has(chip)) ++chip;
     return chip;
   }
 
@@ -41,9 +44,15 @@ class ChipSet {
   U64 bits_;
 };
 
-/// The chips that may have table variants, and whose memories take the identifier into their
-/// addresses.
-constexpr ChipSet bcm5699x = {BCM56990_B0, BCM56992_B0, BCM56993_B0, BCM56996_A0, BCM56996_B0};
+constexpr bool chipsAscend() {
+  for (U32 i = 1; i < chipCount; ++i) {
+    if (chipNames[i - 1].number >= chipNames[i].number) return false;
+  }
+  return true;
+}
+static_assert(chipsAscend(), "chips: the numbers do not ascend, or a number stands twice");
+static_assert(chipNames[chipCount - 1].number < ChipSet::end,
+              "chips: numbers above 63 do not fit ChipSet; give it more bits");
 
 }  // namespace Framework
 }  // namespace Velmar

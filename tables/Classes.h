@@ -1,0 +1,34 @@
+#pragma once
+
+// Every class of tables/, once, in the order in which the catalogue lists them: CLASS(name). All
+// other lists of classes are made from this one.
+// clang-format off
+#define VELMAR_CLASSES(CLASS) \
+  CLASS(VlanEntry) \
+  CLASS(Vlan2Entry) \
+  CLASS(VlanAttrs1Entry) \
+  CLASS(VlanMplsEntry) \
+  CLASS(VlanProfileEntry) \
+  CLASS(VlanProfile2Entry) \
+  CLASS(EgrVlanEntry) \
+  CLASS(EgrVlan2Entry) \
+  CLASS(VlanStgEntry) \
+  CLASS(VlanStg2Entry) \
+  CLASS(VlanStgBEntry) \
+  CLASS(EgrVlanStgEntry) \
+  CLASS(EgrVlanStgBEntry) \
+  CLASS(VfiProfileEntry) \
+  CLASS(VfiProfile2Entry) \
+  CLASS(IngVlanVfiMembershipEntry) \
+  CLASS(EgrVlanVfiMembershipEntry) \
+  CLASS(EgrVlanVfiUntagEntry) \
+  CLASS(PortBitmapProfileEntry) \
+  CLASS(IngVpVlanMembershipEntry) \
+  CLASS(EgrVpVlanMembershipEntry) \
+  CLASS(IngVpVlanMembershipEccEntry) \
+  CLASS(EgrVpVlanMembershipEccEntry) \
+  CLASS(IngVpVlanMembershipHashControl) \
+  CLASS(EgrVpVlanMembershipHashControl) \
+  CLASS(IgmpMldPktControl) \
+  CLASS(ProtocolPktControl)
+// clang-format on

@@ -1,0 +1,155 @@
+// Writes the public headers that are derived from the rows of tables/, or says which are stale.
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <set>
+#include <stdexcept>
+
+#include "tables/Classes.h"
+#include "tools/headers/HeaderText.h"
+
+namespace Headers {
+
+std::vector<ClassRows>& classesRead() {
+  static std::vector<ClassRows> classes;
+  return classes;
+}
+
+bool add(const ClassRows& rows) {
+  classesRead().push_back(rows);
+  return true;
+}
+
+namespace {
+
+namespace fs = std::filesystem;
+
+using Files = std::map<std::string, std::string>;  ///< text by name
+
+[[noreturn]] void fail(const std::string& text) { throw std::runtime_error(text); }
+
+std::string readFile(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+void writeFile(const fs::path& path, const std::string& text) {
+  std::ofstream file(path, std::ios::binary);
+  file << text;
+  file.close();
+  if (!file) fail(path.string() + ": cannot be written");
+}
+
+/// The classes in the order of their list. List and sources must agree.
+std::vector<ClassRows> allClasses() {
+  std::vector<ClassRows> classes;
+  std::vector<ClassRows> read = classesRead();
+#define VELMAR_CLASS_NAME(CLASS) #CLASS,
+  for (const std::string name : {VELMAR_CLASSES(VELMAR_CLASS_NAME)}) {
+    const auto found = std::find_if(read.begin(), read.end(),
+                                    [&](const ClassRows& rows) { return rows.name == name; });
+    if (found == read.end()) {
+      fail("tables/Classes.h lists " + name + " twice, or tables/" + name + ".cpp is missing");
+    }
+    classes.push_back(*found);
+    read.erase(found);
+  }
+#undef VELMAR_CLASS_NAME
+  if (!read.empty()) {
+    fail("tables/Classes.h does not list " + read.front().name + "; add CLASS(" +
+         read.front().name + ")");
+  }
+  return classes;
+}
+
+/// A chip that no class has would exist for nothing but the list of chips.
+void checkChips(const std::vector<ClassRows>& classes) {
+  for (const ChipName& chip : chipNames) {
+    const bool isUsed = std::any_of(classes.begin(), classes.end(), [&](const ClassRows& rows) {
+      return std::count(rows.chips.begin(), rows.chips.end(), chip.name) != 0;
+    });
+    if (!isUsed) fail(std::string("no table has a row with ") + chip.name);
+  }
+}
+
+bool isDerived(const std::string& text) { return text.rfind("// Derived from ", 0) == 0; }
+
+/// The derived headers as they should be.
+Files derivedHeaders(const std::vector<ClassRows>& classes, const Files& present) {
+  Files headers;
+  for (const ClassRows& rows : classes) headers[rows.name + ".h"] = classHeader(rows);
+  headers["FieldId.h"] = idHeader();
+  std::set<std::string> names;
+  for (const auto& [name, text] : headers) names.insert(name);
+  for (const auto& [name, text] : present) {
+    if (!isDerived(text) && name != "Export.h" && name != "MetaInfo.h") names.insert(name);
+  }
+  headers["MetaInfo.h"] = includeAllHeader(names);
+  return headers;
+}
+
+/// The names of the derived headers that are not as they should be.
+std::vector<std::string> staleHeaders(const Files& headers, const Files& present) {
+  std::vector<std::string> names;
+  for (const auto& [name, text] : headers) {
+    if (present.count(name) == 0 || present.at(name) != text) names.push_back(name);
+  }
+  for (const auto& [name, text] : present) {
+    if (isDerived(text) && headers.count(name) == 0) names.push_back(name);
+  }
+  return names;
+}
+
+int run(const std::string& task, const fs::path& place) {
+  const std::vector<ClassRows> classes = allClasses();
+  checkChips(classes);
+  if (task == "lists") {
+    const std::string lists = fieldLists(classes);
+    if (readFile(place) != lists) writeFile(place, lists);
+    return 0;
+  }
+  Files present;
+  for (const auto& file : fs::directory_iterator(place)) {
+    present[file.path().filename().string()] = readFile(file.path());
+  }
+  const Files headers = derivedHeaders(classes, present);
+  const std::vector<std::string> stale = staleHeaders(headers, present);
+  if (task == "check" && !stale.empty()) {
+    fail("include/Velmar/" + stale.front() +
+         (stale.size() > 1 ? " and " + std::to_string(stale.size() - 1) + " other headers are"
+                           : " is") +
+         " stale: tables/ says something else. To refresh: cmake --build --preset release "
+         "--target refresh");
+  }
+  for (const std::string& name : stale) {
+    std::printf("%s\n", name.c_str());
+    if (headers.count(name) != 0) {
+      writeFile(place / name, headers.at(name));
+    } else {
+      fs::remove(place / name);
+    }
+  }
+  return 0;
+}
+
+}  // namespace
+}  // namespace Headers
+
+int main(int count, char** words) {
+  const std::string task = count == 3 ? words[1] : "";
+  if (task != "write" && task != "check" && task != "lists") {
+    std::fputs("usage: velmar-headers write|check DIRECTORY\n       velmar-headers lists FILE\n",
+               stderr);
+    return 2;
+  }
+  try {
+    return Headers::run(task, words[2]);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "velmar-headers: %s\n", error.what());
+    return 1;
+  }
+}
