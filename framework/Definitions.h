@@ -30,7 +30,7 @@
   using View = CLASS;                                                                          \
   namespace Index { enum : U32 { FIELDS(VELMAR_FIELD_INDEX) }; }                               \
   constexpr Framework::FieldName names[] = {FIELDS(VELMAR_FIELD_NAME)};                        \
-  constexpr const auto& chipRows = chips;                                                      \
+  [[maybe_unused]] constexpr const auto& chipRows = chips;                                     \
   }                                                                                            \
   SPANS(VELMAR_DEFINE_SPAN)                                                                    \
   namespace {                                                                                  \

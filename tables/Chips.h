@@ -4,6 +4,10 @@
 
 // What is true of a chip in every table. The chips themselves, names and numbers, are the list of
 // the base libraries (AsicUtils/ChipType.h).
+//
+// The access code is not here: which one a memory takes is a property of the table on the chip. It is
+// 0 on BCM56470_A0, BCM56370_A0, BCM56275_A0 and BCM56175_A0, 17 or 22 from BCM56990_B0 on, and 9 or 14
+// on all others.
 
 namespace Velmar {
 namespace Tables {

@@ -41,7 +41,7 @@ constexpr FieldRow<columns> layout[] = {
 constexpr ChipRow chips[] = {
   // chips                                                            column  variants     words  entries  base        access
   {{BCM56960_A0, BCM56965_A0, BCM56968_A0},                           c56960, anyVariant,     12,    4096, 0x08040000,     14},
-  {{BCM56970_A0},                                                     c56960, anyVariant,     13,    4096, 0x08040000,     14},
+  {{BCM56970_A0},                                                     c56960, anyVariant,     13,    4096, 0x08040000,     14},  // the layout of BCM56960_A0 in an entry of one more word
   {{BCM56870_A0, BCM56770_A0},                                        c56870, anyVariant,      3,    4096, 0x090c0000,      9},
   {{BCM56470_A0},                                                     c56470, anyVariant,      3,    4096, 0x090c0000,      0},
   {{BCM56370_A0, BCM56275_A0, BCM56175_A0},                           c56870, anyVariant,      3,    4096, 0x090c0000,      0},

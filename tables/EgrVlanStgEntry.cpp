@@ -21,7 +21,7 @@ constexpr auto layout = portRows<160>(states);
 constexpr ChipRow chips[] = {
   // chips                                                            column  variants     words  entries  base        access
   {{BCM56960_A0, BCM56965_A0, BCM56968_A0},                           c56960, anyVariant,      9,     512, 0x08080000,     14},
-  {{BCM56970_A0},                                                     c56960, anyVariant,     10,     512, 0x08080000,     14},
+  {{BCM56970_A0},                                                     c56960, anyVariant,     10,     512, 0x08080000,     14},  // the layout of BCM56960_A0 in an entry of one more word
   {{BCM56870_A0, BCM56770_A0},                                        c56870, anyVariant,     14,     512, 0x09140000,     14},
   {{BCM56470_A0, BCM56370_A0},                                        c56470, anyVariant,     10,     512, 0x09140000,      0},
   {{BCM56275_A0, BCM56175_A0},                                        c56470, anyVariant,     10,     256, 0x09140000,      0},

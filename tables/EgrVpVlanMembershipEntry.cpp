@@ -33,14 +33,14 @@ constexpr FieldRow<columns> layout[] = {
   //                                 56470
   {FieldId::BASE_VALID,           {{ 0,  3}}},
   {FieldId::VLAN,                 {{ 5, 12}}},
-  {FieldId::HASH_LSB,             {{ 5, 11}}, alias},
-  {FieldId::KEY,                  {{ 3, 36}}, alias},
+  {FieldId::HASH_LSB,             {{ 5, 11}}, alias},  // the low bits of VLAN and VFI
+  {FieldId::KEY,                  {{ 3, 36}}, alias},  // KEY_TYPE and all above it up to the data
   {FieldId::VP,                   {{19, 15}}},
   {FieldId::UNTAG,                {{41,  1}}},
-  {FieldId::DATA,                 {{39,  3}}, alias},
-  {FieldId::TABLE_FIELDS,         {{ 5, 37}}, alias},
-  {FieldId::DGLP,                 {{19, 17}}, alias},
-  {FieldId::VFI,                  {{ 5, 14}}, alias},
+  {FieldId::DATA,                 {{39,  3}}, alias},  // SP_TREE and UNTAG
+  {FieldId::TABLE_FIELDS,         {{ 5, 37}}, alias},  // the key above its type, and the data
+  {FieldId::DGLP,                 {{19, 17}}, alias},  // in place of VP
+  {FieldId::VFI,                  {{ 5, 14}}, alias},  // in place of VLAN and RSVD_VLAN
   {FieldId::KEY_TYPE,             {{ 3,  2}}},
   {FieldId::RSVD_VP,              {{34,  1}}},
   {FieldId::RESERVED_KEY_PADDING, {{36,  3}}},

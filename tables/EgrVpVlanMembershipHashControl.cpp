@@ -19,6 +19,7 @@ constexpr ClassRow about = {"hash control of the egress virtual-port VLAN member
 
 enum : U8 { c56470, columns };
 
+// Reserved: bit 3; the ingress register reserves other bits.
 constexpr FieldRow<columns> layout[] = {
   //                                         56470
   {FieldId::HASH_OFFSET_DEDICATED_BANK_0, {{ 4, 6}}},

@@ -5,7 +5,8 @@ namespace {
 
 using namespace Framework;
 
-constexpr ClassRow about = {"IGMP/MLD packet control, actions per packet kind", ingress, 64};
+constexpr ClassRow about = {"IGMP/MLD packet control, actions per packet kind", ingress,
+                            /* elements */ 64};
 
 // clang-format off
 #define FIELDS(FIELD) \
@@ -63,7 +64,7 @@ constexpr ChipRow chips[] = {
   {{BCM56870_A0, BCM56770_A0},                                        c56960, anyVariant,     1,       1, 0x7200c000,      9},
   {{BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0},              c56960, anyVariant,     1,       1, 0x7200c000,      0},
   {{BCM56980_A0},                                                     c56980, anyVariant,     1,       1, 0x12000400,      9},
-  {{BCM56990_B0, BCM56992_B0, BCM56993_B0, BCM56996_A0, BCM56996_B0}, c56980, anyVariant,     1,       1, 0x12001000,     17},
+  {{BCM56990_B0, BCM56992_B0, BCM56993_B0, BCM56996_A0, BCM56996_B0}, c56980, anyVariant,     1,       1, 0x12001000,     17},  // registers take any variant on every chip
 };
 // clang-format on
 

@@ -5,8 +5,9 @@ namespace {
 
 using namespace Framework;
 
-constexpr ClassRow about = {
-    "ingress virtual-port VLAN membership, raw data with check bits", ingress, 1, 12};
+// getAllFields needs the three words of the entry, and not the four of its Raw128.
+constexpr ClassRow about = {"ingress virtual-port VLAN membership, raw data with check bits",
+                            ingress, /* elements */ 1, /* allFieldsBytes */ 12};
 
 // clang-format off
 #define FIELDS(FIELD) \

@@ -31,14 +31,14 @@ constexpr FieldRow<columns> layout[] = {
   //                                 56470
   {FieldId::BASE_VALID,           {{ 0,  3}}},
   {FieldId::VLAN,                 {{ 5, 12}}},
-  {FieldId::HASH_LSB,             {{ 5, 11}}, alias},
-  {FieldId::KEY,                  {{ 3, 36}}, alias},
+  {FieldId::HASH_LSB,             {{ 5, 11}}, alias},  // the low bits of VLAN and VFI
+  {FieldId::KEY,                  {{ 3, 36}}, alias},  // KEY_TYPE and all above it up to the data
   {FieldId::VP,                   {{19, 15}}},
-  {FieldId::DATA,                 {{39,  2}}, alias},
-  {FieldId::TABLE_FIELDS,         {{ 5, 36}}, alias},
-  {FieldId::VFI,                  {{ 5, 14}}, alias},
+  {FieldId::DATA,                 {{39,  2}}, alias},  // SP_TREE
+  {FieldId::TABLE_FIELDS,         {{ 5, 36}}, alias},  // the key above its type, and the data
+  {FieldId::VFI,                  {{ 5, 14}}, alias},  // in place of VLAN and RSVD_VLAN
   {FieldId::KEY_TYPE,             {{ 3,  2}}},
-  {FieldId::SGLP,                 {{19, 17}}, alias},
+  {FieldId::SGLP,                 {{19, 17}}, alias},  // in place of VP
   {FieldId::RESERVED_KEY_PADDING, {{36,  3}}},
   {FieldId::SP_TREE,              {{39,  2}}},
   {FieldId::RSVD_VLAN,            {{17,  2}}},

@@ -19,6 +19,7 @@ constexpr ClassRow about = {"hash control of the ingress virtual-port VLAN membe
 
 enum : U8 { c56470, columns };
 
+// Reserved: bits 1 and 4; the egress register reserves other bits.
 constexpr FieldRow<columns> layout[] = {
   //                                         56470
   {FieldId::HASH_OFFSET_DEDICATED_BANK_0, {{ 5, 6}}},

@@ -23,7 +23,7 @@ constexpr FieldRow<columns> layout[] = {
 constexpr ChipRow chips[] = {
   // chips                                                            column  variants    words  entries  base        access
   {{BCM56980_A0},                                                     c56980, anyVariant,     6,    1024, 0x1ca40000,      9},
-  {{BCM56990_B0, BCM56992_B0, BCM56993_B0, BCM56996_A0, BCM56996_B0}, c56990, anyVariant,     9,    2048, 0x20d00000,     17},
+  {{BCM56990_B0, BCM56992_B0, BCM56993_B0, BCM56996_A0, BCM56996_B0}, c56990, anyVariant,     9,    2048, 0x20d00000,     17},  // any variant, unlike most memories of these chips
 };
 // clang-format on
 

@@ -5,7 +5,8 @@ namespace {
 
 using namespace Framework;
 
-constexpr ClassRow about = {"protocol packet control, actions per packet kind", ingress, 64};
+constexpr ClassRow about = {"protocol packet control, actions per packet kind", ingress,
+                            /* elements */ 64};
 
 // clang-format off
 #define FIELDS(FIELD) \
@@ -49,7 +50,7 @@ constexpr ChipRow chips[] = {
   {{BCM56870_A0, BCM56770_A0},                                        c56870, anyVariant,     1,       1, 0x72008000,      9},
   {{BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0},              c56870, anyVariant,     1,       1, 0x72008000,      0},
   {{BCM56980_A0},                                                     c56980, anyVariant,     1,       1, 0x12004900,      9},
-  {{BCM56990_B0, BCM56992_B0, BCM56993_B0, BCM56996_A0, BCM56996_B0}, c56980, anyVariant,     1,       1, 0x12012400,     17},
+  {{BCM56990_B0, BCM56992_B0, BCM56993_B0, BCM56996_A0, BCM56996_B0}, c56980, anyVariant,     1,       1, 0x12012400,     17},  // registers take any variant on every chip
 };
 // clang-format on
 

@@ -5,8 +5,8 @@ namespace {
 
 using namespace Framework;
 
-constexpr ClassRow about = {
-    "second ingress VLAN table, port bitmaps or their profile per VLAN", ingress};
+constexpr ClassRow about = {"second ingress VLAN table, port bitmaps or their profile per VLAN",
+                            ingress};
 
 // clang-format off
 #define FIELDS(FIELD) \

@@ -5,8 +5,8 @@ namespace {
 
 using namespace Framework;
 
-constexpr ClassRow about = {
-    "ingress VLAN attributes, tunnel termination enables per VLAN", ingress};
+constexpr ClassRow about = {"ingress VLAN attributes, tunnel termination enables per VLAN",
+                            ingress};
 
 // clang-format off
 #define FIELDS(FIELD) \
@@ -28,7 +28,7 @@ constexpr FieldRow<columns> layout[] = {
 constexpr ChipRow chips[] = {
   // chips                     column  variants    words  entries  base        access
   {{BCM56870_A0, BCM56770_A0}, c56870, anyVariant,     3,    4096, 0x580c0000,      9},
-  {{BCM56470_A0},              c56870, anyVariant,     3,    4096, 0x5c0c0000,      0},
+  {{BCM56470_A0},              c56870, anyVariant,     3,    4096, 0x5c0c0000,      0},  // its own address, as for VlanProfileEntry
   {{BCM56370_A0},              c56870, anyVariant,     3,    4096, 0x580c0000,      0},
   {{BCM56275_A0, BCM56175_A0}, c56275, anyVariant,     2,    4096, 0x580c0000,      0},
 };

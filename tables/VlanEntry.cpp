@@ -37,10 +37,10 @@ enum : U8 { c56960, c56970, c56870, c56470, c56370, c56275, c56175, c56980, c569
 constexpr FieldRow<columns> layout[] = {
   //                                  56960       56970       56870       56470       56370       56275       56175       56980       56990
   {FieldId::VALID,                   {{345,   1}, {  0,   1}, {150,   1}, {150,   1}, {150,   1}, {150,   1}, {150,   1}, { 62,   1}, { 66,   1}}},
-  {FieldId::FID_ID,                  {{365,  12}, { 20,  12}, {172,  12}, {172,  12}, {172,  12}, {172,  12}, {172,  12}, { 10,  12}, { 10,  13}}},
+  {FieldId::FID_ID,                  {{365,  12}, { 20,  12}, {172,  12}, {172,  12}, {172,  12}, {172,  12}, {172,  12}, { 10,  12}, { 10,  13}}},  // 56990: 13 bits
   {FieldId::ENABLE_IGMP_MLD_SNOOPING,{{380,   1}, { 35,   1}, none      , none      , none      , none      , none      , {  9,   1}, {  9,   1}}},
-  {FieldId::VLAN_CLASS_ID,           {{465,  12}, {120,  12}, {266,  12}, {265,  12}, {266,  12}, {266,  12}, {266,  12}, { 63,  12}, { 67,  12}}},
-  {FieldId::STG,                     {{272,   9}, none      , {141,   9}, {141,   9}, {141,   9}, {141,   8}, {141,   8}, none      , { 42,   6}}},
+  {FieldId::VLAN_CLASS_ID,           {{465,  12}, {120,  12}, {266,  12}, {265,  12}, {266,  12}, {266,  12}, {266,  12}, { 63,  12}, { 67,  12}}},  // 56470: one bit below its generation
+  {FieldId::STG,                     {{272,   9}, none      , {141,   9}, {141,   9}, {141,   9}, {141,   8}, {141,   8}, none      , { 42,   6}}},  // 56275, 56175: 8 of 16 bits, whole bytes, so any value is taken and its low 8 bits are kept
   {FieldId::VLAN_PROFILE_PTR,        {{358,   7}, { 13,   7}, {165,   7}, {165,   7}, {165,   7}, {165,   7}, {165,   7}, { 75,   7}, { 91,   7}}},
   {FieldId::ING_PORT_BITMAP,         {{  0, 136}, none      , none      , none      , none      , none      , none      , none      , none      }},
   {FieldId::PORT_BITMAP,             {{136, 136}, none      , {  0, 132}, {  0,  72}, {  0,  72}, {  0,  72}, {  0,  72}, none      , none      }},
@@ -49,7 +49,7 @@ constexpr FieldRow<columns> layout[] = {
   {FieldId::PORT_BITMAP_PROFILE_PTR, {none      , none      , none      , none      , none      , none      , none      , none      , { 31,  11}}},
   {FieldId::EN_IFILTER,              {none      , none      , {296,   1}, {296,   1}, {296,   1}, {296,   1}, {296,   1}, none      , none      }},
   {FieldId::L3_IIF,                  {none      , none      , {318,  14}, {318,  14}, {318,  13}, {318,  11}, {318,  10}, none      , none      }},
-  {FieldId::VIRTUAL_PORT_EN,         {{444,   1}, { 99,   1}, {244,   1}, {243,   1}, {244,   1}, {244,   1}, {244,   1}, none      , { 98,   1}}},
+  {FieldId::VIRTUAL_PORT_EN,         {{444,   1}, { 99,   1}, {244,   1}, {243,   1}, {244,   1}, {244,   1}, {244,   1}, none      , { 98,   1}}},  // 56470: likewise
   {FieldId::LEARN_DISABLE,           {none      , none      , none      , none      , none      , none      , none      , none      , { 30,   1}}},
   {FieldId::L2_ENTRY_KEY_TYPE,       {{346,   2}, {  1,   2}, {151,   2}, {151,   2}, {151,   2}, {151,   2}, {151,   2}, { 40,   2}, { 28,   2}}},
   {FieldId::FLEX_CTR_ACTION,         {none      , none      , none      , none      , none      , none      , none      , none      , { 23,   5}}},

@@ -26,7 +26,7 @@ constexpr FieldRow<columns> layout[] = {
   {FieldId::MPLS_ENABLE,            {{0,  1}, {13,  1}}},
   {FieldId::MIM_TERM_ENABLE,        {{1,  1}, none}},
   {FieldId::L3_IIF,                 {{2, 13}, { 0, 13}}},
-  {FieldId::EN_IFILTER,             {none,    none}},  // on no chip of this class, and dispatched all the same
+  {FieldId::EN_IFILTER,             {none,    none}},  // on no chip; the class declares it, so it is known by identifier and never valid
   {FieldId::MEMBERSHIP_PROFILE_PTR, {none,    none}},  // likewise
   {FieldId::VFI,                    {none,    none}},  // likewise
 };

@@ -35,7 +35,7 @@ constexpr FieldRow<columns> layout[] = {
   {FieldId::L3_IPV6_PFM,        {{32, 2}, {32, 2}, {10, 2}, {11, 2}}},
   {FieldId::L3_IPV4_PFM,        {{30, 2}, {30, 2}, { 8, 2}, { 9, 2}}},
   {FieldId::L2_PFM,             {{ 0, 2}, { 0, 2}, { 6, 2}, { 7, 2}}},
-  {FieldId::L2_MISS_DROP,       {{ 6, 1}, { 8, 1}, { 2, 1}, { 3, 1}}},
+  {FieldId::L2_MISS_DROP,       {{ 6, 1}, { 8, 1}, { 2, 1}, { 3, 1}}},  // drop above copy on 56960 and 56870, below it on 56980 and 56990
   {FieldId::L2_MISS_TOCPU,      {{ 5, 1}, { 7, 1}, { 3, 1}, { 4, 1}}},
   {FieldId::L2_NON_UCAST_DROP,  {{ 8, 1}, {10, 1}, { 4, 1}, { 5, 1}}},
   {FieldId::L2_NON_UCAST_TOCPU, {{ 7, 1}, { 9, 1}, { 5, 1}, { 6, 1}}},
@@ -47,7 +47,7 @@ constexpr ChipRow chips[] = {
   {{BCM56960_A0, BCM56965_A0, BCM56968_A0},                           c56960, anyVariant,      2,     128, 0x38140000,      9},
   {{BCM56970_A0},                                                     c56960, anyVariant,      2,     128, 0x5c340000,      9},
   {{BCM56870_A0, BCM56770_A0},                                        c56870, anyVariant,      3,     128, 0x64440000,      9},
-  {{BCM56470_A0},                                                     c56870, anyVariant,      3,     128, 0x68480000,      0},
+  {{BCM56470_A0},                                                     c56870, anyVariant,      3,     128, 0x68480000,      0},  // its own address in the layout of its generation
   {{BCM56370_A0, BCM56275_A0, BCM56175_A0},                           c56870, anyVariant,      3,     128, 0x64440000,      0},
   {{BCM56980_A0},                                                     c56980, anyVariant,      2,     128, 0x0c7c0000,      9},
   {{BCM56990_B0, BCM56992_B0, BCM56993_B0, BCM56996_A0, BCM56996_B0}, c56990, variantZero,     2,     128, 0x0c840000,     17},

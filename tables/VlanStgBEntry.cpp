@@ -20,7 +20,7 @@ constexpr auto layout = portRows<136>(states);
 
 constexpr ChipRow chips[] = {
   // chips                                                            column  variants    words  entries  base        access
-  {{BCM56990_B0, BCM56992_B0, BCM56993_B0, BCM56996_A0, BCM56996_B0}, c56990, anyVariant,    10,      64, 0x0c8c0000,     22},
+  {{BCM56990_B0, BCM56992_B0, BCM56993_B0, BCM56996_A0, BCM56996_B0}, c56990, anyVariant,    10,      64, 0x0c8c0000,     22},  // any variant, unlike most memories of these chips
 };
 // clang-format on
 
