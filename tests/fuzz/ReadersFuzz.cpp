@@ -3,9 +3,9 @@
 
 #include <memory>
 
-#include "EntryReader.h"
-#include "EntryWriter.h"
 #include "Fuzzing.h"
+#include "input/EntryReader.h"
+#include "output/EntryWriter.h"
 
 namespace Fuzzing {
 namespace {

@@ -1,12 +1,12 @@
 // What people type: values of fields, index sets, names and numbers. What is accepted means what
 // a plain reading of it means, and survives being printed and typed again.
 
-#include "EntryBuilder.h"
 #include "Fuzzing.h"
-#include "IndexSet.h"
-#include "JsonInput.h"
-#include "Target.h"
-#include "Text.h"
+#include "input/JsonInput.h"
+#include "model/EntryBuilder.h"
+#include "model/IndexSet.h"
+#include "model/Text.h"
+#include "verbs/Target.h"
 
 namespace Fuzzing {
 namespace {

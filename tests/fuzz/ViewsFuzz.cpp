@@ -2,9 +2,9 @@
 // the accessors of the class or through texts of the command, give the same field bits and leave the
 // bits outside all fields.
 
-#include "EntryBuilder.h"
 #include "Fuzzing.h"
 #include "Velmar/MetaInfo.h"
+#include "model/EntryBuilder.h"
 
 namespace Fuzzing {
 namespace {

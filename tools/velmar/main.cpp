@@ -2,14 +2,15 @@
 #include <exception>
 #include <new>
 
-#include "CommandLine.h"
-#include "Failure.h"
-#include "Output.h"
+#include "cli/CommandLine.h"
+#include "model/Failure.h"
+#include "output/Output.h"
+#include "verbs/Verbs.h"
 
 int main(int count, char** words) {
   Tool::installSignalHandlers();
   try {
-    return Tool::runCommandLine(count, words);
+    return Tool::runCommandLine(Tool::allVerbs(), count, words);
   } catch (const std::bad_alloc&) {
     std::fputs("velmar: out of memory; free some and try again\n", stderr);
   } catch (const std::exception& failure) {

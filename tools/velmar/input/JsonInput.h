@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "input/EntryReader.h"
+#include "input/JsonText.h"
+#include "model/EntryBuilder.h"
+
+namespace Tool {
+
+/// Reads the JSON that decode writes, and plain objects of field values.
+class JsonInput {
+ public:
+  JsonInput(std::unique_ptr<ByteStream> stream, const Layout& layout, U64 first);
+
+  /// What one object says of an entry.
+  struct Part {
+    std::optional<U64> index;  ///< absent for a plain object of values
+    std::vector<Assignment> assignments;
+    std::vector<U8> outside;  ///< bits outside all fields; empty: not said
+  };
+
+  /// Reads the next object; false at the end.
+  bool next(Part& part);
+  const std::string& name() const { return stream_->name(); }
+  U64 line() const { return text_.line(); }
+
+ private:
+  std::unique_ptr<ByteStream> stream_;
+  JsonText text_;
+  const Layout& layout_;
+  U64 index_;
+  bool hasParts_ = false;
+};
+
+}  // namespace Tool

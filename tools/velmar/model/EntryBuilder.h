@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "model/Value.h"
+
+namespace Tool {
+
+/// A field and the value that it is to have.
+struct Assignment {
+  FieldPlace place;
+  Value value;
+};
+
+/// An entry that is being encoded.
+class EntryBuilder {
+ public:
+  /// All zero.
+  explicit EntryBuilder(const Layout& layout) : layout_(layout), bytes_(layout.entryBytes()) {}
+
+  /// Starts from an existing entry, or from zero.
+  void start(const U8* bytes);
+  void startFromZero();
+  /// Lets what is set from now on replace what was set before.
+  void forget() { set_.clear(); }
+  /// Sets a field; fails where a field set before shares bits with it and has another value there.
+  void set(const Assignment& assignment);
+  /// Sets the bits outside all fields.
+  void setOutside(const std::vector<U8>& bits);
+
+  const std::vector<U8>& bytes() const { return bytes_; }
+
+ private:
+  void checkAgainst(const FieldPlace& earlier, const Assignment& assignment) const;
+
+  const Layout& layout_;
+  std::vector<U8> bytes_;
+  std::vector<FieldPlace> set_;
+};
+
+/// "field=value" as it is typed.
+Assignment parseAssignment(const Layout& layout, const std::string& text);
+
+}  // namespace Tool

@@ -1,0 +1,303 @@
+#include <utility>
+
+#include "input/JsonInput.h"
+#include "model/EntryBuilder.h"
+#include "model/Failure.h"
+#include "model/IndexSet.h"
+#include "output/EntryWriter.h"
+#include "output/Progress.h"
+#include "verbs/Target.h"
+#include "verbs/Verbs.h"
+
+namespace Tool {
+namespace {
+
+/// Writes encoded entries as bytes: hex text or raw.
+class BytesWriter : public EntryWriter {
+ public:
+  BytesWriter(Output& output, const Layout& layout, Format format, bool withIndex)
+      : output_(output), layout_(layout), format_(format), withIndex_(withIndex) {
+    if (format_ == Format::raw && output_.isTerminal()) {
+      fail("raw bytes do not go to a terminal; give -o FILE, or pipe them into something");
+    }
+  }
+
+  void begin() override {}
+  void write(const Entry& entry) override {
+    const U8* bytes = entry.bytes;
+    const U32 size = layout_.entryBytes();
+    if (format_ == Format::raw) {
+      checkPlace(entry.index);
+      return output_.write({reinterpret_cast<const char*>(bytes), size});
+    }
+    if (withIndex_) output_.print("{}: ", entry.index);
+    const U32 group = format_ == Format::words ? 4 : 1;
+    for (U32 at = 0; at < size; at += group) {
+      if (at != 0) output_.write(" ");
+      for (U32 i = 0; i < group; ++i) output_.print("{:02x}", bytes[at + group - 1 - i]);
+    }
+    output_.write("\n");
+  }
+  void end() override {}
+
+ private:
+  /// Raw bytes carry no index: an entry's place is the only thing that tells it.
+  void checkPlace(U64 index) {
+    if (started_ && index != next_) {
+      fail(
+          "entry {} is to follow entry {}, and raw bytes have no place for an index; give --whole "
+          "or --format hex",
+          index, next_ - 1);
+    }
+    started_ = true;
+    next_ = index + 1;
+  }
+
+  Output& output_;
+  const Layout& layout_;
+  Format format_;
+  bool withIndex_;
+  bool started_ = false;
+  U64 next_ = 0;
+};
+
+/// Completes what is written to the whole table: entries that are not given are zero.
+class WholeWriter : public EntryWriter {
+ public:
+  WholeWriter(std::unique_ptr<EntryWriter> writer, const Layout& layout)
+      : writer_(std::move(writer)), layout_(layout), zeros_(layout.entryBytes()) {}
+
+  void begin() override { writer_->begin(); }
+  void write(const Entry& entry) override {
+    if (entry.index >= layout_.indexCount()) {
+      fail("entry {} is beyond the {} of {} on {}; leave out --whole, or check table and chip",
+           entry.index, layout_.indexCount(), layout_.name(), layout_.chip().name);
+    }
+    if (entry.index < next_) {
+      fail("entry {} comes after entry {}; --whole needs the entries in ascending order",
+           entry.index, next_ - 1);
+    }
+    fillTo(entry.index);
+    writer_->write(entry);
+    next_ = entry.index + 1;
+  }
+  void end() override {
+    fillTo(layout_.indexCount());
+    writer_->end();
+  }
+
+ private:
+  void fillTo(U64 index) {
+    for (; next_ < index; ++next_) writer_->write({next_, zeros_.data()});
+  }
+
+  std::unique_ptr<EntryWriter> writer_;
+  const Layout& layout_;
+  std::vector<U8> zeros_;
+  U64 next_ = 0;
+};
+
+/// What the command line gives: values for the selected entries, and a document of entries.
+class Values {
+ public:
+  Values(const Arguments& arguments, const Layout& layout)
+      : layout_(layout), readsInput_(arguments.base == "-") {
+    for (const std::string& text : arguments.assignments) {
+      if (text[0] == '@') {
+        read(text.substr(1));
+      } else {
+        common_.push_back(parseAssignment(layout, text));
+      }
+    }
+  }
+
+  const std::vector<Assignment>& common() const { return common_; }
+  bool hasEntries() const { return document_ != nullptr; }
+  /// The next entry of the document; null at its end.
+  const JsonInput::Part* part() const { return hasPart_ ? &part_ : nullptr; }
+  void takePart() { hasPart_ = document_->next(part_); }
+  std::string place() const { return formatText("{}:{}", document_->name(), document_->line()); }
+
+ private:
+  void read(const std::string& path) {
+    const std::string file = path.empty() ? "-" : path;
+    if (file == "-" && std::exchange(readsInput_, true)) {
+      fail("standard input is given twice; name a file for one of them");
+    }
+    auto input =
+        std::make_unique<JsonInput>(std::make_unique<ByteStream>(file, nullptr), layout_, 0);
+    JsonInput::Part part;
+    if (!input->next(part)) return;
+    if (!part.index) {
+      common_.insert(common_.end(), part.assignments.begin(), part.assignments.end());
+      if (input->next(part)) {
+        fail("{}:{}: a second object; give one object of values, or the JSON of decode",
+             input->name(), input->line());
+      }
+      return;
+    }
+    if (document_ != nullptr) fail("{}: a second file of entries; give one", input->name());
+    document_ = std::move(input);
+    part_ = std::move(part);
+    hasPart_ = true;
+  }
+
+  const Layout& layout_;
+  std::vector<Assignment> common_;
+  std::unique_ptr<JsonInput> document_;
+  JsonInput::Part part_;
+  bool hasPart_ = false;
+  bool readsInput_;  ///< standard input has its use
+};
+
+class Encoder {
+ public:
+  Encoder(const Arguments& arguments, const Layout& layout, Output& output)
+      : arguments_(arguments),
+        layout_(layout),
+        output_(output),
+        values_(arguments, layout),
+        builder_(layout) {
+    if (!arguments.index.empty()) selected_ = IndexSet(arguments.index);
+    const Format format = arguments.format.empty() ? Format::hex : formatOf(arguments.format);
+    const bool isBytes = format == Format::hex || format == Format::words || format == Format::raw;
+    const bool withIndex =
+        values_.hasEntries() || !arguments.base.empty() || !selected_.isAll() || arguments.whole;
+    writer_ = isBytes ? std::make_unique<BytesWriter>(output, layout, format, withIndex)
+                      : makeEntryWriter(output, layout, layout.fields(), format);
+    if (arguments.whole) {
+      writer_ = std::make_unique<WholeWriter>(std::move(writer_), layout);
+    }
+  }
+
+  void run() {
+    writer_->begin();
+    if (!arguments_.base.empty()) {
+      changeBase();
+    } else if (values_.hasEntries()) {
+      makeFromDocument();
+    } else {
+      makeSelected();
+    }
+    writer_->end();
+    output_.finish();
+  }
+
+ private:
+  void write(U64 index) {
+    writer_->write({index, builder_.bytes().data()});
+    output_.flushIfLarge();
+    progress_.step();
+  }
+
+  void setCommon(U64 index) {
+    if (!selected_.has(index)) return;
+    builder_.forget();
+    for (const Assignment& assignment : values_.common()) builder_.set(assignment);
+    changed_ = true;
+  }
+
+  void setPart() {
+    try {
+      builder_.forget();
+      for (const Assignment& assignment : values_.part()->assignments) builder_.set(assignment);
+    } catch (const Failure& failure) {
+      fail("{}: {}", values_.place(), failure.what());
+    }
+    builder_.setOutside(values_.part()->outside);
+  }
+
+  void makeSelected() {
+    if (!selected_.isAll() && selected_.last() >= layout_.indexCount()) {
+      fail("--index {}: {} on {} has the entries 0 to {}; give one of them", selected_.last(),
+           layout_.name(), layout_.chip().name, layout_.indexCount() - 1);
+    }
+    const U64 last = selected_.isAll() ? 0 : selected_.last();
+    for (U64 index = selected_.first(); index <= last; ++index) {
+      if (!selected_.has(index)) continue;
+      builder_.startFromZero();
+      setCommon(index);
+      write(index);
+    }
+  }
+
+  void makeFromDocument() {
+    for (; values_.part() != nullptr; values_.takePart()) {
+      builder_.startFromZero();
+      setPart();
+      setCommon(*values_.part()->index);
+      write(*values_.part()->index);
+    }
+  }
+
+  void changeBase() {
+    const auto reader = openEntries(arguments_.base, layout_, inputOptionsOf(arguments_), nullptr);
+    Entry entry;
+    bool isFirst = true;
+    for (bool more = reader->next(entry); more; isFirst = false) {
+      const U64 index = entry.index;
+      builder_.start(entry.bytes);
+      more = reader->next(entry);
+      const bool isOpen = isFirst && more && selected_.isAll() && !values_.common().empty();
+      if (isOpen) {
+        fail("{}: more than one entry; say with --index which to change", arguments_.base);
+      }
+      setPartsOf(index);
+      setCommon(index);
+      write(index);
+    }
+    if (values_.part() != nullptr) {
+      fail("{}: entry {} is not in {}; give entries of the base only, in ascending order",
+           values_.place(), *values_.part()->index, arguments_.base);
+    }
+    if (!changed_ && !selected_.isAll()) {
+      fail("{}: no entry has an index in {}; check --index", arguments_.base, arguments_.index);
+    }
+  }
+
+  void setPartsOf(U64 index) {
+    while (values_.part() != nullptr && *values_.part()->index == index) {
+      setPart();
+      values_.takePart();
+    }
+  }
+
+  const Arguments& arguments_;
+  const Layout& layout_;
+  Output& output_;
+  Values values_;
+  IndexSet selected_;
+  EntryBuilder builder_;
+  std::unique_ptr<EntryWriter> writer_;
+  Progress progress_;
+  bool changed_ = false;
+};
+
+int run(const Arguments& arguments) {
+  const Layout layout = layoutOf(arguments);
+  Output output(arguments.output, arguments.color);
+  Encoder(arguments, layout, output).run();
+  return exitSuccess;
+}
+
+}  // namespace
+
+Verb encodeVerb() {
+  return {"encode",
+          "Encodes field values to the bytes of an entry.",
+          "A value is a number, decimal or after 0x hexadecimal; for a bitmap a list of ports such "
+          "as 0-3,17, or \"none\", or a hexadecimal number after 0x. Fields that are not given are "
+          "zero, or with --base as they were. What decode writes as JSON is taken as @FILE and "
+          "gives the same bytes. A JSON entry may have 1 MiB.",
+          {Positionals::table(), Positionals::assignments()},
+          {Options::chip(), Options::variant(), Options::base(), Options::changeIndex(),
+           Options::whole(), Options::input(), Options::hexOrder(), Options::stride(),
+           Options::first(), Options::format({"hex", "words", "raw", "json", "jsonl"}),
+           Options::output(), Options::color()},
+          {"velmar encode VlanEntry --chip BCM56960_A0 valid=1 fidId=100 portBitmap=0-3,17",
+           "velmar encode VlanEntry --chip 56960 valid=1 | velmar encode VlanEntry --chip 56960 "
+           "--base - stg=0x1f"},
+          run};
+}
+
+}  // namespace Tool

@@ -1,0 +1,80 @@
+#include <set>
+
+#include "model/Failure.h"
+#include "model/Layout.h"
+#include "model/Text.h"
+#include "output/Listing.h"
+#include "verbs/Target.h"
+#include "verbs/Verbs.h"
+
+namespace Tool {
+namespace {
+
+const char* kindOf(const Catalogue::Table& table) {
+  return table.kind() == Catalogue::Kind::table ? "table" : "register array";
+}
+
+Listing tablesOf(const Catalogue::Chip& chip, U8 variant) {
+  Listing listing({"table", "kind", "bytes", "entries", "address", "fields", "purpose"});
+  for (U32 i = 0; i < Catalogue::tableCount(); ++i) {
+    const Catalogue::Table table = Catalogue::table(i);
+    if (!table.isOn(chip.number, variant)) continue;
+    const Layout layout(table, chip, variant);
+    listing.add({table.name(), kindOf(table), layout.entryBytes(), layout.indexCount(),
+                 addressText(layout.geometry().base), layout.geometry().fieldCount,
+                 table.purpose()});
+  }
+  return listing;
+}
+
+/// "64", or "12-64" where chips differ.
+Cell spread(const std::set<U32>& numbers) {
+  if (numbers.size() == 1) return *numbers.begin();
+  const std::string text = formatText("{}-{}", *numbers.begin(), *numbers.rbegin());
+  return Cell(std::vector<U32>(numbers.begin(), numbers.end())).shownAs(text);
+}
+
+Listing allTables() {
+  Listing listing({"table", "kind", "bytes", "entries", "purpose", "chips"});
+  for (U32 i = 0; i < Catalogue::tableCount(); ++i) {
+    const Catalogue::Table table = Catalogue::table(i);
+    std::set<U32> bytes;
+    std::set<U32> entries;
+    for (U32 j = 0; j < Catalogue::chipCount(); ++j) {
+      const Catalogue::Chip chip = Catalogue::chip(j);
+      if (!table.isOn(chip.number)) continue;
+      const Layout layout(table, chip, 0);
+      bytes.insert(layout.entryBytes());
+      entries.insert(layout.indexCount());
+    }
+    const std::vector<std::string> chips = chipsOf(table);
+    const bool isOnAll = chips.size() == Catalogue::chipCount();
+    listing.add({table.name(), kindOf(table), spread(bytes), spread(entries), table.purpose(),
+                 Cell(chips).shownAs(isOnAll ? "all" : join(chips, " "))});
+  }
+  return listing;
+}
+
+int run(const Arguments& arguments) {
+  const Listing listing =
+      arguments.chips.empty() ? allTables() : tablesOf(chipOf(arguments), variantOf(arguments));
+  Output output(arguments.output, arguments.color);
+  listing.print(output, formatOf(arguments.format));
+  output.finish();
+  return exitSuccess;
+}
+
+}  // namespace
+
+Verb tablesVerb() {
+  return {"tables",
+          "Lists the tables: entry bytes, entries, and the chips that have them.",
+          "With --chip, the tables of that chip with their addresses.",
+          {},
+          {Options::chipIfAny(), Options::variant(), Options::listFormat(), Options::output(),
+           Options::color()},
+          {"velmar tables", "velmar tables --chip BCM56470_A0 --format json"},
+          run};
+}
+
+}  // namespace Tool
