@@ -10,7 +10,7 @@
 int main(int count, char** words) {
   Tool::installSignalHandlers();
   try {
-    return Tool::runCommandLine(Tool::allVerbs(), count, words);
+    return Tool::runCommandLine(Tool::allVerbs(), {words + 1, words + count});
   } catch (const std::bad_alloc&) {
     std::fputs("velmar: out of memory; free some and try again\n", stderr);
   } catch (const std::exception& failure) {

@@ -4,7 +4,7 @@
 
 namespace Tool {
 
-/// Parses the command line and runs its verb. Returns the exit code; failures are thrown.
-int runCommandLine(const VerbList& verbs, int count, char** words);
+/// Runs the verb that the words after "velmar" name. Returns the exit code; failures are thrown.
+int runCommandLine(const VerbList& verbs, const std::vector<std::string>& words);
 
 }  // namespace Tool

@@ -90,7 +90,7 @@ std::string helpOf(const Verb& verb) {
   for (const Option& option : verb.options) {
     text += item(headingOf(option), meaningOf(option), headingWidth);
   }
-  text += item("-h, --help", "print this help", headingWidth);
+  text += item(headingOf(Options::help()), meaningOf(Options::help()), headingWidth);
   text += "\n" + paragraph(exitCodeText) + "\nExamples:\n";
   for (const char* example : verb.examples) text += formatText("  {}\n", example);
   return text;

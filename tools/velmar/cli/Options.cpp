@@ -141,6 +141,7 @@ Option quiet() {
 Option diagram() {
   return switchOption("--diagram", "draw the entry in rows of 32 bits", &Arguments::diagram);
 }
+Option help() { return switchOption("-h,--help", "print this help", &Arguments::help); }
 
 }  // namespace Options
 

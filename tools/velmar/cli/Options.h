@@ -35,6 +35,7 @@ struct Arguments {
   bool whole = false;
   bool quiet = false;
   bool diagram = false;
+  bool help = false;
 };
 
 /// What the shell can propose for a value.
@@ -97,6 +98,7 @@ Option base();
 Option whole();
 Option quiet();
 Option diagram();
+Option help();
 
 }  // namespace Options
 
