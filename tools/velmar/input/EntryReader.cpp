@@ -78,10 +78,10 @@ std::unique_ptr<EntryReader> openEntries(const std::string& path, const Layout& 
 std::unique_ptr<EntryReader> openEntries(std::unique_ptr<ByteStream> stream, const Layout& layout,
                                          const InputOptions& options) {
   const std::string format = options.format == "auto" ? detectFormat(*stream) : options.format;
-  if (format == "raw") return readRaw(std::move(stream), layout, options);
-  if (format == "xxd") return readXxd(std::move(stream), layout, options);
-  if (format == "json") return readJson(std::move(stream), layout, options);
-  return readHex(std::move(stream), layout, options);
+  if (format == "raw") return openRaw(std::move(stream), layout, options);
+  if (format == "xxd") return openXxd(std::move(stream), layout, options);
+  if (format == "json") return openJson(std::move(stream), layout, options);
+  return openHex(std::move(stream), layout, options);
 }
 
 }  // namespace Tool

@@ -43,13 +43,13 @@ std::unique_ptr<EntryReader> openEntries(std::unique_ptr<ByteStream> stream, con
                                          const InputOptions& options);
 
 // The formats, each in a file of its own.
-std::unique_ptr<EntryReader> readRaw(std::unique_ptr<ByteStream> stream, const Layout& layout,
+std::unique_ptr<EntryReader> openRaw(std::unique_ptr<ByteStream> stream, const Layout& layout,
                                      const InputOptions& options);
-std::unique_ptr<EntryReader> readHex(std::unique_ptr<ByteStream> stream, const Layout& layout,
+std::unique_ptr<EntryReader> openHex(std::unique_ptr<ByteStream> stream, const Layout& layout,
                                      const InputOptions& options);
-std::unique_ptr<EntryReader> readXxd(std::unique_ptr<ByteStream> stream, const Layout& layout,
+std::unique_ptr<EntryReader> openXxd(std::unique_ptr<ByteStream> stream, const Layout& layout,
                                      const InputOptions& options);
-std::unique_ptr<EntryReader> readJson(std::unique_ptr<ByteStream> stream, const Layout& layout,
+std::unique_ptr<EntryReader> openJson(std::unique_ptr<ByteStream> stream, const Layout& layout,
                                       const InputOptions& options);
 
 /// Bytes from one entry to the next; fails for a stride that is shorter than an entry.

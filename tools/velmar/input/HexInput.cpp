@@ -81,7 +81,7 @@ class HexReader : public EntryReader {
 
 }  // namespace
 
-std::unique_ptr<EntryReader> readHex(std::unique_ptr<ByteStream> stream, const Layout& layout,
+std::unique_ptr<EntryReader> openHex(std::unique_ptr<ByteStream> stream, const Layout& layout,
                                      const InputOptions& options) {
   return std::make_unique<HexReader>(std::move(stream), layout, options);
 }

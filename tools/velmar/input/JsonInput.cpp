@@ -60,17 +60,16 @@ std::vector<Assignment> assignmentsOf(const Layout& layout, const json& fields) 
   return assignments;
 }
 
-/// The whole entry as a number, of which only bits outside all fields may be set.
-std::vector<U8> outsideBits(const Layout& layout, const json& member) {
+/// The whole entry as a number, of which only reserved bits may be set.
+std::vector<U8> reservedBitsOf(const Layout& layout, const json& member) {
   const std::string text = member.is_string() ? member.get<std::string>() : "";
-  FieldPlace whole{};
+  FieldPlace whole = layout.wholeEntry();
   whole.field.accessor = "outsideFields";
-  whole.width = 8 * layout.entryBytes();
   const Value value = parseValue(whole, text);
   std::vector<U8> bits(layout.entryBytes());
   value.write(whole, bits.data(), layout.entryBytes());
   for (size_t i = 0; i < bits.size(); ++i) {
-    if ((bits[i] & ~layout.outsideMask()[i]) != 0) {
+    if ((bits[i] & ~layout.reservedMask()[i]) != 0) {
       fail("outsideFields: {} has bits inside fields; set the fields instead", text);
     }
   }
@@ -87,28 +86,28 @@ void checkSource(const Layout& layout, const json& object) {
   }
 }
 
-JsonInput::Part partOf(const Layout& layout, const json& object, U64 nextIndex) {
-  if (!object.contains("fields")) return {std::nullopt, assignmentsOf(layout, object), {}};
-  checkSource(layout, object);
-  JsonInput::Part part;
-  part.index = nextIndex;
-  for (const auto& [key, member] : object.items()) {
+JsonInput::Object objectOf(const Layout& layout, const json& members, U64 nextIndex) {
+  if (!members.contains("fields")) return {std::nullopt, assignmentsOf(layout, members), {}};
+  checkSource(layout, members);
+  JsonInput::Object object;
+  object.index = nextIndex;
+  for (const auto& [key, member] : members.items()) {
     if (key == "index") {
       if (!member.is_number_unsigned() || member.get<U64>() > 0xffffffff) {
         fail("index: not a number; give the index of the entry");
       }
-      part.index = member.get<U64>();
+      object.index = member.get<U64>();
     } else if (key == "fields") {
       if (!member.is_object()) fail("fields: not an object; give {{\"field\": value}}");
-      part.assignments = assignmentsOf(layout, member);
+      object.assignments = assignmentsOf(layout, member);
     } else if (key == "outsideFields") {
-      part.outside = outsideBits(layout, member);
+      object.reservedBits = reservedBitsOf(layout, member);
     } else if (key != "table" && key != "chip" && key != "variant" && key != "address" &&
                key != "accessType" && key != "block") {
       fail("unknown member {}; an entry has index, fields and outsideFields", inQuotes(key));
     }
   }
-  return part;
+  return object;
 }
 
 /// The words of the JSON library's message, without its codes.
@@ -124,9 +123,9 @@ class JsonReader : public EntryReader {
       : input_(std::move(stream), layout, first), builder_(layout) {}
 
   bool read(Entry& entry) override {
-    JsonInput::Part part;
-    if (!input_.next(part)) return false;
-    if (!part.index) {
+    JsonInput::Object object;
+    if (!input_.next(object)) return false;
+    if (!object.index) {
       fail(
           "{}:{}: an object without \"fields\" is no entry of a dump; give JSON such as decode "
           "--format json prints",
@@ -134,12 +133,12 @@ class JsonReader : public EntryReader {
     }
     builder_.startFromZero();
     try {
-      for (const Assignment& assignment : part.assignments) builder_.set(assignment);
+      for (const Assignment& assignment : object.assignments) builder_.set(assignment);
     } catch (const Failure& failure) {
       fail("{}:{}: {}", input_.name(), input_.line(), failure.what());
     }
-    builder_.setOutside(part.outside);
-    entry = {*part.index, builder_.bytes().data()};
+    builder_.setReservedBits(object.reservedBits);
+    entry = {*object.index, builder_.bytes().data()};
     return true;
   }
 
@@ -153,23 +152,23 @@ class JsonReader : public EntryReader {
 JsonInput::JsonInput(std::unique_ptr<ByteStream> stream, const Layout& layout, U64 first)
     : stream_(std::move(stream)), text_(*stream_), layout_(layout), index_(first) {}
 
-bool JsonInput::next(Part& part) {
+bool JsonInput::next(Object& object) {
   std::string text;
   for (;;) {
-    const JsonText::Part kind = text_.next(text);
-    if (kind == JsonText::Part::end) {
-      if (!hasParts_) fail("{}: no entry; check the file", name());
+    const JsonText::Chunk kind = text_.next(text);
+    if (kind == JsonText::Chunk::end) {
+      if (!isStarted_) fail("{}: no entry; check the file", name());
       return false;
     }
-    hasParts_ = true;
+    isStarted_ = true;
     try {
-      const json object = json::parse(text);
-      if (kind == JsonText::Part::head) {
-        checkSource(layout_, object);
+      const json members = json::parse(text);
+      if (kind == JsonText::Chunk::head) {
+        checkSource(layout_, members);
         continue;
       }
-      part = partOf(layout_, object, index_);
-      if (part.index) index_ = *part.index + 1;
+      object = objectOf(layout_, members, index_);
+      if (object.index) index_ = *object.index + 1;
       return true;
     } catch (const json::exception& error) {
       fail("{}:{}: {}; check the JSON", name(), line(), reasonOf(error));
@@ -179,7 +178,7 @@ bool JsonInput::next(Part& part) {
   }
 }
 
-std::unique_ptr<EntryReader> readJson(std::unique_ptr<ByteStream> stream, const Layout& layout,
+std::unique_ptr<EntryReader> openJson(std::unique_ptr<ByteStream> stream, const Layout& layout,
                                       const InputOptions& options) {
   return std::make_unique<JsonReader>(std::move(stream), layout, options.first);
 }

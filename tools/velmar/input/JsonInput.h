@@ -17,14 +17,14 @@ class JsonInput {
   JsonInput(std::unique_ptr<ByteStream> stream, const Layout& layout, U64 first);
 
   /// What one object says of an entry.
-  struct Part {
+  struct Object {
     std::optional<U64> index;  ///< absent for a plain object of values
     std::vector<Assignment> assignments;
-    std::vector<U8> outside;  ///< bits outside all fields; empty: not said
+    std::vector<U8> reservedBits;  ///< empty where they are not given
   };
 
   /// Reads the next object; false at the end.
-  bool next(Part& part);
+  bool next(Object& object);
   const std::string& name() const { return stream_->name(); }
   U64 line() const { return text_.line(); }
 
@@ -33,7 +33,7 @@ class JsonInput {
   JsonText text_;
   const Layout& layout_;
   U64 index_;
-  bool hasParts_ = false;
+  bool isStarted_ = false;
 };
 
 }  // namespace Tool

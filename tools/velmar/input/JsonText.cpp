@@ -30,10 +30,10 @@ void JsonText::fail(const char* what) const {
              what);
 }
 
-JsonText::Part JsonText::next(std::string& text) {
+JsonText::Chunk JsonText::next(std::string& text) {
   for (;;) {
     skipBlanks();
-    partLine_ = line_;
+    chunkLine_ = line_;
     const int letter = peek();
     if (state_ == State::tail) {
       if (letter < 0) fail("the document ends early");
@@ -46,11 +46,11 @@ JsonText::Part JsonText::next(std::string& text) {
         text += '}';
       }
       state_ = State::outside;
-      return Part::head;
+      return Chunk::head;
     }
     if (letter < 0) {
       if (state_ != State::outside) fail("the array ends early");
-      return Part::end;
+      return Chunk::end;
     }
     if (state_ != State::outside && letter == ']') {
       take();
@@ -73,11 +73,11 @@ JsonText::Part JsonText::next(std::string& text) {
     text = take();
     if (!readMembers(text)) {
       needsComma_ = state_ != State::outside;
-      return Part::entry;
+      return Chunk::entry;
     }
     if (state_ != State::outside) fail("entries inside an entry");
     state_ = State::entries;
-    return Part::head;
+    return Chunk::head;
   }
 }
 
@@ -88,7 +88,7 @@ bool JsonText::readMembers(std::string& text) {
   while (depth > 0) {
     const int letter = peek();
     if (letter < 0) fail("an object ends early");
-    if (text.size() > longestPart) fail("an entry has more than 1 MiB");
+    if (text.size() > longestChunk) fail("an entry has more than 1 MiB");
     if (letter == '"') {
       key = text.size();
       readString(text);
@@ -117,7 +117,7 @@ void JsonText::readString(std::string& text) {
   text += take();
   for (;;) {
     if (peek() < 0) fail("a string ends early");
-    if (text.size() > longestPart) fail("an entry has more than 1 MiB");
+    if (text.size() > longestChunk) fail("an entry has more than 1 MiB");
     const char letter = take();
     text += letter;
     if (letter == '"') return;

@@ -7,31 +7,31 @@
 namespace Tool {
 
 /// Cuts a stream of JSON into the objects that stand for entries, so that a document of any size is
-/// read in bounded memory. It takes objects one behind the other, arrays of objects, and documents
+/// read in bounded memory. It takes one object after the other, arrays of objects, and documents
 /// that hold an array "entries".
 class JsonText {
  public:
   explicit JsonText(ByteStream& stream) : stream_(stream) {}
 
-  enum class Part {
+  enum class Chunk {
     entry,  ///< an object
     head,   ///< an object with the members that a document has besides its entries
     end
   };
-  /// Reads the next part.
-  Part next(std::string& text);
-  /// Line on which the last part began.
-  U64 line() const { return partLine_; }
+  /// Reads the next chunk.
+  Chunk next(std::string& text);
+  /// Line on which the last chunk began.
+  U64 line() const { return chunkLine_; }
 
  private:
-  static constexpr size_t longestPart = 1U << 20;
+  static constexpr size_t longestChunk = 1U << 20;
 
   enum class State { outside, array, entries, tail };
 
   int peek();
   char take();
   void skipBlanks();
-  /// Reads the members of an object up to its end; true where it stops behind `"entries": [`.
+  /// Reads the members of an object up to its end; true where it stops after `"entries": [`.
   bool readMembers(std::string& text);
   void readString(std::string& text);
   [[noreturn]] void fail(const char* what) const;
@@ -40,7 +40,7 @@ class JsonText {
   State state_ = State::outside;
   bool needsComma_ = false;
   U64 line_ = 1;
-  U64 partLine_ = 1;
+  U64 chunkLine_ = 1;
 };
 
 }  // namespace Tool

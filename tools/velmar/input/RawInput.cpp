@@ -54,7 +54,7 @@ class RawReader : public EntryReader {
 
 }  // namespace
 
-std::unique_ptr<EntryReader> readRaw(std::unique_ptr<ByteStream> stream, const Layout& layout,
+std::unique_ptr<EntryReader> openRaw(std::unique_ptr<ByteStream> stream, const Layout& layout,
                                      const InputOptions& options) {
   return std::make_unique<RawReader>(std::move(stream), layout, options);
 }

@@ -165,7 +165,7 @@ class XxdReader : public EntryReader {
 
 }  // namespace
 
-std::unique_ptr<EntryReader> readXxd(std::unique_ptr<ByteStream> stream, const Layout& layout,
+std::unique_ptr<EntryReader> openXxd(std::unique_ptr<ByteStream> stream, const Layout& layout,
                                      const InputOptions& options) {
   return std::make_unique<XxdReader>(std::move(stream), layout, options);
 }

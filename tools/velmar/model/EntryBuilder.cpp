@@ -39,8 +39,8 @@ void EntryBuilder::checkAgainst(const FieldPlace& earlier, const Assignment& ass
        earlier.name(), assignment.place.name());
 }
 
-void EntryBuilder::setOutside(const std::vector<U8>& bits) {
-  const std::vector<U8>& mask = layout_.outsideMask();
+void EntryBuilder::setReservedBits(const std::vector<U8>& bits) {
+  const std::vector<U8>& mask = layout_.reservedMask();
   for (size_t i = 0; i < bits.size(); ++i) {
     bytes_[i] = static_cast<U8>((bytes_[i] & ~mask[i]) | bits[i]);
   }

@@ -26,8 +26,8 @@ class EntryBuilder {
   void forget() { set_.clear(); }
   /// Sets a field; fails where a field set before shares bits with it and has another value there.
   void set(const Assignment& assignment);
-  /// Sets the bits outside all fields.
-  void setOutside(const std::vector<U8>& bits);
+  /// Sets the bits outside all fields; `bits` has no others, and may be empty.
+  void setReservedBits(const std::vector<U8>& bits);
 
   const std::vector<U8>& bytes() const { return bytes_; }
 

@@ -22,10 +22,10 @@ Layout::Layout(const Catalogue::Table& table, const Catalogue::Chip& chip, U8 va
     const Catalogue::BitRange range = table.range(i, chip.number);
     if (range.width != 0) fields_.push_back({table.field(i), range.offset, range.width});
   }
-  outsideMask_.resize(entryBytes());
+  reservedMask_.resize(entryBytes());
   for (U32 bit = 0; bit < 8 * entryBytes(); ++bit) {
     if (table.isFieldBit(bit, chip.number)) continue;
-    outsideMask_[bit / 8] = static_cast<U8>(outsideMask_[bit / 8] | 1U << bit % 8);
+    reservedMask_[bit / 8] = static_cast<U8>(reservedMask_[bit / 8] | 1U << bit % 8);
   }
 }
 
@@ -57,11 +57,17 @@ std::vector<FieldPlace> Layout::findAll(std::string_view names) const {
   return places;
 }
 
-bool Layout::hasBitsOutside(const U8* entry) const {
-  for (size_t i = 0; i < outsideMask_.size(); ++i) {
-    if ((entry[i] & outsideMask_[i]) != 0) return true;
+bool Layout::hasReservedBits(const U8* entry) const {
+  for (size_t i = 0; i < reservedMask_.size(); ++i) {
+    if ((entry[i] & reservedMask_[i]) != 0) return true;
   }
   return false;
+}
+
+FieldPlace Layout::wholeEntry() const {
+  FieldPlace whole{};
+  whole.width = 8 * entryBytes();
+  return whole;
 }
 
 std::string blockText(U32 block) { return block == 1 ? "1 (ingress)" : "2 (egress)"; }

@@ -55,9 +55,11 @@ class Layout {
   /// The fields of a comma-separated list of names.
   std::vector<FieldPlace> findAll(std::string_view names) const;
 
-  /// One bit for each bit of an entry: set where no field of the chip lies.
-  const std::vector<U8>& outsideMask() const { return outsideMask_; }
-  bool hasBitsOutside(const U8* entry) const;
+  /// The reserved bits of an entry, those outside all fields of the chip, as its set bits.
+  const std::vector<U8>& reservedMask() const { return reservedMask_; }
+  bool hasReservedBits(const U8* entry) const;
+  /// All bits of an entry, as if they were one field.
+  FieldPlace wholeEntry() const;
 
  private:
   Catalogue::Table table_;
@@ -65,7 +67,7 @@ class Layout {
   U8 variant_;
   Catalogue::Geometry geometry_;
   std::vector<FieldPlace> fields_;
-  std::vector<U8> outsideMask_;
+  std::vector<U8> reservedMask_;
 };
 
 /// "1 (ingress)" or "2 (egress)".

@@ -3,36 +3,35 @@
 #include <memory>
 
 #include "model/Entry.h"
-#include "model/Value.h"
-#include "output/Listing.h"
+#include "model/Layout.h"
+#include "output/Format.h"
+#include "output/Output.h"
 
 namespace Tool {
 
-/// Writes decoded entries in one of the formats.
+/// Writes entries in one of the formats. What comes before the first entry is written when a writer
+/// is made.
 class EntryWriter {
  public:
   virtual ~EntryWriter() = default;
-  /// What stands before the first entry.
-  virtual void begin() = 0;
   virtual void write(const Entry& entry) = 0;
-  /// What stands behind the last one.
-  virtual void end() = 0;
+  /// Writes what comes after the last entry.
+  virtual void end() {}
 };
 
-/// A writer for the given fields of a layout, which must outlive it.
+/// Writes the given fields of entries, as a table for people, JSON, JSON lines or CSV. The layout
+/// must outlive the writer.
 std::unique_ptr<EntryWriter> makeEntryWriter(Output& output, const Layout& layout,
                                              std::vector<FieldPlace> fields, Format format);
+/// Writes the bytes of entries: hex, words or raw.
+std::unique_ptr<EntryWriter> makeBytesWriter(Output& output, const Layout& layout, Format format,
+                                             bool withIndex);
 
-/// Whether a decimal number of so many bits is exact in every JSON reader.
-constexpr bool isExactInJson(U32 bits) { return bits <= 53; }
-
-/// A value for spreadsheets: decimal where that is exact, bitmaps as ports.
-std::string plainText(const FieldPlace& place, const Value& value);
-
-/// The bits of an entry outside all fields, as a hexadecimal number of the whole entry.
-std::string bitsOutside(const Layout& layout, const U8* entry);
-/// An entry, or part of it, as one hexadecimal number without leading zeros.
-std::string entryAsHex(const std::vector<U8>& entry);
+// The larger ones, each in a file of its own.
+std::unique_ptr<EntryWriter> makeTableWriter(Output& output, const Layout& layout,
+                                             std::vector<FieldPlace> fields);
+std::unique_ptr<EntryWriter> makeJsonWriter(Output& output, const Layout& layout,
+                                            const std::vector<FieldPlace>& fields, bool asLines);
 
 /// The line that names an entry, such as "VlanEntry 100  address 0x0c7c0064  access 17  block 1".
 void writeEntryHead(Output& output, const Layout& layout, U64 index);

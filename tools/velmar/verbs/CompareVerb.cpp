@@ -16,9 +16,9 @@ struct Pair {
   Geometry after;
 };
 
-class Comparison {
+class ChipComparison {
  public:
-  Comparison(const Catalogue::Chip& before, const Catalogue::Chip& after, U8 variant)
+  ChipComparison(const Catalogue::Chip& before, const Catalogue::Chip& after, U8 variant)
       : before_(before),
         after_(after),
         variant_(variant),
@@ -119,7 +119,7 @@ int run(const Arguments& arguments) {
   }
   const Catalogue::Chip before = findChip(arguments.chips[0]);
   const Catalogue::Chip after = findChip(arguments.chips[1]);
-  Comparison comparison(before, after, variantOf(arguments));
+  ChipComparison comparison(before, after, variantOf(arguments));
   if (arguments.table.empty()) {
     for (U32 i = 0; i < Catalogue::tableCount(); ++i) comparison.compare(Catalogue::table(i));
   } else {

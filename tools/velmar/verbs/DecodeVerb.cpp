@@ -6,6 +6,7 @@
 #include "model/Value.h"
 #include "output/EntryWriter.h"
 #include "output/Progress.h"
+#include "output/RowWriter.h"
 #include "verbs/Target.h"
 #include "verbs/Verbs.h"
 
@@ -118,10 +119,10 @@ class Walk {
 };
 
 int decode(const Arguments& arguments, const Layout& layout, Output& output) {
-  const auto writer =
-      makeEntryWriter(output, layout, fieldsOf(arguments, layout), formatOf(arguments.format));
+  std::vector<FieldPlace> fields = fieldsOf(arguments, layout);
   Walk walk(arguments, layout, output);
-  writer->begin();
+  const auto writer =
+      makeEntryWriter(output, layout, std::move(fields), formatOf(arguments.format));
   for (Entry entry; walk.next(entry); output.flushIfLarge()) writer->write(entry);
   writer->end();
   output.finish();
@@ -129,17 +130,17 @@ int decode(const Arguments& arguments, const Layout& layout, Output& output) {
   return exitSuccess;
 }
 
-/// The set bits of an entry outside all fields, as ranges such as "127:96".
-std::vector<std::string> strayBits(const Layout& layout, const U8* bytes) {
+/// The reserved bits that are set in an entry, as ranges such as "127:96".
+std::vector<std::string> setReservedBits(const Layout& layout, const U8* bytes) {
   std::vector<std::string> ranges;
-  const auto isStray = [&](U32 bit) {
-    return (layout.outsideMask()[bit / 8] & bytes[bit / 8] & 1U << bit % 8) != 0;
+  const auto isSet = [&](U32 bit) {
+    return (layout.reservedMask()[bit / 8] & bytes[bit / 8] & 1U << bit % 8) != 0;
   };
   const U32 bits = 8 * layout.entryBytes();
   for (U32 bit = 0; bit < bits; ++bit) {
-    if (!isStray(bit)) continue;
+    if (!isSet(bit)) continue;
     const U32 first = bit;
-    while (bit + 1 < bits && isStray(bit + 1)) ++bit;
+    while (bit + 1 < bits && isSet(bit + 1)) ++bit;
     ranges.push_back(first == bit ? formatText("{}", bit) : formatText("{}:{}", bit, first));
   }
   return ranges;
@@ -149,31 +150,21 @@ std::vector<std::string> strayBits(const Layout& layout, const U8* bytes) {
 class Findings {
  public:
   Findings(Output& output, const Layout& layout, Format format)
-      : output_(output), layout_(layout), format_(format) {
-    if (format_ == Format::csv) output_.write("index,beyondEnd,bits\n");
-    if (format_ == Format::json) output_.write("[");
-  }
+      : output_(output),
+        layout_(layout),
+        isTable_(format == Format::table),
+        rows_(output, format, {"index", "beyondEnd", "bits"}) {}
 
   void examine(const Entry& entry) {
-    const std::vector<std::string> bits = strayBits(layout_, entry.bytes);
+    const std::vector<std::string> bits = setReservedBits(layout_, entry.bytes);
     const bool beyond = entry.index >= layout_.indexCount();
     if (bits.empty() && !beyond) return;
-    if (format_ == Format::table) {
-      printLine(entry.index, beyond, bits);
-    } else if (format_ == Format::csv) {
-      output_.print("{},{},{}\n", entry.index, beyond, join(bits, " "));
-    } else {
-      if (format_ == Format::json) output_.write(any_ ? ",\n  " : "\n  ");
-      output_.print(R"({{"index":{},"beyondEnd":{},"bits":{}}})", entry.index, beyond,
-                    Cell(bits).json());
-      if (format_ == Format::jsonl) output_.write("\n");
-    }
     any_ = true;
+    if (isTable_) return printLine(entry.index, beyond, bits);
+    rows_.write({entry.index, Cell(beyond).shownAs(beyond ? "true" : "false"), bits});
   }
 
-  void end() {
-    if (format_ == Format::json) output_.write(any_ ? "\n]\n" : "]\n");
-  }
+  void end() { rows_.end(); }
   bool any() const { return any_; }
 
  private:
@@ -187,7 +178,8 @@ class Findings {
 
   Output& output_;
   const Layout& layout_;
-  Format format_;
+  bool isTable_;
+  RowWriter rows_;
   bool any_ = false;
 };
 

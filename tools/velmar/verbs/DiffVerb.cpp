@@ -6,6 +6,8 @@
 #include "model/Value.h"
 #include "output/EntryWriter.h"
 #include "output/Progress.h"
+#include "output/RowWriter.h"
+#include "output/ValueText.h"
 #include "verbs/Target.h"
 #include "verbs/Verbs.h"
 
@@ -38,13 +40,18 @@ class Side {
   bool hasEntry_ = false;
 };
 
-/// A field whose values differ; the bits outside all fields are reported like one.
+/// A value in the forms in which differences are printed.
+struct ValueForms {
+  std::string text;   ///< for people
+  std::string plain;  ///< for spreadsheets
+  std::string json;
+};
+
+/// A field whose values differ; the reserved bits are reported like one.
 struct Change {
   std::string name;
   std::string bits;
-  std::string oldText, newText;
-  std::string oldPlain, newPlain;  ///< for spreadsheets
-  std::string oldJson, newJson;
+  ValueForms old, now;
   std::string note;  ///< for a bitmap the ports that came and went
 };
 
@@ -52,19 +59,6 @@ std::string valueText(const FieldPlace& place, const Value& value) {
   if (place.isBitmap()) return value.portRanges();
   const std::optional<U64> number = value.number();
   return number ? formatText("{} ({})", value.hex(), *number) : value.hex();
-}
-
-std::string valueJson(const FieldPlace& place, const Value& value) {
-  std::string json = formatText(R"({{"hex":"{}")", value.hex());
-  if (place.isBitmap()) {
-    const Oru::PerUnitBitmap ports = value.ports();
-    std::vector<U32> list;
-    for (const U32 port : ports) list.push_back(port);
-    json += formatText(R"(,"ports":[{}])", joinNumbers(list, ","));
-  } else if (isExactInJson(place.width)) {
-    json += formatText(R"(,"decimal":{})", *value.number());
-  }
-  return json + "}";
 }
 
 /// The ports of one set that another lacks.
@@ -78,9 +72,9 @@ std::string portsWithout(const Value& value, const Value& other) {
   return rest.ranges().c_str();
 }
 
-class Comparison {
+class EntryComparison {
  public:
-  Comparison(const Arguments& arguments, const Layout& layout)
+  EntryComparison(const Arguments& arguments, const Layout& layout)
       : layout_(layout),
         fields_(fieldsOf(arguments, layout)),
         comparesAll_(arguments.fields.empty()) {}
@@ -93,11 +87,14 @@ class Comparison {
       const Value old = Value::read(place, before, size);
       const Value now = Value::read(place, after, size);
       if (old == now) continue;
-      changes.push_back({place.name(), place.bits(), valueText(place, old), valueText(place, now),
-                         plainText(place, old), plainText(place, now), valueJson(place, old),
-                         valueJson(place, now), place.isBitmap() ? portNote(old, now) : ""});
+      const auto forms = [&](const Value& value, const U8* entry) -> ValueForms {
+        return {valueText(place, value), plainText(place, value), valueJson(place, entry, size)};
+      };
+      changes.push_back({place.name(), place.bits(), forms(old, before), forms(now, after),
+                         place.isBitmap() ? portNote(old, now) : ""});
     }
-    if (comparesAll_) addOutside(changes, before, after);
+    if (comparesAll_)
+      addReserved(changes, reservedBits(layout_, before), reservedBits(layout_, after));
     return changes;
   }
 
@@ -111,13 +108,13 @@ class Comparison {
     return note;
   }
 
-  void addOutside(std::vector<Change>& changes, const U8* before, const U8* after) const {
-    const std::string old = bitsOutside(layout_, before);
-    const std::string now = bitsOutside(layout_, after);
+  static void addReserved(std::vector<Change>& changes, const std::string& old,
+                          const std::string& now) {
     if (old == now) return;
-    changes.push_back({"outsideFields", "", old, now, old, now,
-                       formatText(R"({{"hex":"{}"}})", old), formatText(R"({{"hex":"{}"}})", now),
-                       ""});
+    const auto forms = [](const std::string& hex) -> ValueForms {
+      return {hex, hex, formatText(R"({{"hex":"{}"}})", hex)};
+    };
+    changes.push_back({"outsideFields", "", forms(old), forms(now), ""});
   }
 
   const Layout& layout_;
@@ -125,32 +122,29 @@ class Comparison {
   bool comparesAll_;
 };
 
-/// Prints differences in one of the formats.
+/// Prints differences in one of the formats: as CSV a row a field, otherwise an entry.
 class Report {
  public:
   Report(Output& output, const Layout& layout, Format format)
-      : output_(output), layout_(layout), format_(format) {
-    if (format_ == Format::csv) output_.write("index,change,field,old,new\n");
-    if (format_ == Format::json) output_.write("[");
-  }
+      : output_(output),
+        layout_(layout),
+        format_(format),
+        rows_(output, format, columns(format), {"[", "]", ""}) {}
 
   void changed(U64 index, const std::vector<Change>& changes) {
     if (format_ == Format::table) return changedTable(index, changes);
     if (format_ == Format::csv) {
       for (const Change& change : changes) {
-        output_.print("{},changed,{},{},{}\n", index, change.name, csvField(change.oldPlain),
-                      csvField(change.newPlain));
+        rows_.write({index, "changed", change.name, change.old.plain, change.now.plain});
       }
       return;
     }
-    beginObject(index, "changed");
-    output_.write(R"(,"fields":{)");
+    std::string fields;
     for (const Change& change : changes) {
-      output_.print(R"({}"{}":{{"old":{},"new":{}}})", &change == &changes.front() ? "" : ",",
-                    change.name, change.oldJson, change.newJson);
+      fields += formatText(R"({}"{}":{{"old":{},"new":{}}})", fields.empty() ? '{' : ',',
+                           change.name, change.old.json, change.now.json);
     }
-    output_.write("}");
-    endObject();
+    writeObject(index, "changed", Cell::ofJson(fields + "}"));
   }
 
   /// An entry that one of the dumps does not have.
@@ -159,45 +153,47 @@ class Report {
       writeEntryHead(output_, layout_, index);
       output_.print("  {}\n", change);
     } else if (format_ == Format::csv) {
-      output_.print("{},{},,,\n", index, change);
+      rows_.write({index, change});
     } else {
-      beginObject(index, change);
-      endObject();
+      writeObject(index, change);
     }
   }
 
   void end(U64 differing, U64 compared) {
-    if (format_ == Format::json) output_.write(isFirst_ ? "]\n" : "\n]\n");
+    rows_.end();
     if (format_ == Format::table && differing != 0) {
       output_.print("{} of {} entries differ\n", differing, compared);
     }
   }
 
  private:
+  static std::vector<std::string> columns(Format format) {
+    if (format == Format::csv) return {"index", "change", "field", "old", "new"};
+    return {"table", "chip", "variant", "index", "change", "fields"};
+  }
+
   void changedTable(U64 index, const std::vector<Change>& changes) {
     writeEntryHead(output_, layout_, index);
     for (const Change& change : changes) {
       output_.print("  {}{}{}  ", change.name, change.bits.empty() ? "" : " ",
                     change.bits.empty() ? "" : "[" + change.bits + "]");
-      output_.write(change.oldText, Style::removed);
+      output_.write(change.old.text, Style::removed);
       output_.write(" -> ");
-      output_.write(change.newText, Style::added);
+      output_.write(change.now.text, Style::added);
       output_.print("{}{}\n", change.note.empty() ? "" : " ", change.note);
     }
   }
 
-  void beginObject(U64 index, const char* change) {
-    if (format_ == Format::json) output_.write(isFirst_ ? "\n" : ",\n");
-    isFirst_ = false;
-    output_.print(R"({{"table":"{}","chip":"{}","variant":{},"index":{},"change":"{}")",
-                  layout_.name(), layout_.chip().name, layout_.variant(), index, change);
+  template <class... Fields>
+  void writeObject(U64 index, const char* change, Fields... fields) {
+    rows_.write({layout_.name(), layout_.chip().name, U32{layout_.variant()}, index, change,
+                 std::move(fields)...});
   }
-  void endObject() { output_.write(format_ == Format::json ? "}" : "}\n"); }
 
   Output& output_;
   const Layout& layout_;
   Format format_;
-  bool isFirst_ = true;
+  RowWriter rows_;
 };
 
 constexpr const char* onlyInOld = "only in OLD";
@@ -269,7 +265,7 @@ class Diff {
   bool quiet_;
   Side old_;
   Side new_;
-  Comparison comparison_;
+  EntryComparison comparison_;
   Output output_;
   Report report_;
   IndexSet selected_;

@@ -12,62 +12,12 @@
 namespace Tool {
 namespace {
 
-/// Writes encoded entries as bytes: hex text or raw.
-class BytesWriter : public EntryWriter {
- public:
-  BytesWriter(Output& output, const Layout& layout, Format format, bool withIndex)
-      : output_(output), layout_(layout), format_(format), withIndex_(withIndex) {
-    if (format_ == Format::raw && output_.isTerminal()) {
-      fail("raw bytes do not go to a terminal; give -o FILE, or pipe them into something");
-    }
-  }
-
-  void begin() override {}
-  void write(const Entry& entry) override {
-    const U8* bytes = entry.bytes;
-    const U32 size = layout_.entryBytes();
-    if (format_ == Format::raw) {
-      checkPlace(entry.index);
-      return output_.write({reinterpret_cast<const char*>(bytes), size});
-    }
-    if (withIndex_) output_.print("{}: ", entry.index);
-    const U32 group = format_ == Format::words ? 4 : 1;
-    for (U32 at = 0; at < size; at += group) {
-      if (at != 0) output_.write(" ");
-      for (U32 i = 0; i < group; ++i) output_.print("{:02x}", bytes[at + group - 1 - i]);
-    }
-    output_.write("\n");
-  }
-  void end() override {}
-
- private:
-  /// Raw bytes carry no index: an entry's place is the only thing that tells it.
-  void checkPlace(U64 index) {
-    if (started_ && index != next_) {
-      fail(
-          "entry {} is to follow entry {}, and raw bytes have no place for an index; give --whole "
-          "or --format hex",
-          index, next_ - 1);
-    }
-    started_ = true;
-    next_ = index + 1;
-  }
-
-  Output& output_;
-  const Layout& layout_;
-  Format format_;
-  bool withIndex_;
-  bool started_ = false;
-  U64 next_ = 0;
-};
-
 /// Completes what is written to the whole table: entries that are not given are zero.
 class WholeWriter : public EntryWriter {
  public:
   WholeWriter(std::unique_ptr<EntryWriter> writer, const Layout& layout)
       : writer_(std::move(writer)), layout_(layout), zeros_(layout.entryBytes()) {}
 
-  void begin() override { writer_->begin(); }
   void write(const Entry& entry) override {
     if (entry.index >= layout_.indexCount()) {
       fail("entry {} is beyond the {} of {} on {}; leave out --whole, or check table and chip",
@@ -114,8 +64,8 @@ class Values {
   const std::vector<Assignment>& common() const { return common_; }
   bool hasEntries() const { return document_ != nullptr; }
   /// The next entry of the document; null at its end.
-  const JsonInput::Part* part() const { return hasPart_ ? &part_ : nullptr; }
-  void takePart() { hasPart_ = document_->next(part_); }
+  const JsonInput::Object* object() const { return hasObject_ ? &object_ : nullptr; }
+  void takeObject() { hasObject_ = document_->next(object_); }
   std::string place() const { return formatText("{}:{}", document_->name(), document_->line()); }
 
  private:
@@ -126,11 +76,11 @@ class Values {
     }
     auto input =
         std::make_unique<JsonInput>(std::make_unique<ByteStream>(file, nullptr), layout_, 0);
-    JsonInput::Part part;
-    if (!input->next(part)) return;
-    if (!part.index) {
-      common_.insert(common_.end(), part.assignments.begin(), part.assignments.end());
-      if (input->next(part)) {
+    JsonInput::Object object;
+    if (!input->next(object)) return;
+    if (!object.index) {
+      common_.insert(common_.end(), object.assignments.begin(), object.assignments.end());
+      if (input->next(object)) {
         fail("{}:{}: a second object; give one object of values, or the JSON of decode",
              input->name(), input->line());
       }
@@ -138,16 +88,16 @@ class Values {
     }
     if (document_ != nullptr) fail("{}: a second file of entries; give one", input->name());
     document_ = std::move(input);
-    part_ = std::move(part);
-    hasPart_ = true;
+    object_ = std::move(object);
+    hasObject_ = true;
   }
 
   const Layout& layout_;
   std::vector<Assignment> common_;
   std::unique_ptr<JsonInput> document_;
-  JsonInput::Part part_;
-  bool hasPart_ = false;
-  bool readsInput_;  ///< standard input has its use
+  JsonInput::Object object_;
+  bool hasObject_ = false;
+  bool readsInput_;  ///< standard input is taken
 };
 
 class Encoder {
@@ -163,7 +113,7 @@ class Encoder {
     const bool isBytes = format == Format::hex || format == Format::words || format == Format::raw;
     const bool withIndex =
         values_.hasEntries() || !arguments.base.empty() || !selected_.isAll() || arguments.whole;
-    writer_ = isBytes ? std::make_unique<BytesWriter>(output, layout, format, withIndex)
+    writer_ = isBytes ? makeBytesWriter(output, layout, format, withIndex)
                       : makeEntryWriter(output, layout, layout.fields(), format);
     if (arguments.whole) {
       writer_ = std::make_unique<WholeWriter>(std::move(writer_), layout);
@@ -171,7 +121,6 @@ class Encoder {
   }
 
   void run() {
-    writer_->begin();
     if (!arguments_.base.empty()) {
       changeBase();
     } else if (values_.hasEntries()) {
@@ -197,14 +146,14 @@ class Encoder {
     changed_ = true;
   }
 
-  void setPart() {
+  void setObject() {
     try {
       builder_.forget();
-      for (const Assignment& assignment : values_.part()->assignments) builder_.set(assignment);
+      for (const Assignment& assignment : values_.object()->assignments) builder_.set(assignment);
     } catch (const Failure& failure) {
       fail("{}: {}", values_.place(), failure.what());
     }
-    builder_.setOutside(values_.part()->outside);
+    builder_.setReservedBits(values_.object()->reservedBits);
   }
 
   void makeSelected() {
@@ -222,11 +171,11 @@ class Encoder {
   }
 
   void makeFromDocument() {
-    for (; values_.part() != nullptr; values_.takePart()) {
+    for (; values_.object() != nullptr; values_.takeObject()) {
       builder_.startFromZero();
-      setPart();
-      setCommon(*values_.part()->index);
-      write(*values_.part()->index);
+      setObject();
+      setCommon(*values_.object()->index);
+      write(*values_.object()->index);
     }
   }
 
@@ -242,23 +191,23 @@ class Encoder {
       if (isOpen) {
         fail("{}: more than one entry; say with --index which to change", arguments_.base);
       }
-      setPartsOf(index);
+      setObjectsOf(index);
       setCommon(index);
       write(index);
     }
-    if (values_.part() != nullptr) {
+    if (values_.object() != nullptr) {
       fail("{}: entry {} is not in {}; give entries of the base only, in ascending order",
-           values_.place(), *values_.part()->index, arguments_.base);
+           values_.place(), *values_.object()->index, arguments_.base);
     }
     if (!changed_ && !selected_.isAll()) {
       fail("{}: no entry has an index in {}; check --index", arguments_.base, arguments_.index);
     }
   }
 
-  void setPartsOf(U64 index) {
-    while (values_.part() != nullptr && *values_.part()->index == index) {
-      setPart();
-      values_.takePart();
+  void setObjectsOf(U64 index) {
+    while (values_.object() != nullptr && *values_.object()->index == index) {
+      setObject();
+      values_.takeObject();
     }
   }
 

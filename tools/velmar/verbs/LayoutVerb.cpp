@@ -32,17 +32,16 @@ std::string addressRule(const Layout& layout) {
                                            : std::string(" + index"));
 }
 
-/// The geometry as a listing of one row, so that it prints like any other.
-Listing geometryListing(const Layout& layout) {
+std::string geometryJson(const Layout& layout) {
   const Catalogue::Geometry& geometry = layout.geometry();
-  Listing listing({"table", "chip", "variant", "variants", "entryBytes",
-                   layout.isRegisterArray() ? "elements" : "entries", "identifiers", "base",
-                   "addressRule", "accessType", "block"});
-  listing.add({layout.name(), layout.chip().name, U32{layout.variant()},
-               geometry.variants == Catalogue::Variants::any ? "any" : "0", layout.entryBytes(),
-               layout.indexCount(), geometry.identifiers, addressText(geometry.base),
-               addressRule(layout), geometry.accessType, geometry.block});
-  return listing;
+  return jsonObject(
+      {"table", "chip", "variant", "variants", "entryBytes",
+       layout.isRegisterArray() ? "elements" : "entries", "identifiers", "base", "addressRule",
+       "accessType", "block"},
+      {layout.name(), layout.chip().name, U32{layout.variant()},
+       geometry.variants == Catalogue::Variants::any ? "any" : "0", layout.entryBytes(),
+       layout.indexCount(), geometry.identifiers, addressText(geometry.base), addressRule(layout),
+       geometry.accessType, geometry.block});
 }
 
 const char* pluralEnd(U32 count) { return count == 1 ? "" : "s"; }
@@ -73,20 +72,14 @@ int run(const Arguments& arguments) {
   if (arguments.diagram && format != Format::table) {
     fail("--diagram is drawn as text only; leave out --format {}", arguments.format);
   }
-  const Listing fields = fieldListing(layout);
   Output output(arguments.output, arguments.color);
-  if (format == Format::table) {
-    printHead(output, layout);
-    if (arguments.diagram) {
-      drawDiagram(output, layout);
-    } else {
-      fields.print(output, format);
-    }
-  } else if (format == Format::json) {
-    output.print("{{\"geometry\": {},\n \"fields\": {}}}\n", geometryListing(layout).json(0),
-                 fields.json());
+  if (format == Format::table) printHead(output, layout);
+  if (arguments.diagram) {
+    drawDiagram(output, layout);
   } else {
-    fields.print(output, format);
+    const std::string head =
+        formatText("{{\"geometry\": {},\n \"fields\": [", geometryJson(layout));
+    fieldListing(layout).print(output, format, {head, "]}"});
   }
   output.finish();
   return exitSuccess;
