@@ -46,11 +46,9 @@ Context contextOf(const Verb& verb, const std::vector<std::string>& words) {
 
 std::vector<std::string> tableProposals(const Context& context) {
   if (context.chip.empty()) return tableNames();
-  const Catalogue::Chip chip = findChip(context.chip);
   std::vector<std::string> names;
-  for (U32 i = 0; i < Catalogue::tableCount(); ++i) {
-    if (Catalogue::table(i).isOn(chip.number)) names.emplace_back(Catalogue::table(i).name());
-  }
+  for (const Catalogue::Table& table : tablesOn(findChip(context.chip)))
+    names.emplace_back(table.name());
   return names;
 }
 
@@ -66,11 +64,8 @@ std::vector<std::string> fieldProposals(const Context& context) {
   return names;
 }
 
-std::vector<std::string> proposals(Proposal kind, const Context& context,
-                                   const std::vector<std::string>& choices) {
+std::vector<std::string> proposals(Proposal kind, const Context& context) {
   switch (kind) {
-    case Proposal::choices:
-      return choices;
     case Proposal::chips:
       if (context.positionals.empty()) return chipNames();
       return chipsOf(findTable(context.positionals.front()));
@@ -93,7 +88,9 @@ std::vector<std::string> proposals(Proposal kind, const Context& context,
 std::vector<std::string> proposalsFor(const Verb& verb, const std::vector<std::string>& words) {
   const Context context = contextOf(verb, words);
   if (context.pending != nullptr) {
-    return proposals(context.pending->proposal, context, context.pending->choices);
+    const Option& option = *context.pending;
+    if (option.choices[0] != '\0') return split(option.choices, ',');
+    return proposals(option.proposal, context);
   }
   if (words.back().rfind('-', 0) == 0) {
     std::vector<std::string> names = {"--help"};
@@ -102,7 +99,7 @@ std::vector<std::string> proposalsFor(const Verb& verb, const std::vector<std::s
   }
   if (verb.positionals.empty()) return {};
   const size_t place = std::min(context.positionals.size(), verb.positionals.size() - 1);
-  return proposals(verb.positionals[place].proposal, context, {});
+  return proposals(verb.positionals[place].proposal, context);
 }
 
 }  // namespace

@@ -49,7 +49,9 @@ std::string headingOf(const Option& option) {
 
 std::string meaningOf(const Option& option) {
   std::string meaning = option.meaning;
-  if (!option.choices.empty()) meaning += "; one of " + join(option.choices, ", ");
+  if (option.choices[0] != '\0') {
+    meaning += "; one of " + join(split(option.choices, ','), ", ");
+  }
   return meaning;
 }
 
@@ -90,7 +92,7 @@ std::string helpOf(const Verb& verb) {
   for (const Option& option : verb.options) {
     text += item(headingOf(option), meaningOf(option), headingWidth);
   }
-  text += item(headingOf(Options::help()), meaningOf(Options::help()), headingWidth);
+  text += item(headingOf(Options::help), meaningOf(Options::help), headingWidth);
   text += "\n" + paragraph(exitCodeText) + "\nExamples:\n";
   for (const char* example : verb.examples) text += formatText("  {}\n", example);
   return text;

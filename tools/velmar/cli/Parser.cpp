@@ -15,7 +15,7 @@ class Parser {
  public:
   Parser(const Verb& verb, const std::vector<std::string>& words)
       : verb_(verb), options_(verb.options), words_(words) {
-    options_.push_back(Options::help());
+    options_.push_back(Options::help);
   }
 
   Arguments parse() {
@@ -40,8 +40,9 @@ class Parser {
   void takePositional(const std::string& word) {
     if (positional_ == verb_.positionals.size()) return unknown_.push_back(word);
     const Positional& positional = verb_.positionals[positional_];
-    if (positional.list != nullptr) return (arguments_.*positional.list).push_back(word);
-    arguments_.*positional.text = word;
+    const Member& member = positional.member;
+    if (member.list != nullptr) return (arguments_.*member.list).push_back(word);
+    arguments_.*member.text = word;
     ++positional_;
   }
 
@@ -51,7 +52,7 @@ class Parser {
     const Option* option = find(name);
     if (option == nullptr) return unknown_.push_back(name);
     if (sign == std::string::npos) return take(*option);
-    if (option->flag != nullptr) fail("{} takes no value; give {} alone", name, name);
+    if (option->member.flag != nullptr) fail("{} takes no value; give {} alone", name, name);
     put(*option, word.substr(sign + 1));
   }
 
@@ -59,7 +60,7 @@ class Parser {
     for (size_t i = 1; i < word.size(); ++i) {
       const Option* option = find({'-', word[i]});
       if (option == nullptr) return unknown_.push_back(i == 1 ? word : "-" + word.substr(i));
-      const bool hasValue = option->flag == nullptr && i + 1 < word.size();
+      const bool hasValue = option->member.flag == nullptr && i + 1 < word.size();
       if (hasValue) return put(*option, word.substr(i + 1));
       take(*option);
     }
@@ -75,8 +76,8 @@ class Parser {
 
   /// A switch, or an option whose value is the next word, whatever that begins with.
   void take(const Option& option) {
-    if (option.flag != nullptr) {
-      arguments_.*option.flag = true;
+    if (option.member.flag != nullptr) {
+      arguments_.*option.member.flag = true;
     } else if (next_ == words_.size()) {
       fail("{} is given without its {}; {}", option.longName(), option.value, seeHelp());
     } else {
@@ -85,29 +86,28 @@ class Parser {
   }
 
   void put(const Option& option, const std::string& value) {
-    if (option.list != nullptr) return (arguments_.*option.list).push_back(value);
+    if (option.member.list != nullptr) return (arguments_.*option.member.list).push_back(value);
     if (std::count(given_.begin(), given_.end(), &option) != 0) {
       fail("{} is given twice; give it once", option.longName());
     }
     given_.push_back(&option);
-    arguments_.*option.text = value;
+    arguments_.*option.member.text = value;
   }
 
   void checkComplete() const {
     if (!unknown_.empty()) failUnknown(unknown_.front());
     for (const Option& option : options_) {
-      if (option.required && (arguments_.*option.list).empty()) failMissing(option.longName());
-      if (!option.choices.empty()) checkChoice(option, arguments_.*option.text);
+      if (option.required && !option.member.isGiven(arguments_)) failMissing(option.longName());
+      if (option.choices[0] != '\0') checkChoice(option, arguments_.*option.member.text);
     }
     for (const Positional& positional : verb_.positionals) {
-      const bool isGiven = positional.list != nullptr ? !(arguments_.*positional.list).empty()
-                                                      : !(arguments_.*positional.text).empty();
+      const bool isGiven = positional.member.isGiven(arguments_);
       if (positional.required && !isGiven) failMissing(positional.value);
     }
   }
 
   static void checkChoice(const Option& option, const std::string& value) {
-    const auto& choices = option.choices;
+    const std::vector<std::string> choices = split(option.choices, ',');
     if (value.empty() || std::count(choices.begin(), choices.end(), value) != 0) return;
     fail("{} {}: no such choice; give {}", option.longName(), inQuotes(value), join(choices, ", "));
   }

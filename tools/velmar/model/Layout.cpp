@@ -51,12 +51,6 @@ const FieldPlace& Layout::find(std::string_view name) const {
   fail("{} has no field {} on {}; {}", this->name(), field.accessor, chip_.name, remedy);
 }
 
-std::vector<FieldPlace> Layout::findAll(std::string_view names) const {
-  std::vector<FieldPlace> places;
-  for (const std::string& name : split(names, ',')) places.push_back(find(name));
-  return places;
-}
-
 bool Layout::hasReservedBits(const U8* entry) const {
   for (size_t i = 0; i < reservedMask_.size(); ++i) {
     if ((entry[i] & reservedMask_[i]) != 0) return true;

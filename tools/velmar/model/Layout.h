@@ -52,8 +52,6 @@ class Layout {
 
   /// The field of a name; fails for a field that the class or the chip does not have.
   const FieldPlace& find(std::string_view name) const;
-  /// The fields of a comma-separated list of names.
-  std::vector<FieldPlace> findAll(std::string_view names) const;
 
   /// The reserved bits of an entry, those outside all fields of the chip, as its set bits.
   const std::vector<U8>& reservedMask() const { return reservedMask_; }

@@ -80,15 +80,35 @@ std::string didYouMean(std::string_view name, const std::vector<std::string>& ca
   return "did you mean " + join(best, ", ") + "? ";
 }
 
+std::vector<Catalogue::Chip> allChips() {
+  std::vector<Catalogue::Chip> chips;
+  for (U32 i = 0; i < Catalogue::chipCount(); ++i) chips.push_back(Catalogue::chip(i));
+  return chips;
+}
+
+std::vector<Catalogue::Table> allTables() {
+  std::vector<Catalogue::Table> tables;
+  for (U32 i = 0; i < Catalogue::tableCount(); ++i) tables.push_back(Catalogue::table(i));
+  return tables;
+}
+
+std::vector<Catalogue::Table> tablesOn(const Catalogue::Chip& chip, U8 variant) {
+  std::vector<Catalogue::Table> tables;
+  for (const Catalogue::Table& table : allTables()) {
+    if (table.isOn(chip.number, variant)) tables.push_back(table);
+  }
+  return tables;
+}
+
 std::vector<std::string> chipNames() {
   std::vector<std::string> names;
-  for (U32 i = 0; i < Catalogue::chipCount(); ++i) names.emplace_back(Catalogue::chip(i).name);
+  for (const Catalogue::Chip& chip : allChips()) names.emplace_back(chip.name);
   return names;
 }
 
 std::vector<std::string> tableNames() {
   std::vector<std::string> names;
-  for (U32 i = 0; i < Catalogue::tableCount(); ++i) names.emplace_back(Catalogue::table(i).name());
+  for (const Catalogue::Table& table : allTables()) names.emplace_back(table.name());
   return names;
 }
 
@@ -100,8 +120,7 @@ std::vector<std::string> fieldNames(const Catalogue::Table& table) {
 
 std::vector<std::string> chipsOf(const Catalogue::Table& table) {
   std::vector<std::string> names;
-  for (U32 i = 0; i < Catalogue::chipCount(); ++i) {
-    const Catalogue::Chip chip = Catalogue::chip(i);
+  for (const Catalogue::Chip& chip : allChips()) {
     if (table.isOn(chip.number)) names.emplace_back(chip.name);
   }
   return names;
@@ -109,8 +128,7 @@ std::vector<std::string> chipsOf(const Catalogue::Table& table) {
 
 std::vector<std::string> chipsOf(const Catalogue::Table& table, U32 field) {
   std::vector<std::string> names;
-  for (U32 i = 0; i < Catalogue::chipCount(); ++i) {
-    const Catalogue::Chip chip = Catalogue::chip(i);
+  for (const Catalogue::Chip& chip : allChips()) {
     if (table.isOn(chip.number) && table.range(field, chip.number).width != 0) {
       names.emplace_back(chip.name);
     }
@@ -123,8 +141,7 @@ Catalogue::Chip findChip(std::string_view name) {
   const std::optional<U64> number = parseNumber(name);
   std::vector<Catalogue::Chip> matches;
   std::vector<std::string> matchNames;
-  for (U32 i = 0; i < Catalogue::chipCount(); ++i) {
-    const Catalogue::Chip chip = Catalogue::chip(i);
+  for (const Catalogue::Chip& chip : allChips()) {
     if (number == chip.number || namesChip(simple, simplified(chip.name))) {
       matches.push_back(chip);
       matchNames.emplace_back(chip.name);
@@ -140,8 +157,7 @@ Catalogue::Chip findChip(std::string_view name) {
 
 Catalogue::Table findTable(std::string_view name) {
   const std::string simple = simplified(name);
-  for (U32 i = 0; i < Catalogue::tableCount(); ++i) {
-    const Catalogue::Table table = Catalogue::table(i);
+  for (const Catalogue::Table& table : allTables()) {
     const std::string candidate = simplified(table.name());
     if (simple == candidate || simple == withoutSuffix(candidate)) return table;
   }

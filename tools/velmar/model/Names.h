@@ -28,6 +28,11 @@ std::string simplified(std::string_view name);
 /// "did you mean A, B?; " where candidates are near to `name`, otherwise nothing.
 std::string didYouMean(std::string_view name, const std::vector<std::string>& candidates);
 
+std::vector<Catalogue::Chip> allChips();
+std::vector<Catalogue::Table> allTables();
+/// The tables that a chip and variant have.
+std::vector<Catalogue::Table> tablesOn(const Catalogue::Chip& chip, U8 variant = 0);
+
 std::vector<std::string> chipNames();
 std::vector<std::string> tableNames();
 std::vector<std::string> fieldNames(const Catalogue::Table& table);

@@ -71,9 +71,7 @@ Listing entriesAtAddress(const Arguments& arguments) {
     addMatches(listing, layoutOf(arguments), static_cast<U32>(address));
     return listing;
   }
-  for (U32 i = 0; i < Catalogue::tableCount(); ++i) {
-    const Catalogue::Table table = Catalogue::table(i);
-    if (!table.isOn(chip.number, variant)) continue;
+  for (const Catalogue::Table& table : tablesOn(chip, variant)) {
     addMatches(listing, Layout(table, chip, variant), static_cast<U32>(address));
   }
   return listing;
@@ -95,17 +93,17 @@ int run(const Arguments& arguments) {
 }  // namespace
 
 Verb addrVerb() {
-  return {"addr",
-          "Prints the S-channel address of an entry, or the entry of an address.",
-          "With --find, all entries that have the address are printed: tables may share one. Exit "
-          "code 1 says that none has it.",
-          {Positionals::tableIfAny()},
-          {Options::chip(), Options::variant(), Options::entryIndex(), Options::array(),
-           Options::identifier(), Options::find(), Options::listFormat(), Options::output(),
-           Options::color()},
-          {"velmar addr VlanEntry --chip BCM56990_B0 --index 100",
-           "velmar addr --find 0x0c7c0064 --chip BCM56990_B0"},
-          run};
+  return {
+      "addr",
+      "Prints the S-channel address of an entry, or the entry of an address.",
+      "With --find, all entries that have the address are printed: tables may share one. Exit "
+      "code 1 says that none has it.",
+      {Positionals::tableIfAny},
+      {Options::chip, Options::variant, Options::entryIndex, Options::array, Options::identifier,
+       Options::find, Options::listFormat, Options::output, Options::color},
+      {"velmar addr VlanEntry --chip BCM56990_B0 --index 100",
+       "velmar addr --find 0x0c7c0064 --chip BCM56990_B0"},
+      run};
 }
 
 }  // namespace Tool

@@ -121,7 +121,7 @@ int run(const Arguments& arguments) {
   const Catalogue::Chip after = findChip(arguments.chips[1]);
   ChipComparison comparison(before, after, variantOf(arguments));
   if (arguments.table.empty()) {
-    for (U32 i = 0; i < Catalogue::tableCount(); ++i) comparison.compare(Catalogue::table(i));
+    for (const Catalogue::Table& table : allTables()) comparison.compare(table);
   } else {
     const Catalogue::Table table = findTable(arguments.table);
     // Where neither chip has it, silence would look like sameness.
@@ -145,9 +145,9 @@ Verb compareVerb() {
           "Prints what changes from one chip to another: fields, geometry, addresses.",
           "Without TABLE all tables are compared. What is the same is not printed. Exit code 1 "
           "says that there are differences.",
-          {Positionals::tableIfAny()},
-          {Options::chips(), Options::variant(), Options::quiet(), Options::listFormat(),
-           Options::output(), Options::color()},
+          {Positionals::tableIfAny},
+          {Options::chips, Options::variant, Options::quiet, Options::listFormat, Options::output,
+           Options::color},
           {"velmar compare VlanEntry --chip BCM56980_A0 --chip BCM56990_B0",
            "velmar compare --chip BCM56275_A0 --chip BCM56175_A0 --format csv"},
           run};

@@ -210,11 +210,10 @@ Verb decodeVerb() {
       "are 32-bit words; for anything else, and for groups of eight in xxd output, say "
       "--hex-order. A dump is read as a stream and may have any size; a line of text and a "
       "JSON entry may have 1 MiB.",
-      {Positionals::table(), Positionals::dump()},
-      {Options::chip(), Options::variant(), Options::index(), Options::fields(), Options::where(),
-       Options::nonzero(), Options::check(), Options::input(), Options::hexOrder(),
-       Options::stride(), Options::first(), Options::listFormat(), Options::output(),
-       Options::color()},
+      {Positionals::table, Positionals::dump},
+      {Options::chip, Options::variant, Options::index, Options::fields, Options::where,
+       Options::nonzero, Options::check, Options::input, Options::hexOrder, Options::stride,
+       Options::first, Options::listFormat, Options::output, Options::color},
       {"velmar encode VlanEntry --chip 56990_B0 valid=1 stg=5 | velmar decode VlanEntry --chip "
        "56990_B0",
        "velmar encode VlanMpls --chip 56980 --index 7 mplsEnable=1 --whole -f raw | velmar "

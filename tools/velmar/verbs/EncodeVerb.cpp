@@ -238,11 +238,10 @@ Verb encodeVerb() {
           "as 0-3,17, or \"none\", or a hexadecimal number after 0x. Fields that are not given are "
           "zero, or with --base as they were. What decode writes as JSON is taken as @FILE and "
           "gives the same bytes. A JSON entry may have 1 MiB.",
-          {Positionals::table(), Positionals::assignments()},
-          {Options::chip(), Options::variant(), Options::base(), Options::changeIndex(),
-           Options::whole(), Options::input(), Options::hexOrder(), Options::stride(),
-           Options::first(), Options::format({"hex", "words", "raw", "json", "jsonl"}),
-           Options::output(), Options::color()},
+          {Positionals::table, Positionals::assignments},
+          {Options::chip, Options::variant, Options::base, Options::changeIndex, Options::whole,
+           Options::input, Options::hexOrder, Options::stride, Options::first,
+           Options::format("hex,words,raw,json,jsonl"), Options::output, Options::color},
           {"velmar encode VlanEntry --chip BCM56960_A0 valid=1 fidId=100 portBitmap=0-3,17",
            "velmar encode VlanEntry --chip 56960 valid=1 | velmar encode VlanEntry --chip 56960 "
            "--base - stg=0x1f"},

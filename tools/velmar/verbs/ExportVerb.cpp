@@ -63,26 +63,18 @@ Json tableAsJson(const Catalogue::Table& table, const std::vector<Catalogue::Chi
 
 std::vector<Catalogue::Chip> chipsOf(const Arguments& arguments) {
   if (!arguments.chips.empty()) return {chipOf(arguments)};
-  std::vector<Catalogue::Chip> chips;
-  for (U32 i = 0; i < Catalogue::chipCount(); ++i) chips.push_back(Catalogue::chip(i));
-  return chips;
+  return allChips();
 }
 
 std::vector<Catalogue::Table> tablesOf(const Arguments& arguments,
                                        const std::vector<Catalogue::Chip>& chips) {
-  std::vector<Catalogue::Table> tables;
   if (!arguments.table.empty()) {
     const Catalogue::Table table = findTable(arguments.table);
-    // A table that the chip does not have is worth a word; an empty document would hide it.
+    // A table that the chip does not have is an error; an empty document would hide it.
     if (chips.size() == 1) Layout(table, chips.front(), variantOf(arguments));
     return {table};
   }
-  for (U32 i = 0; i < Catalogue::tableCount(); ++i) {
-    const Catalogue::Table table = Catalogue::table(i);
-    if (chips.size() > 1 || table.isOn(chips.front().number, variantOf(arguments)))
-      tables.push_back(table);
-  }
-  return tables;
+  return chips.size() > 1 ? allTables() : tablesOn(chips.front(), variantOf(arguments));
 }
 
 int run(const Arguments& arguments) {
@@ -110,8 +102,8 @@ Verb exportVerb() {
       "Prints the catalogue as JSON: chips, tables, fields, layouts, addresses.",
       "docs/schema/catalogue.schema.json of the project describes the document. Its \"version\" "
       "changes only when a reader has to.",
-      {Positionals::tableIfAny()},
-      {Options::chipIfAny(), Options::variant(), Options::output(), Options::color()},
+      {Positionals::tableIfAny},
+      {Options::chipIfAny, Options::variant, Options::output, Options::color},
       {"velmar export VlanEntry --chip BCM56990_B0", "velmar export --chip BCM56470_A0"},
       run};
 }

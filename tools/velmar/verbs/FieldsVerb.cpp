@@ -5,7 +5,7 @@
 #include "model/Failure.h"
 #include "model/Layout.h"
 #include "model/Text.h"
-#include "output/Listing.h"
+#include "verbs/Target.h"
 #include "verbs/Verbs.h"
 
 namespace Tool {
@@ -32,8 +32,7 @@ class FieldPattern {
 
 Listing matchingFields(const FieldPattern& pattern) {
   Listing listing({"field", "hardwareName", "id", "table", "type", "chips"});
-  for (U32 i = 0; i < Catalogue::tableCount(); ++i) {
-    const Catalogue::Table table = Catalogue::table(i);
+  for (const Catalogue::Table& table : allTables()) {
     const size_t tableChips = chipsOf(table).size();
     for (U32 j = 0; j < table.fieldCount(); ++j) {
       const Catalogue::Field field = table.field(j);
@@ -50,8 +49,8 @@ Listing matchingFields(const FieldPattern& pattern) {
 
 std::vector<std::string> allFieldNames() {
   std::vector<std::string> names;
-  for (U32 i = 0; i < Catalogue::tableCount(); ++i) {
-    for (std::string& name : fieldNames(Catalogue::table(i))) names.push_back(std::move(name));
+  for (const Catalogue::Table& table : allTables()) {
+    for (std::string& name : fieldNames(table)) names.push_back(std::move(name));
   }
   std::sort(names.begin(), names.end());
   names.erase(std::unique(names.begin(), names.end()), names.end());
@@ -64,9 +63,7 @@ int run(const Arguments& arguments) {
     fail("no field matches {}; {}\"velmar fields\" lists the fields", inQuotes(arguments.pattern),
          didYouMean(arguments.pattern, allFieldNames()));
   }
-  Output output(arguments.output, arguments.color);
-  listing.print(output, formatOf(arguments.format));
-  output.finish();
+  print(arguments, listing);
   return exitSuccess;
 }
 
@@ -76,8 +73,8 @@ Verb fieldsVerb() {
   return {"fields",
           "Lists fields, with the tables and chips that have them.",
           "",
-          {Positionals::pattern()},
-          {Options::listFormat(), Options::output(), Options::color()},
+          {Positionals::pattern},
+          {Options::listFormat, Options::output, Options::color},
           {"velmar fields stg", "velmar fields '*Bitmap*' --format jsonl"},
           run};
 }

@@ -91,9 +91,9 @@ Verb layoutVerb() {
   return {"layout",
           "Prints the layout of a table's entry on a chip: fields, geometry, address rule.",
           "",
-          {Positionals::table()},
-          {Options::chip(), Options::variant(), Options::diagram(), Options::listFormat(),
-           Options::output(), Options::color()},
+          {Positionals::table},
+          {Options::chip, Options::variant, Options::diagram, Options::listFormat, Options::output,
+           Options::color},
           {"velmar layout VlanEntry --chip BCM56990_B0",
            "velmar layout IngVpVlanMembership --chip BCM56470_A0 --diagram"},
           run};

@@ -14,11 +14,9 @@ const char* kindOf(const Catalogue::Table& table) {
   return table.kind() == Catalogue::Kind::table ? "table" : "register array";
 }
 
-Listing tablesOf(const Catalogue::Chip& chip, U8 variant) {
+Listing listTablesOf(const Catalogue::Chip& chip, U8 variant) {
   Listing listing({"table", "kind", "bytes", "entries", "address", "fields", "purpose"});
-  for (U32 i = 0; i < Catalogue::tableCount(); ++i) {
-    const Catalogue::Table table = Catalogue::table(i);
-    if (!table.isOn(chip.number, variant)) continue;
+  for (const Catalogue::Table& table : tablesOn(chip, variant)) {
     const Layout layout(table, chip, variant);
     listing.add({table.name(), kindOf(table), layout.entryBytes(), layout.indexCount(),
                  addressText(layout.geometry().base), layout.geometry().fieldCount,
@@ -34,14 +32,12 @@ Cell spread(const std::set<U32>& numbers) {
   return Cell(std::vector<U32>(numbers.begin(), numbers.end())).shownAs(text);
 }
 
-Listing allTables() {
+Listing listTables() {
   Listing listing({"table", "kind", "bytes", "entries", "purpose", "chips"});
-  for (U32 i = 0; i < Catalogue::tableCount(); ++i) {
-    const Catalogue::Table table = Catalogue::table(i);
+  for (const Catalogue::Table& table : allTables()) {
     std::set<U32> bytes;
     std::set<U32> entries;
-    for (U32 j = 0; j < Catalogue::chipCount(); ++j) {
-      const Catalogue::Chip chip = Catalogue::chip(j);
+    for (const Catalogue::Chip& chip : allChips()) {
       if (!table.isOn(chip.number)) continue;
       const Layout layout(table, chip, 0);
       bytes.insert(layout.entryBytes());
@@ -56,25 +52,24 @@ Listing allTables() {
 }
 
 int run(const Arguments& arguments) {
-  const Listing listing =
-      arguments.chips.empty() ? allTables() : tablesOf(chipOf(arguments), variantOf(arguments));
-  Output output(arguments.output, arguments.color);
-  listing.print(output, formatOf(arguments.format));
-  output.finish();
+  const Listing listing = arguments.chips.empty()
+                              ? listTables()
+                              : listTablesOf(chipOf(arguments), variantOf(arguments));
+  print(arguments, listing);
   return exitSuccess;
 }
 
 }  // namespace
 
 Verb tablesVerb() {
-  return {"tables",
-          "Lists the tables: entry bytes, entries, and the chips that have them.",
-          "With --chip, the tables of that chip with their addresses.",
-          {},
-          {Options::chipIfAny(), Options::variant(), Options::listFormat(), Options::output(),
-           Options::color()},
-          {"velmar tables", "velmar tables --chip BCM56470_A0 --format json"},
-          run};
+  return {
+      "tables",
+      "Lists the tables: entry bytes, entries, and the chips that have them.",
+      "With --chip, the tables of that chip with their addresses.",
+      {},
+      {Options::chipIfAny, Options::variant, Options::listFormat, Options::output, Options::color},
+      {"velmar tables", "velmar tables --chip BCM56470_A0 --format json"},
+      run};
 }
 
 }  // namespace Tool

@@ -45,9 +45,19 @@ InputOptions inputOptionsOf(const Arguments& arguments) {
   return options;
 }
 
+void print(const Arguments& arguments, const Listing& listing) {
+  Output output(arguments.output, arguments.color);
+  listing.print(output, formatOf(arguments.format));
+  output.finish();
+}
+
 std::vector<FieldPlace> fieldsOf(const Arguments& arguments, const Layout& layout) {
   if (arguments.fields.empty()) return layout.fields();
-  return layout.findAll(join(arguments.fields, ","));
+  std::vector<FieldPlace> places;
+  for (const std::string& name : split(join(arguments.fields, ","), ',')) {
+    places.push_back(layout.find(name));
+  }
+  return places;
 }
 
 }  // namespace Tool

@@ -3,6 +3,7 @@
 #include "cli/Options.h"
 #include "input/EntryReader.h"
 #include "model/Layout.h"
+#include "output/Listing.h"
 
 // What the options that several verbs share mean.
 
@@ -18,6 +19,8 @@ Layout layoutOf(const Arguments& arguments);
 InputOptions inputOptionsOf(const Arguments& arguments);
 /// The number of an option, at most `largest`; `absent` where the option is not given.
 U64 numberOf(const char* option, const std::string& text, U64 largest, U64 absent);
+/// Prints a listing as --format, --output and --color say.
+void print(const Arguments& arguments, const Listing& listing);
 /// The fields of --fields; all where it is not given.
 std::vector<FieldPlace> fieldsOf(const Arguments& arguments, const Layout& layout);
 
