@@ -11,25 +11,21 @@ namespace {
 constexpr size_t lineWidth = 80;
 constexpr size_t headingWidth = 26;
 
-/// A heading with its meaning beside it, the meaning wrapped.
+/// A text in lines; those after the first are indented.
+std::string paragraph(const std::string& text, size_t indent = 0) {
+  std::string lines;
+  for (const std::string& line : wrap(text, lineWidth - indent)) {
+    if (!lines.empty()) lines.append(indent, ' ');
+    lines += line.substr(0, line.find_last_not_of(' ') + 1) + '\n';
+  }
+  return lines;
+}
+
+/// A heading with its meaning beside it.
 std::string item(const std::string& heading, const std::string& meaning, size_t width) {
   std::string text = "  " + heading;
   text.resize(std::max(text.size() + 2, width), ' ');
-  bool first = true;
-  for (const std::string& line : wrap(meaning, lineWidth - width)) {
-    if (!first) text += std::string(width, ' ');
-    text += std::string(line, 0, line.find_last_not_of(' ') + 1) + '\n';
-    first = false;
-  }
-  return text;
-}
-
-std::string paragraph(const std::string& words) {
-  std::string text;
-  for (const std::string& line : wrap(words, lineWidth)) {
-    text += std::string(line, 0, line.find_last_not_of(' ') + 1) + '\n';
-  }
-  return text;
+  return text + paragraph(meaning, width);
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 namespace Tool {
 namespace {
 
-/// A text that the formatter takes as it stands.
+/// A text in which the formatter of manual pages finds no commands.
 std::string escaped(const std::string& text) {
   std::string safe;
   for (const char letter : text) {

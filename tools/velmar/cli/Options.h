@@ -54,7 +54,7 @@ struct Member {
   }
 };
 
-/// An option that verbs share: it means the same wherever it occurs.
+/// An option. It means the same in every verb.
 struct Option {
   const char* names;  ///< such as "-o,--output"
   const char* value;  ///< what the help calls the value; null for a switch
@@ -128,8 +128,8 @@ inline constexpr Option find{"--find", "ADDRESS", "print what has this address, 
 inline constexpr Option fields{"--fields", "NAMES", "only these fields, separated by commas",
                                &Arguments::fields, Proposal::fields};
 inline constexpr Option where{"--where", "FIELD=VALUE",
-                              "only entries where the field has the value (or, with !=, has not); "
-                              "may be repeated: all must hold",
+                              "only entries where the field has the value or, with !=, does not "
+                              "have it; may be repeated: all must hold",
                               &Arguments::where, Proposal::assignments};
 inline constexpr Option nonzero{"--nonzero", nullptr, "skip entries that are all zero",
                                 &Arguments::nonzero};
@@ -137,9 +137,12 @@ inline constexpr Option check{"--check", nullptr,
                               "instead of the entries, report those with bits set outside all "
                               "fields or beyond the end of the table; exit 1 if there are any",
                               &Arguments::check};
-inline constexpr Option input{
-    "--input",         "FORMAT",          "format of the dump, by default told by its first bytes",
-    &Arguments::input, Proposal::nothing, "auto,raw,hex,xxd,json"};
+inline constexpr Option input{"--input",
+                              "FORMAT",
+                              "format of the dump (default: recognized by its first bytes)",
+                              &Arguments::input,
+                              Proposal::nothing,
+                              "auto,raw,hex,xxd,json"};
 inline constexpr Option hexOrder{
     "--hex-order",
     "ORDER",

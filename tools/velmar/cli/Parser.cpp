@@ -38,9 +38,10 @@ class Parser {
 
  private:
   void takePositional(const std::string& word) {
-    if (positional_ == verb_.positionals.size()) return unknown_.push_back(word);
-    const Positional& positional = verb_.positionals[positional_];
-    const Member& member = positional.member;
+    if (positional_ == verb_.positionals.size()) {
+      fail("unexpected argument {}; {}", inQuotes(word), seeHelp());
+    }
+    const Member& member = verb_.positionals[positional_].member;
     if (member.list != nullptr) return (arguments_.*member.list).push_back(word);
     arguments_.*member.text = word;
     ++positional_;
@@ -49,29 +50,31 @@ class Parser {
   void takeLong(const std::string& word) {
     const size_t sign = word.find('=');
     const std::string name = word.substr(0, sign);
-    const Option* option = find(name);
-    if (option == nullptr) return unknown_.push_back(name);
-    if (sign == std::string::npos) return take(*option);
-    if (option->member.flag != nullptr) fail("{} takes no value; give {} alone", name, name);
-    put(*option, word.substr(sign + 1));
+    const Option& option = find(name);
+    if (sign == std::string::npos) return take(option);
+    if (option.member.flag != nullptr) fail("{} takes no value; give {} alone", name, name);
+    put(option, word.substr(sign + 1));
   }
 
   void takeShort(const std::string& word) {
     for (size_t i = 1; i < word.size(); ++i) {
-      const Option* option = find({'-', word[i]});
-      if (option == nullptr) return unknown_.push_back(i == 1 ? word : "-" + word.substr(i));
-      const bool hasValue = option->member.flag == nullptr && i + 1 < word.size();
-      if (hasValue) return put(*option, word.substr(i + 1));
-      take(*option);
+      const Option& option = find({'-', word[i]});
+      const bool hasValue = option.member.flag == nullptr && i + 1 < word.size();
+      if (hasValue) return put(option, word.substr(i + 1));
+      take(option);
     }
   }
 
-  const Option* find(const std::string& name) const {
+  const Option& find(const std::string& name) const {
+    std::vector<std::string> longNames;
     for (const Option& option : options_) {
       const std::vector<std::string> names = split(option.names, ',');
-      if (std::find(names.begin(), names.end(), name) != names.end()) return &option;
+      if (std::count(names.begin(), names.end(), name) != 0) return option;
+      // Too many names resemble a single letter.
+      if (name.size() > 2) longNames.push_back(option.longName());
     }
-    return nullptr;
+    fail("{} has no option {}; {}{}", verb_.name, inQuotes(name), didYouMean(name, longNames),
+         seeHelp());
   }
 
   /// A switch, or an option whose value is the next word, whatever that begins with.
@@ -91,42 +94,24 @@ class Parser {
       fail("{} is given twice; give it once", option.longName());
     }
     given_.push_back(&option);
+    const std::vector<std::string> choices = split(option.choices, ',');
+    const bool isFree = option.choices[0] == '\0' || value.empty();
+    if (!isFree && std::count(choices.begin(), choices.end(), value) == 0) {
+      fail("{} {}: no such choice; give {}", option.longName(), inQuotes(value),
+           join(choices, ", "));
+    }
     arguments_.*option.member.text = value;
   }
 
   void checkComplete() const {
-    if (!unknown_.empty()) failUnknown(unknown_.front());
-    for (const Option& option : options_) {
-      if (option.required && !option.member.isGiven(arguments_)) failMissing(option.longName());
-      if (option.choices[0] != '\0') checkChoice(option, arguments_.*option.member.text);
-    }
+    for (const Option& option : options_) check(option.required, option.member, option.longName());
     for (const Positional& positional : verb_.positionals) {
-      const bool isGiven = positional.member.isGiven(arguments_);
-      if (positional.required && !isGiven) failMissing(positional.value);
+      check(positional.required, positional.member, positional.value);
     }
   }
 
-  static void checkChoice(const Option& option, const std::string& value) {
-    const std::vector<std::string> choices = split(option.choices, ',');
-    if (value.empty() || std::count(choices.begin(), choices.end(), value) != 0) return;
-    fail("{} {}: no such choice; give {}", option.longName(), inQuotes(value), join(choices, ", "));
-  }
-
-  [[noreturn]] void failUnknown(const std::string& word) const {
-    if (word.empty() || word[0] != '-') {
-      fail("unexpected argument {}; {}", inQuotes(word), seeHelp());
-    }
-    // A single letter is near to too many names.
-    std::vector<std::string> names;
-    for (const Option& option : options_) {
-      if (word.size() > 2) names.push_back(option.longName());
-    }
-    fail("{} has no option {}; {}{}", verb_.name, inQuotes(word), didYouMean(word, names),
-         seeHelp());
-  }
-
-  [[noreturn]] void failMissing(const std::string& what) const {
-    fail("{} is missing; {}", what, seeHelp());
+  void check(bool isRequired, const Member& member, const std::string& name) const {
+    if (isRequired && !member.isGiven(arguments_)) fail("{} is missing; {}", name, seeHelp());
   }
 
   std::string seeHelp() const { return formatText("see \"velmar {} --help\"", verb_.name); }
@@ -137,14 +122,18 @@ class Parser {
   Arguments arguments_;
   size_t next_ = 0;
   size_t positional_ = 0;
-  std::vector<std::string> unknown_;
   std::vector<const Option*> given_;
 };
 
 }  // namespace
 
 Arguments parseArguments(const Verb& verb, const std::vector<std::string>& words) {
-  return Parser(verb, words).parse();
+  // Whoever asks for the help gets it, whatever else is wrong.
+  const auto end = std::find(words.begin(), words.end(), "--");
+  const auto isHelp = [](const std::string& word) { return word == "-h" || word == "--help"; };
+  Arguments arguments;
+  arguments.help = std::any_of(words.begin(), end, isHelp);
+  return arguments.help ? arguments : Parser(verb, words).parse();
 }
 
 }  // namespace Tool

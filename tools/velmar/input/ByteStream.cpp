@@ -51,7 +51,7 @@ std::optional<U64> ByteStream::bytesLeftInFile() const {
   if (fstat(descriptor_, &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
   const off_t position = lseek(descriptor_, 0, SEEK_CUR);
   if (position < 0 || position > status.st_size) return std::nullopt;
-  // Some files of the system have a size of 0 and contents all the same.
+  // Some system files report a size of 0 although they have contents.
   if (status.st_size == 0) return std::nullopt;
   return static_cast<U64>(status.st_size - position) + size();
 }

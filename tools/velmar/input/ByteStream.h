@@ -14,7 +14,7 @@ namespace Tool {
 class ByteStream {
  public:
   /// `path` "-" or empty: standard input. `beforeWait` is called before a read that may wait for
-  /// more input, so that what is done so far can be shown. A read asks for `piece` bytes or more.
+  /// more input, so that the result so far can be shown. A read asks for `piece` bytes or more.
   ByteStream(const std::string& path, std::function<void()> beforeWait, size_t piece = 1U << 17);
   ~ByteStream();
   ByteStream(const ByteStream&) = delete;
@@ -22,7 +22,7 @@ class ByteStream {
 
   /// What error messages call it.
   const std::string& name() const { return name_; }
-  /// Bytes from here to the end, where the input is a file that has an end.
+  /// Bytes that are left, if the input is a file of known size.
   std::optional<U64> bytesLeftInFile() const;
 
   /// What was read and not yet taken.
@@ -30,7 +30,7 @@ class ByteStream {
   size_t size() const { return end_ - begin_; }
   std::string_view text() const { return {reinterpret_cast<const char*>(data()), size()}; }
   void take(size_t count) { begin_ += count; }
-  /// Reads on; false at the end of the input.
+  /// Reads more; false at the end of the input.
   bool readMore();
   /// Reads until `count` bytes are there; false where the input ends before.
   bool need(size_t count) {

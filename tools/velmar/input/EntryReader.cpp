@@ -9,8 +9,8 @@
 namespace Tool {
 namespace {
 
-/// As many bytes tell the format, and no more even where more are there: how a pipe happens to
-/// deliver its bytes must not matter.
+/// The format is recognized by this many bytes, even if more are there: it must not depend on how a
+/// pipe delivers its bytes.
 constexpr size_t headBytes = 32;
 
 /// Whether a dump is text: its first bytes are ASCII, and no control character follows.
@@ -25,8 +25,8 @@ bool isText(std::string_view head) {
          std::none_of(head.begin(), head.end(), isControl);
 }
 
-/// Whether a line starts as those of xxd do: an offset of 7 to 16 digits, and a colon. The first
-/// digit is 0, as it is up to 256 MiB: indexes of hex text do not begin so.
+/// Whether a line starts like one of xxd: an offset of 7 to 16 digits, and a colon. The first
+/// digit is 0, as it is up to 256 MiB, but not in an index before hex text.
 bool startsWithOffset(std::string_view text) {
   const size_t digits = text.find_first_not_of("0123456789abcdefABCDEF");
   return digits != std::string_view::npos && digits >= 7 && digits <= 16 && text[0] == '0' &&
@@ -48,7 +48,7 @@ std::string detectFormat(ByteStream& stream) {
 bool EntryReader::next(Entry& entry) {
   if (!read(entry)) return false;
   if (entry.index > std::numeric_limits<U32>::max()) {
-    fail("entry {}: indexes end at {}; check --first, and the offsets or indexes of the dump",
+    fail("entry {}: the largest index is {}; check --first, and the offsets or indexes of the dump",
          entry.index, std::numeric_limits<U32>::max());
   }
   return true;
@@ -67,12 +67,6 @@ U32 strideOf(const InputOptions& options, const Layout& layout) {
 std::string entrySizeText(U32 stride, const Layout& layout) {
   if (stride != layout.entryBytes()) return formatText("{}, the stride", stride);
   return formatText("{}, an entry of {} on {}", stride, layout.name(), layout.chip().name);
-}
-
-std::unique_ptr<EntryReader> openEntries(const std::string& path, const Layout& layout,
-                                         const InputOptions& options,
-                                         std::function<void()> beforeWait) {
-  return openEntries(std::make_unique<ByteStream>(path, std::move(beforeWait)), layout, options);
 }
 
 std::unique_ptr<EntryReader> openEntries(std::unique_ptr<ByteStream> stream, const Layout& layout,

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -21,24 +20,21 @@ struct InputOptions {
   U64 first = 0;   ///< index of the first entry
 };
 
-/// The entries of a dump, one after the other, in bounded memory whatever the size of the dump.
+/// Reads the entries of a dump in bounded memory, whatever the size of the dump.
 class EntryReader {
  public:
   virtual ~EntryReader() = default;
 
   /// Reads the next entry; false at the end. Fails for an index of more than 32 bits.
   bool next(Entry& entry);
-  /// Whether the indexes ascend by the nature of the format.
+  /// Whether the format guarantees that indexes ascend.
   virtual bool isAscending() const { return false; }
 
  private:
   virtual bool read(Entry& entry) = 0;
 };
 
-/// Opens a dump in whatever format it is in.
-std::unique_ptr<EntryReader> openEntries(const std::string& path, const Layout& layout,
-                                         const InputOptions& options,
-                                         std::function<void()> beforeWait);
+/// Opens a dump in any of the formats.
 std::unique_ptr<EntryReader> openEntries(std::unique_ptr<ByteStream> stream, const Layout& layout,
                                          const InputOptions& options);
 

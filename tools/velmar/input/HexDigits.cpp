@@ -19,7 +19,7 @@ std::string joined(const std::vector<std::string_view>& groups) {
 
 }  // namespace
 
-std::vector<std::string_view> hexGroups(std::string_view text, const Place& place) {
+std::vector<std::string_view> hexGroups(std::string_view text, const LinePlace& place) {
   std::vector<std::string_view> groups;
   for (;;) {
     text = trim(text);
@@ -32,7 +32,7 @@ std::vector<std::string_view> hexGroups(std::string_view text, const Place& plac
     const bool isHex =
         std::all_of(group.begin(), group.end(), [](char letter) { return hexDigit(letter) >= 0; });
     if (!isHex) {
-      place.fail("{} is no hexadecimal number; --input raw reads binary dumps", inQuotes(group));
+      place.fail("{} is not a hexadecimal number; --input raw reads binary dumps", inQuotes(group));
     }
     groups.push_back(group);
     text.remove_prefix(end);
@@ -44,12 +44,12 @@ bool haveDigits(const std::vector<std::string_view>& groups, size_t digits) {
                      [digits](std::string_view group) { return group.size() == digits; });
 }
 
-void appendBytes(const std::vector<std::string_view>& groups, HexOrder order, const Place& place,
-                 std::vector<U8>& bytes) {
+void appendBytes(const std::vector<std::string_view>& groups, HexOrder order,
+                 const LinePlace& place, std::vector<U8>& bytes) {
   const std::string digits = joined(groups);
   const size_t unit = order == HexOrder::words ? 8 : 2;
   if (digits.size() % unit != 0) {
-    place.fail("{} digits do not make whole {}; check the line for lost digits", digits.size(),
+    place.fail("{} digits are not whole {}; check the line for lost digits", digits.size(),
                unit == 2 ? "bytes" : "32-bit words");
   }
   for (size_t at = 0; at < digits.size(); at += unit) {
@@ -61,7 +61,7 @@ void appendBytes(const std::vector<std::string_view>& groups, HexOrder order, co
   }
 }
 
-void appendNumber(const std::vector<std::string_view>& groups, size_t count, const Place& place,
+void appendNumber(const std::vector<std::string_view>& groups, size_t count, const LinePlace& place,
                   std::vector<U8>& bytes) {
   std::string digits = joined(groups);
   digits.erase(0, std::min(digits.find_first_not_of('0'), digits.size()));

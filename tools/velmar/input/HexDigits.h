@@ -12,7 +12,7 @@
 namespace Tool {
 
 /// Names the line of an input that an error message is about.
-struct Place {
+struct LinePlace {
   const std::string& file;
   U64 line;
 
@@ -23,17 +23,17 @@ struct Place {
 };
 
 /// The groups of hexadecimal digits in a text, without "0x".
-std::vector<std::string_view> hexGroups(std::string_view text, const Place& place);
+std::vector<std::string_view> hexGroups(std::string_view text, const LinePlace& place);
 
-/// Whether all groups have so many digits.
+/// Whether each group has this many digits.
 bool haveDigits(const std::vector<std::string_view>& groups, size_t digits);
 
 /// Appends the bytes of the groups, read as bytes or as words.
-void appendBytes(const std::vector<std::string_view>& groups, HexOrder order, const Place& place,
-                 std::vector<U8>& bytes);
+void appendBytes(const std::vector<std::string_view>& groups, HexOrder order,
+                 const LinePlace& place, std::vector<U8>& bytes);
 
-/// Appends `count` bytes: those of the number that the groups make together.
-void appendNumber(const std::vector<std::string_view>& groups, size_t count, const Place& place,
+/// Appends the `count` bytes of the number that all groups together make.
+void appendNumber(const std::vector<std::string_view>& groups, size_t count, const LinePlace& place,
                   std::vector<U8>& bytes);
 
 }  // namespace Tool

@@ -2,7 +2,7 @@
 #include "input/HexDigits.h"
 #include "model/Text.h"
 
-// Hex text: an entry a line, "index:" before it where the writer gave one, comments after "#".
+// Hex text: one entry per line, optionally after "index:"; comments after "#".
 
 namespace Tool {
 namespace {
@@ -28,20 +28,22 @@ class HexReader : public EntryReader {
       return true;
     }
     if (!hasEntries_) {
-      fail("{}: no entry; hex text has an entry a line, such as \"00 01 02 03\"", stream_->name());
+      fail("{}: no entry; hex text has one entry per line, such as \"00 01 02 03\"",
+           stream_->name());
     }
     return false;
   }
 
  private:
   void read(std::string_view line) {
-    const Place place{stream_->name(), lines_.number()};
+    const LinePlace place{stream_->name(), lines_.number()};
     const size_t colon = line.find(':');
     if (colon != std::string_view::npos) {
       const std::string_view prefix = trim(line.substr(0, colon));
       const std::optional<U64> index = parseNumber(prefix);
       if (!index || *index > 0xffffffff) {
-        place.fail("{} is no entry index; give a number, or leave out the colon", inQuotes(prefix));
+        place.fail("{} is not an entry index; give a number, or leave out the colon",
+                   inQuotes(prefix));
       }
       index_ = *index;
       line.remove_prefix(colon + 1);
@@ -59,12 +61,12 @@ class HexReader : public EntryReader {
     }
   }
 
-  HexOrder orderOf(const std::vector<std::string_view>& groups, const Place& place) const {
+  HexOrder orderOf(const std::vector<std::string_view>& groups, const LinePlace& place) const {
     if (order_ != HexOrder::byGroups) return order_;
     if (haveDigits(groups, 2)) return HexOrder::bytes;
     if (haveDigits(groups, 8)) return HexOrder::words;
     place.fail(
-        "the order of these digits is open; give --hex-order bytes, words or int (groups of 2 "
+        "the order of these digits is ambiguous; give --hex-order bytes, words or int (groups of 2 "
         "digits are bytes, groups of 8 are words)");
   }
 

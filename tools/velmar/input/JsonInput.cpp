@@ -16,7 +16,7 @@ using nlohmann::json;
 }
 
 Value portsValue(const FieldPlace& place, const json& list) {
-  if (!place.isBitmap()) failValue(place, "the field is no bitmap");
+  if (!place.isBitmap()) failValue(place, "the field is not a bitmap");
   Value value(place.width);
   for (const json& port : list) {
     if (!port.is_number_unsigned()) failValue(place, "a port must be a number");
@@ -27,7 +27,7 @@ Value portsValue(const FieldPlace& place, const json& list) {
 
 Value valueOf(const FieldPlace& place, const json& value);
 
-/// {"hex": ..., "decimal": ..., "ports": [...]}: one or more of them, all for the same value.
+/// {"hex": ..., "decimal": ..., "ports": [...]}: one or more of them, with the same value.
 Value objectValue(const FieldPlace& place, const json& object) {
   std::optional<Value> result;
   for (const auto& [key, member] : object.items()) {
@@ -76,7 +76,7 @@ std::vector<U8> reservedBitsOf(const Layout& layout, const json& member) {
   return bits;
 }
 
-/// Entries say where they come from; that must be what the command line says.
+/// The table and chip of an entry must be those of the command line.
 void checkSource(const Layout& layout, const json& object) {
   const std::string table = object.value("table", layout.name());
   const std::string chip = object.value("chip", layout.chip().name);
@@ -110,7 +110,7 @@ JsonInput::Object objectOf(const Layout& layout, const json& members, U64 nextIn
   return object;
 }
 
-/// The words of the JSON library's message, without its codes.
+/// The JSON library's message without its error code.
 std::string reasonOf(const json::exception& error) {
   const std::string text = printable(error.what());
   const size_t end = text.find("] ");
@@ -127,7 +127,7 @@ class JsonReader : public EntryReader {
     if (!input_.next(object)) return false;
     if (!object.index) {
       fail(
-          "{}:{}: an object without \"fields\" is no entry of a dump; give JSON such as decode "
+          "{}:{}: an object without \"fields\" is not an entry of a dump; give JSON such as decode "
           "--format json prints",
           input_.name(), input_.line());
     }

@@ -6,16 +6,16 @@
 
 namespace Tool {
 
-/// Cuts a stream of JSON into the objects that stand for entries, so that a document of any size is
-/// read in bounded memory. It takes one object after the other, arrays of objects, and documents
-/// that hold an array "entries".
+/// Splits a stream of JSON into the objects of single entries, so that a document of any size is read
+/// in bounded memory. It takes objects one after another, arrays of objects, and documents with an
+/// array "entries".
 class JsonText {
  public:
   explicit JsonText(ByteStream& stream) : stream_(stream) {}
 
   enum class Chunk {
     entry,  ///< an object
-    head,   ///< an object with the members that a document has besides its entries
+    head,   ///< an object with the members of a document that are not its entries
     end
   };
   /// Reads the next chunk.

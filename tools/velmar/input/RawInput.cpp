@@ -1,7 +1,7 @@
 #include "input/EntryReader.h"
 #include "model/Failure.h"
 
-// Raw binary dumps: the entries one behind the other, each little-endian.
+// Raw binary dumps: one entry after another, each little-endian.
 
 namespace Tool {
 namespace {
@@ -40,7 +40,7 @@ class RawReader : public EntryReader {
   }
 
   [[noreturn]] void failSize(U64 bytes) const {
-    fail("{}: {} bytes are no multiple of {}; check table and chip, or give --stride",
+    fail("{}: {} bytes are not a multiple of {}; check table and chip, or give --stride",
          stream_->name(), bytes, entrySizeText(stride_, layout_));
   }
 

@@ -5,7 +5,7 @@
 #include "model/Text.h"
 
 // The output of xxd: an offset, groups of digits, and after two blanks the bytes as text. "*"
-// stands for lines of zeros.
+// replaces lines of zeros.
 
 namespace Tool {
 namespace {
@@ -20,7 +20,7 @@ class XxdReader : public EntryReader {
         order_(options.hexOrder),
         index_(options.first) {
     if (order_ == HexOrder::integer) {
-      fail("--hex-order int does not go with xxd output; give bytes or words");
+      fail("--hex-order int does not apply to xxd output; give bytes or words");
     }
   }
 
@@ -47,13 +47,13 @@ class XxdReader : public EntryReader {
   bool isAscending() const override { return true; }
 
  private:
-  Place place() const { return {stream_->name(), lines_.number()}; }
+  LinePlace place() const { return {stream_->name(), lines_.number()}; }
 
   bool atEnd() const {
     if (!started_) fail("{}: no line of xxd output; check the file", stream_->name());
     if (skipping_) place().fail("ends after \"*\"; xxd prints a last line after it");
     if (!pending_.empty()) {
-      fail("{}: {} bytes are no multiple of {}; check table and chip, or give --stride",
+      fail("{}: {} bytes are not a multiple of {}; check table and chip, or give --stride",
            stream_->name(), offset_ - firstOffset_, entrySizeText(stride_, layout_));
     }
     return false;
@@ -70,7 +70,7 @@ class XxdReader : public EntryReader {
     U64 offset = 0;
     const bool isLong = colon == std::string_view::npos || colon > 16 || colon == 0;
     if (isLong || !parseOffset(line.substr(0, colon), offset)) {
-      place().fail("no line of xxd output; --input hex reads plain hex text");
+      place().fail("not a line of xxd output; --input hex reads plain hex text");
     }
     checkOffset(offset);
     readBytes(line.substr(colon + 1));
@@ -89,7 +89,7 @@ class XxdReader : public EntryReader {
     if (!started_) {
       started_ = true;
       if (offset % stride_ != 0) {
-        place().fail("offset 0x{:x} is not where an entry begins; begin at a multiple of {}",
+        place().fail("offset 0x{:x} is not the start of an entry; start at a multiple of {}",
                      offset, entrySizeText(stride_, layout_));
       }
       offset_ = firstOffset_ = offset;
@@ -102,8 +102,9 @@ class XxdReader : public EntryReader {
     }
     skipping_ = false;
     if (offset != offset_) {
-      place().fail("offset 0x{:x}, but 0x{:x} comes next; check the dump for lost or double lines",
-                   offset, offset_);
+      place().fail(
+          "offset 0x{:x}, but 0x{:x} comes next; check the dump for lost or repeated lines", offset,
+          offset_);
     }
   }
 
@@ -136,7 +137,7 @@ class XxdReader : public EntryReader {
     return HexOrder::bytes;
   }
 
-  /// The text column tells what the bytes are: a wrong order shows where it has letters.
+  /// The text column repeats the bytes: a wrong order shows where they are printable.
   void checkText(std::string_view text, const std::vector<U8>& bytes) const {
     for (size_t i = 0; i < std::min(text.size(), bytes.size()); ++i) {
       if (text.size() == bytes.size() && text[i] != '.' && text[i] != static_cast<char>(bytes[i])) {
@@ -157,7 +158,7 @@ class XxdReader : public EntryReader {
   U64 firstOffset_ = 0;
   bool started_ = false;
   bool skipping_ = false;
-  U64 zeros_ = 0;  ///< zero bytes yet to come, for a "*"
+  U64 zeros_ = 0;  ///< zero bytes that a "*" still has to give
   std::vector<U8> pending_;
   std::vector<U8> afterZeros_;
   long taken_ = 0;

@@ -22,9 +22,9 @@ class EntryBuilder {
   /// Starts from an existing entry, or from zero.
   void start(const U8* bytes);
   void startFromZero();
-  /// Lets what is set from now on replace what was set before.
+  /// Fields set from now on may replace those set before.
   void forget() { set_.clear(); }
-  /// Sets a field; fails where a field set before shares bits with it and has another value there.
+  /// Sets a field; fails if it changes bits of a field that was set before.
   void set(const Assignment& assignment);
   /// Sets the bits outside all fields; `bits` has no others, and may be empty.
   void setReservedBits(const std::vector<U8>& bits);

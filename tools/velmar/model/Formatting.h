@@ -7,7 +7,7 @@
 
 namespace Tool {
 
-/// Where all formatting is done: the one file that compiles the formatting library.
+/// All formatting goes through these two, so that one file compiles the formatting library.
 std::string formatted(fmt::string_view text, fmt::format_args arguments);
 void appendFormatted(std::string& to, fmt::string_view text, fmt::format_args arguments);
 

@@ -11,7 +11,7 @@ namespace {
 U64 parseIndex(std::string_view text) {
   const std::optional<U64> index = parseNumber(trim(text));
   if (!index || *index > std::numeric_limits<U32>::max()) {
-    fail("{} is no entry index; give indexes such as 100, 0-99 or 1,5,100-199", inQuotes(text));
+    fail("{} is not an entry index; give indexes such as 100, 0-99 or 1,5,100-199", inQuotes(text));
   }
   return *index;
 }

@@ -22,7 +22,7 @@ class IndexSet {
   U64 last() const { return isAll() ? std::numeric_limits<U64>::max() : ranges_.back().second; }
 
  private:
-  std::vector<std::pair<U64, U64>> ranges_;  ///< ascending, both ends belong to them
+  std::vector<std::pair<U64, U64>> ranges_;  ///< ascending; both ends are included
 };
 
 }  // namespace Tool

@@ -36,8 +36,7 @@ Address Layout::addressOf(U32 index, U32 identifier) const {
 }
 
 const FieldPlace& Layout::find(std::string_view name) const {
-  // Documents name every field as decode does: looking for other spellings first takes them twice
-  // the time.
+  // Documents name fields as decode does. To compare simplified names first takes twice the time.
   for (const FieldPlace& place : fields_) {
     if (name == place.name()) return place;
   }

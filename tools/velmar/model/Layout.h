@@ -8,7 +8,7 @@
 
 namespace Tool {
 
-/// A field as it lies on one chip.
+/// A field with its bits on one chip.
 struct FieldPlace {
   Catalogue::Field field;
   U32 offset;  ///< first bit
@@ -22,14 +22,14 @@ struct FieldPlace {
   std::string bits() const;
 };
 
-/// The S-channel address of an entry, with what a request needs besides.
+/// The S-channel address of an entry, and what else a request needs.
 struct Address {
   U32 address;
   U32 accessType;
   U32 block;
 };
 
-/// A class on a chip and variant on which it exists: all that decoding and encoding need.
+/// A class on one chip and variant: all that decoding and encoding need.
 class Layout {
  public:
   /// Fails where the class does not exist on the chip and variant.
@@ -45,7 +45,7 @@ class Layout {
 
   bool isRegisterArray() const { return table_.kind() == Catalogue::Kind::registerArray; }
   U32 entryBytes() const { return 4U * geometry_.width; }
-  /// Number of entries, or of elements of a register array: an index is below it.
+  /// Number of entries, or of elements of a register array: indexes are below it.
   U32 indexCount() const { return isRegisterArray() ? geometry_.arrayElements : geometry_.entries; }
   /// Address of an entry or element below indexCount().
   Address addressOf(U32 index, U32 identifier = 0) const;
@@ -53,7 +53,7 @@ class Layout {
   /// The field of a name; fails for a field that the class or the chip does not have.
   const FieldPlace& find(std::string_view name) const;
 
-  /// The reserved bits of an entry, those outside all fields of the chip, as its set bits.
+  /// The reserved bits of an entry: its set bits are those outside all fields of the chip.
   const std::vector<U8>& reservedMask() const { return reservedMask_; }
   bool hasReservedBits(const U8* entry) const;
   /// All bits of an entry, as if they were one field.

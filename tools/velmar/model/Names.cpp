@@ -9,7 +9,7 @@
 namespace Tool {
 namespace {
 
-/// Number of letters to change, insert, drop or swap with their neighbour to make one of the other.
+/// The fewest letters to change, insert, remove or swap with a neighbour to turn `a` into `b`.
 size_t distance(const std::string& a, const std::string& b) {
   std::vector<size_t> beforeLast(b.size() + 1), last(b.size() + 1), row(b.size() + 1);
   std::iota(last.begin(), last.end(), size_t{0});

@@ -6,7 +6,7 @@
 
 #include "Velmar/Catalogue.h"
 
-// Names as people type them: any case, with or without underscores; a slip gets a suggestion.
+// Names as people type them: any case, with or without underscores.
 
 namespace Tool {
 
@@ -25,7 +25,7 @@ U32 findField(const Catalogue::Table& table, std::string_view name);
 /// Lower case, without underscores and hyphens.
 std::string simplified(std::string_view name);
 
-/// "did you mean A, B?; " where candidates are near to `name`, otherwise nothing.
+/// "did you mean A, B? " if candidates resemble `name`, otherwise nothing.
 std::string didYouMean(std::string_view name, const std::vector<std::string>& candidates);
 
 std::vector<Catalogue::Chip> allChips();

@@ -51,12 +51,6 @@ std::string join(const std::vector<std::string>& parts, std::string_view separat
   return text;
 }
 
-std::string joinNumbers(const std::vector<U32>& numbers, std::string_view separator) {
-  std::vector<std::string> parts;
-  for (const U32 number : numbers) parts.push_back(std::to_string(number));
-  return join(parts, separator);
-}
-
 std::vector<std::string> wrap(const std::string& text, size_t width) {
   std::vector<std::string> lines;
   size_t from = 0;

@@ -17,7 +17,7 @@ namespace {
 U64 parsePort(const FieldPlace& place, std::string_view text) {
   const std::optional<U64> port = parseNumber(text);
   if (!port) {
-    fail("{}: {} is no port; give ports such as 0-3,17, \"none\", or a hexadecimal number",
+    fail("{}: {} is not a port; give ports such as 0-3,17, \"none\", or a hexadecimal number",
          place.name(), inQuotes(text));
   }
   return *port;
@@ -165,7 +165,7 @@ Value parseValue(const FieldPlace& place, std::string_view text) {
     fail("{}: value {} has more than 64 bits; give it in hexadecimal", place.name(),
          inQuotes(text));
   }
-  fail("{}: {} is no number; give it in decimal, or in hexadecimal after 0x", place.name(),
+  fail("{}: {} is not a number; give it in decimal, or in hexadecimal after 0x", place.name(),
        inQuotes(text));
 }
 

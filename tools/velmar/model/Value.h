@@ -16,7 +16,7 @@ class Value {
   /// Zero.
   explicit Value(U32 width);
   static Value read(const FieldPlace& place, const U8* entry, U32 entryBytes);
-  /// Puts the value into an entry. The widths of field and value must agree.
+  /// Writes the value into an entry. The field must have the width of the value.
   void write(const FieldPlace& place, U8* entry, U32 entryBytes) const;
 
   bool isZero() const;
@@ -26,7 +26,7 @@ class Value {
   /// Hexadecimal digits without leading zeros and without "0x".
   std::string hexDigits() const;
   std::string hex() const { return "0x" + hexDigits(); }
-  /// The value as a number, where it fits one.
+  /// The value as a number, where it fits 64 bits.
   std::optional<U64> number() const;
   /// The value as a set of ports.
   Oru::PerUnitBitmap ports() const;
@@ -50,9 +50,9 @@ class Value {
 U64 readScalar(const FieldPlace& place, const U8* entry, U32 entryBytes);
 
 /// A value as it is typed: a number, decimal or hexadecimal; for a bitmap a list of ports such as
-/// "0-3,17", "none", or a hexadecimal number. Fails where the field does not hold it.
+/// "0-3,17", "none", or a hexadecimal number. Fails for a value that does not fit the field.
 Value parseValue(const FieldPlace& place, std::string_view text);
-/// The value of a number; fails where the field does not hold it.
+/// The value of a number; fails for a number that does not fit the field.
 Value makeValue(const FieldPlace& place, U64 number);
 /// Adds a port to a bitmap's value; fails for a port that the bitmap does not have.
 void addPort(const FieldPlace& place, Value& value, U64 port);

@@ -6,7 +6,7 @@
 
 #include "AsicUtils/Types.h"
 
-// Text for whole tables goes into a buffer that is large enough: each function returns the new end.
+// Each function appends text to a buffer with enough room, and returns the new end of the text.
 
 namespace Tool {
 

@@ -10,8 +10,6 @@ Cell::Cell(U32 number) : Cell(U64{number}) {}
 Cell::Cell(U64 number) : json_(std::to_string(number)), text_(json_) {}
 Cell::Cell(const std::vector<std::string>& list)
     : Cell(nlohmann::json(list).dump(), join(list, " ")) {}
-Cell::Cell(const std::vector<U32>& list)
-    : Cell(nlohmann::json(list).dump(), joinNumbers(list, " ")) {}
 
 Cell Cell::shownAs(std::string text) && { return {json(), std::move(text)}; }
 

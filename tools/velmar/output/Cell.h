@@ -17,7 +17,6 @@ class Cell {
   Cell(bool value) : Cell(value ? "true" : "false", value ? "yes" : "no") {}
   Cell(std::nullptr_t) : Cell("null", "-") {}
   Cell(const std::vector<std::string>& list);
-  Cell(const std::vector<U32>& list);
   static Cell ofJson(std::string json) { return {std::move(json), ""}; }
 
   /// The same value with another text.

@@ -55,7 +55,7 @@ std::vector<Piece> piecesIn(const std::vector<const FieldPlace*>& lane, U32 row)
   return pieces;
 }
 
-/// Draws one row, lane by lane, and collects what the letters stand for.
+/// Draws one row, lane by lane, and collects the meanings of the letters.
 class Row {
  public:
   Row(Output& output, U32 row) : output_(output), row_(row) {}
@@ -96,7 +96,7 @@ class Row {
     line.replace(left + 1 + (room - label.size()) / 2, label.size(), label);
   }
 
-  /// A letter for a name that does not fit: there are at most as many as bits in a row and lane.
+  /// A letter for a name that does not fit; explain() says what it means.
   std::string letterFor(const FieldPlace& place) {
     static const std::string letters =
         "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";

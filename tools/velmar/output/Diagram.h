@@ -6,8 +6,8 @@
 namespace Tool {
 
 /// Draws an entry in rows of 32 bits, highest bit on the left. A name that does not fit its field
-/// is replaced by a letter and explained under the row; fields that share bits with others stand on
-/// lines of their own.
+/// is replaced by a letter and explained under the row; fields that share bits with others are drawn
+/// on lines of their own.
 void drawDiagram(Output& output, const Layout& layout);
 
 }  // namespace Tool

@@ -6,8 +6,8 @@
 namespace Tool {
 namespace {
 
-/// JSON, one entry a line: as one document, or as lines that stand for themselves. This is where
-/// whole tables go, so all text that does not depend on the entry is made beforehand.
+/// JSON, one entry per line. Whole tables are printed this way, so all text that does not depend on
+/// the entry is prepared.
 class JsonWriter : public EntryWriter {
  public:
   JsonWriter(Output& output, const Layout& layout, const std::vector<FieldPlace>& fields,
@@ -93,7 +93,7 @@ class JsonWriter : public EntryWriter {
   JsonRows rows_;
   std::string lineHead_;
   std::string addressTail_;
-  std::vector<char> text_;  ///< of one entry, as long as it can get
+  std::vector<char> text_;  ///< room for the longest entry
   std::vector<JsonField> fields_;
 };
 

@@ -8,7 +8,7 @@
 namespace Tool {
 namespace {
 
-/// For people: an entry as a headed block, one field a line.
+/// For people: a block for each entry, with a line for each field.
 class TableWriter : public EntryWriter {
  public:
   TableWriter(Output& output, const Layout& layout, std::vector<FieldPlace> fields)

@@ -7,7 +7,7 @@
 namespace Tool {
 namespace {
 
-/// One row an entry; numbers in decimal where spreadsheets keep them exact, bitmaps as ports.
+/// One row per entry; numbers in decimal where spreadsheets keep them exact, bitmaps as ports.
 class CsvWriter : public EntryWriter {
  public:
   CsvWriter(Output& output, const Layout& layout, std::vector<FieldPlace> fields)
@@ -44,7 +44,9 @@ class BytesWriter : public EntryWriter {
   BytesWriter(Output& output, const Layout& layout, Format format, bool withIndex)
       : output_(output), layout_(layout), format_(format), withIndex_(withIndex) {
     if (format_ == Format::raw && output_.isTerminal()) {
-      fail("raw bytes do not go to a terminal; give -o FILE, or pipe them into something");
+      fail(
+          "raw bytes are not written to a terminal; give -o FILE, or pipe them into another "
+          "command");
     }
   }
 
@@ -52,7 +54,7 @@ class BytesWriter : public EntryWriter {
     const U8* bytes = entry.bytes;
     const U32 size = layout_.entryBytes();
     if (format_ == Format::raw) {
-      checkPlace(entry.index);
+      checkFollows(entry.index);
       return output_.write({reinterpret_cast<const char*>(bytes), size});
     }
     if (withIndex_) output_.print("{}: ", entry.index);
@@ -65,12 +67,12 @@ class BytesWriter : public EntryWriter {
   }
 
  private:
-  /// Raw bytes carry no index: an entry's place is the only thing that tells it.
-  void checkPlace(U64 index) {
+  /// Raw bytes carry no index: it follows from the position of an entry alone.
+  void checkFollows(U64 index) {
     if (started_ && index != next_) {
       fail(
-          "entry {} is to follow entry {}, and raw bytes have no place for an index; give --whole "
-          "or --format hex",
+          "entry {} cannot follow entry {}, because raw bytes carry no index; give --whole or "
+          "--format hex",
           index, next_ - 1);
     }
     started_ = true;

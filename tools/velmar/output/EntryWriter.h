@@ -4,7 +4,6 @@
 
 #include "model/Entry.h"
 #include "model/Layout.h"
-#include "output/Format.h"
 #include "output/Output.h"
 
 namespace Tool {

@@ -32,7 +32,7 @@ U32 terminalColumns(int descriptor) {
   return usual;
 }
 
-/// A link stays a link: the file behind it is replaced.
+/// A link stays a link: the file that it points to is replaced.
 void followLinks(std::string& file) {
   char* target = realpath(file.c_str(), nullptr);
   if (target == nullptr) return;
@@ -57,6 +57,16 @@ const char* escapeOf(Style style) {
 
 }  // namespace
 
+Format formatOf(const std::string& name) {
+  if (name == "json") return Format::json;
+  if (name == "jsonl") return Format::jsonl;
+  if (name == "csv") return Format::csv;
+  if (name == "hex") return Format::hex;
+  if (name == "words") return Format::words;
+  if (name == "raw") return Format::raw;
+  return Format::table;
+}
+
 Output::Output(const std::string& file, const std::string& color)
     : file_(file), descriptor_(STDOUT_FILENO) {
   if (!file_.empty()) openFile();
@@ -75,7 +85,7 @@ void Output::openFile() {
   const bool exists = stat(file_.c_str(), &status) == 0;
   if (exists) followLinks(file_);
   if (exists && !S_ISREG(status.st_mode)) {
-    // A device or pipe has no name to give and takes the text as it comes.
+    // A device or pipe cannot be replaced: the text is written to it directly.
     descriptor_ = open(file_.c_str(), O_WRONLY | O_CLOEXEC);
   } else {
     std::string name = file_ + ".XXXXXX";
@@ -97,7 +107,7 @@ void Output::openFile() {
 }
 
 void Output::failWriting() const {
-  fail("{}: cannot write: {}; make room, or choose another file with -o",
+  fail("{}: cannot write: {}; make room, or write to another file",
        file_.empty() ? "standard output" : file_, std::strerror(errno));
 }
 

@@ -10,6 +10,10 @@ namespace Tool {
 
 enum class Style { plain, strong, faint, removed, added };
 
+enum class Format { table, json, jsonl, csv, hex, words, raw };
+/// The format of a value of --format; the table if there is none.
+Format formatOf(const std::string& name);
+
 /// Where a verb writes its result: standard output, or a file that appears under its name only when
 /// it is complete. Text is collected and written in large pieces.
 class Output {
@@ -37,7 +41,7 @@ class Output {
   void finish();
 
   bool isTerminal() const { return terminal_; }
-  /// Columns of the terminal; 0 where the result goes elsewhere and no limit is known.
+  /// Columns of the terminal; 0 if the result goes elsewhere.
   U32 columns() const { return columns_; }
 
  private:
@@ -55,8 +59,8 @@ class Output {
   std::string text_;
 };
 
-/// Ctrl-C, a hang-up or a closed pipe ends the command at once and without a word; an incomplete
-/// file does not stay.
+/// Ctrl-C, a hang-up or a closed pipe ends the command at once, without a message, and removes an
+/// incomplete file.
 void installSignalHandlers();
 
 }  // namespace Tool

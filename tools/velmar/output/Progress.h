@@ -6,8 +6,7 @@
 
 namespace Tool {
 
-/// A counter on standard error for work that lasts; shown on a terminal only, and only after a
-/// second.
+/// A counter on standard error; it appears on a terminal only, and only after a second.
 class Progress {
  public:
   Progress();

@@ -4,7 +4,6 @@
 
 #include "output/Cell.h"
 #include "output/CsvRows.h"
-#include "output/Format.h"
 #include "output/JsonRows.h"
 
 namespace Tool {

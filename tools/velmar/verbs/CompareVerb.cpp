@@ -9,13 +9,6 @@ namespace {
 
 using Geometry = Catalogue::Geometry;
 
-/// A table as it is on each of the two chips.
-struct Pair {
-  Catalogue::Table table;
-  Geometry before;
-  Geometry after;
-};
-
 class ChipComparison {
  public:
   ChipComparison(const Catalogue::Chip& before, const Catalogue::Chip& after, U8 variant)
@@ -25,17 +18,16 @@ class ChipComparison {
         listing_({"table", "part", "change", "old", "new"}) {}
 
   void compare(const Catalogue::Table& table) {
-    const Pair pair{table, table.geometry(before_.number), table.geometry(after_.number)};
     const bool wasThere = table.isOn(before_.number, variant_);
     const bool isThere = table.isOn(after_.number, variant_);
     if (!wasThere && !isThere) return;
     if (!wasThere || !isThere) {
       add(table, "(table)", isThere ? "added" : "gone",
-          wasThere ? sizeText(pair, pair.before) : nullptr,
-          isThere ? sizeText(pair, pair.after) : nullptr);
+          wasThere ? sizeText(table, before_) : nullptr,
+          isThere ? sizeText(table, after_) : nullptr);
       return;
     }
-    compareGeometry(pair);
+    compareGeometry(table);
     for (U32 i = 0; i < table.fieldCount(); ++i) compareField(table, i);
   }
 
@@ -47,35 +39,30 @@ class ChipComparison {
     listing_.add({table.name(), part, change, before, after});
   }
 
-  static Cell sizeText(const Pair& pair, const Geometry& geometry) {
-    const bool isArray = pair.table.kind() == Catalogue::Kind::registerArray;
-    return formatText("{} x {} bytes at {}", isArray ? geometry.arrayElements : geometry.entries,
-                      4 * geometry.width, addressText(geometry.base));
+  static Cell sizeText(const Catalogue::Table& table, const Catalogue::Chip& chip) {
+    const Layout layout(table, chip, 0);
+    return formatText("{} x {} bytes at {}", layout.indexCount(), layout.entryBytes(),
+                      addressText(layout.geometry().base));
   }
 
-  void compareNumber(const Pair& pair, const char* part, U32 Geometry::*member) {
-    if (pair.before.*member == pair.after.*member) return;
-    add(pair.table, part, "changed", pair.before.*member, pair.after.*member);
-  }
-
-  void compareGeometry(const Pair& pair) {
-    const Geometry& before = pair.before;
-    const Geometry& after = pair.after;
-    if (before.width != after.width) {
-      add(pair.table, "(entry bytes)", "changed", U32{4} * before.width, U32{4} * after.width);
-    }
-    compareNumber(pair, "(entries)", &Geometry::entries);
-    compareNumber(pair, "(elements)", &Geometry::arrayElements);
-    if (before.base != after.base) {
-      add(pair.table, "(address)", "changed", addressText(before.base), addressText(after.base));
-    }
-    compareNumber(pair, "(element stride)", &Geometry::addrStride);
-    compareNumber(pair, "(identifiers)", &Geometry::identifiers);
-    compareNumber(pair, "(access)", &Geometry::accessType);
-    compareNumber(pair, "(block)", &Geometry::block);
-    if (before.variants != after.variants) {
-      add(pair.table, "(variants)", "changed", variantsText(before), variantsText(after));
-    }
+  void compareGeometry(const Catalogue::Table& table) {
+    const Geometry before = table.geometry(before_.number);
+    const Geometry after = table.geometry(after_.number);
+    const auto compareCells = [&](const char* part, const Cell& old, const Cell& now) {
+      if (old.json() != now.json()) add(table, part, "changed", old, now);
+    };
+    const auto compareNumber = [&](const char* part, U32 Geometry::*member) {
+      compareCells(part, before.*member, after.*member);
+    };
+    compareCells("(entry bytes)", U32{4} * before.width, U32{4} * after.width);
+    compareNumber("(entries)", &Geometry::entries);
+    compareNumber("(elements)", &Geometry::arrayElements);
+    compareCells("(address)", addressText(before.base), addressText(after.base));
+    compareNumber("(element stride)", &Geometry::addrStride);
+    compareNumber("(identifiers)", &Geometry::identifiers);
+    compareNumber("(access)", &Geometry::accessType);
+    compareNumber("(block)", &Geometry::block);
+    compareCells("(variants)", variantsText(before), variantsText(after));
   }
 
   static const char* variantsText(const Geometry& geometry) {
@@ -124,7 +111,7 @@ int run(const Arguments& arguments) {
     for (const Catalogue::Table& table : allTables()) comparison.compare(table);
   } else {
     const Catalogue::Table table = findTable(arguments.table);
-    // Where neither chip has it, silence would look like sameness.
+    // If neither chip has the table, an empty result would mean that nothing changed.
     if (!table.isOn(after.number)) Layout(table, before, 0);
     comparison.compare(table);
   }

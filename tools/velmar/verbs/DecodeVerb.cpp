@@ -43,7 +43,7 @@ class Condition {
   bool wantsEqual_;
 };
 
-/// Which entries are to be shown.
+/// The entries to show.
 class Selection {
  public:
   Selection(const Arguments& arguments, const Layout& layout)
@@ -82,8 +82,9 @@ class Walk {
   Walk(const Arguments& arguments, const Layout& layout, Output& output)
       : layout_(layout),
         selection_(arguments, layout),
-        reader_(openEntries(onlyFile(arguments), layout, inputOptionsOf(arguments),
-                            [&output] { output.flush(); })) {}
+        reader_(openEntries(
+            std::make_unique<ByteStream>(onlyFile(arguments), [&output] { output.flush(); }),
+            layout, inputOptionsOf(arguments))) {}
 
   bool next(Entry& entry) {
     while (reader_->next(entry)) {
@@ -97,15 +98,15 @@ class Walk {
     return false;
   }
 
-  /// Tells of what the result does not show.
+  /// Notes what the result does not show.
   void report() const {
     if (goesBeyond_) {
       std::fprintf(stderr,
-                   "velmar: note: the dump goes on behind the end of %s on %s (%u entries)\n",
+                   "velmar: note: the dump extends beyond the end of %s on %s (%u entries)\n",
                    layout_.name(), layout_.chip().name, layout_.indexCount());
     }
     if (selected_ == 0 && selection_.isByIndex()) {
-      std::fprintf(stderr, "velmar: note: no entry of the dump has such an index\n");
+      std::fprintf(stderr, "velmar: note: no entry of the dump has an index of --index\n");
     }
   }
 
@@ -204,12 +205,12 @@ Verb decodeVerb() {
   return {
       "decode",
       "Decodes a dump of a table: address and fields of each entry.",
-      "A dump is raw binary (little-endian, entries one behind the other), hex text (an entry a "
-      "line, with an optional \"index:\" before it and # comments), the output of xxd, or the "
+      "A dump is raw binary (little-endian, entries one after another), hex text (one entry "
+      "per line, with an optional \"index:\" before it and # comments), the output of xxd, or the "
       "JSON of this command. In hex text, groups of two digits are bytes and groups of eight "
-      "are 32-bit words; for anything else, and for groups of eight in xxd output, say "
-      "--hex-order. A dump is read as a stream and may have any size; a line of text and a "
-      "JSON entry may have 1 MiB.",
+      "are 32-bit words; for anything else, and for groups of eight in xxd output, give "
+      "--hex-order. A dump is read as a stream and may be of any size; a line of text or a "
+      "JSON entry may have up to 1 MiB.",
       {Positionals::table, Positionals::dump},
       {Options::chip, Options::variant, Options::index, Options::fields, Options::where,
        Options::nonzero, Options::check, Options::input, Options::hexOrder, Options::stride,

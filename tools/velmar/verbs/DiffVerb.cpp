@@ -14,11 +14,12 @@
 namespace Tool {
 namespace {
 
-/// One of the two dumps, with the entry that comes next.
+/// One of the two dumps, at its next entry.
 class Side {
  public:
   Side(const std::string& path, const Layout& layout, const InputOptions& options)
-      : path_(path), reader_(openEntries(path, layout, options, nullptr)) {
+      : path_(path),
+        reader_(openEntries(std::make_unique<ByteStream>(path, nullptr), layout, options)) {
     take();
   }
 
@@ -52,7 +53,7 @@ struct Change {
   std::string name;
   std::string bits;
   ValueForms old, now;
-  std::string note;  ///< for a bitmap the ports that came and went
+  std::string note;  ///< for a bitmap the ports that were removed and added
 };
 
 std::string valueText(const FieldPlace& place, const Value& value) {
@@ -61,7 +62,7 @@ std::string valueText(const FieldPlace& place, const Value& value) {
   return number ? formatText("{} ({})", value.hex(), *number) : value.hex();
 }
 
-/// The ports of one set that another lacks.
+/// The ports of one set that are not in the other.
 std::string portsWithout(const Value& value, const Value& other) {
   const Oru::PerUnitBitmap ports = value.ports();
   const Oru::PerUnitBitmap others = other.ports();
@@ -122,7 +123,7 @@ class EntryComparison {
   bool comparesAll_;
 };
 
-/// Prints differences in one of the formats: as CSV a row a field, otherwise an entry.
+/// Prints differences in one of the formats: as CSV a row per field, otherwise per entry.
 class Report {
  public:
   Report(Output& output, const Layout& layout, Format format)

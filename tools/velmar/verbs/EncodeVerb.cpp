@@ -12,7 +12,7 @@
 namespace Tool {
 namespace {
 
-/// Completes what is written to the whole table: entries that are not given are zero.
+/// Adds entries of zero, so that the whole table is written.
 class WholeWriter : public EntryWriter {
  public:
   WholeWriter(std::unique_ptr<EntryWriter> writer, const Layout& layout)
@@ -180,7 +180,8 @@ class Encoder {
   }
 
   void changeBase() {
-    const auto reader = openEntries(arguments_.base, layout_, inputOptionsOf(arguments_), nullptr);
+    const auto reader = openEntries(std::make_unique<ByteStream>(arguments_.base, nullptr), layout_,
+                                    inputOptionsOf(arguments_));
     Entry entry;
     bool isFirst = true;
     for (bool more = reader->next(entry); more; isFirst = false) {
@@ -189,7 +190,7 @@ class Encoder {
       more = reader->next(entry);
       const bool isOpen = isFirst && more && selected_.isAll() && !values_.common().empty();
       if (isOpen) {
-        fail("{}: more than one entry; say with --index which to change", arguments_.base);
+        fail("{}: more than one entry; give --index to choose which to change", arguments_.base);
       }
       setObjectsOf(index);
       setCommon(index);
@@ -236,8 +237,8 @@ Verb encodeVerb() {
           "Encodes field values to the bytes of an entry.",
           "A value is a number, decimal or after 0x hexadecimal; for a bitmap a list of ports such "
           "as 0-3,17, or \"none\", or a hexadecimal number after 0x. Fields that are not given are "
-          "zero, or with --base as they were. What decode writes as JSON is taken as @FILE and "
-          "gives the same bytes. A JSON entry may have 1 MiB.",
+          "zero, or with --base as they were. @FILE takes the JSON that decode writes, and "
+          "gives the same bytes. A JSON entry may have up to 1 MiB.",
           {Positionals::table, Positionals::assignments},
           {Options::chip, Options::variant, Options::base, Options::changeIndex, Options::whole,
            Options::input, Options::hexOrder, Options::stride, Options::first,

@@ -101,7 +101,7 @@ Verb exportVerb() {
       "export",
       "Prints the catalogue as JSON: chips, tables, fields, layouts, addresses.",
       "docs/schema/catalogue.schema.json of the project describes the document. Its \"version\" "
-      "changes only when a reader has to.",
+      "changes only when readers must change.",
       {Positionals::tableIfAny},
       {Options::chipIfAny, Options::variant, Options::output, Options::color},
       {"velmar export VlanEntry --chip BCM56990_B0", "velmar export --chip BCM56470_A0"},

@@ -28,8 +28,10 @@ Listing listTablesOf(const Catalogue::Chip& chip, U8 variant) {
 /// "64", or "12-64" where chips differ.
 Cell spread(const std::set<U32>& numbers) {
   if (numbers.size() == 1) return *numbers.begin();
+  std::string list;
+  for (const U32 number : numbers) list += formatText("{}{}", list.empty() ? '[' : ',', number);
   const std::string text = formatText("{}-{}", *numbers.begin(), *numbers.rbegin());
-  return Cell(std::vector<U32>(numbers.begin(), numbers.end())).shownAs(text);
+  return Cell::ofJson(list + "]").shownAs(text);
 }
 
 Listing listTables() {

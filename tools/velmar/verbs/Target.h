@@ -5,7 +5,7 @@
 #include "model/Layout.h"
 #include "output/Listing.h"
 
-// What the options that several verbs share mean.
+// The options that several verbs share, as values.
 
 namespace Tool {
 
