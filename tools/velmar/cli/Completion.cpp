@@ -2,7 +2,7 @@
 
 #include "cli/Verb.h"
 #include "model/Failure.h"
-#include "model/Names.h"
+#include "model/Layout.h"
 #include "model/Text.h"
 
 namespace Tool {
@@ -56,11 +56,9 @@ std::vector<std::string> fieldProposals(const Context& context) {
   if (context.positionals.empty()) return {};
   const Catalogue::Table table = findTable(context.positionals.front());
   if (context.chip.empty()) return fieldNames(table);
-  const Catalogue::Chip chip = findChip(context.chip);
+  const Layout layout(table, findChip(context.chip), 0);
   std::vector<std::string> names;
-  for (U32 i = 0; i < table.fieldCount(); ++i) {
-    if (table.range(i, chip.number).width != 0) names.emplace_back(table.field(i).accessor);
-  }
+  for (const FieldPlace& place : layout.fields()) names.emplace_back(place.name());
   return names;
 }
 

@@ -3,37 +3,20 @@
 #include <string>
 #include <vector>
 
+#include "model/Text.h"
+
 namespace Tool {
 
 /// What a command line holds, as it was typed.
 struct Arguments {
-  std::string table;
-  std::vector<std::string> files;
-  std::string pattern;
-  std::vector<std::string> assignments;
+  std::string table, pattern;
+  std::vector<std::string> files, assignments;
 
-  std::vector<std::string> chips;
-  std::string variant;
-  std::string format;
-  std::string output;
-  std::string color;
-  std::string index;
-  std::string array;
-  std::string identifier;
-  std::string find;
-  std::vector<std::string> fields;
-  std::vector<std::string> where;
-  std::string input;
-  std::string hexOrder;
-  std::string stride;
-  std::string first;
-  std::string base;
-  bool nonzero = false;
-  bool check = false;
-  bool whole = false;
-  bool quiet = false;
-  bool diagram = false;
-  bool help = false;
+  std::vector<std::string> chips, fields, where;
+  std::string variant, format, output, color;
+  std::string index, array, identifier, find;
+  std::string input, hexOrder, stride, first, base;
+  bool nonzero = false, check = false, whole = false, quiet = false, diagram = false, help = false;
 };
 
 /// What the shell can propose for a value.
@@ -58,135 +41,106 @@ struct Member {
 struct Option {
   const char* names;  ///< such as "-o,--output"
   const char* value;  ///< what the help calls the value; null for a switch
-  const char* meaning;
   Member member;
+  const char* meaning;
   Proposal proposal = Proposal::nothing;
-  const char* choices = "";  ///< the only values, separated by commas; empty: any
   bool required = false;
+  const char* choices = "";  ///< the only values, separated by commas; empty: any
 
   /// The name as the help and the messages use it, such as "--output".
-  std::string longName() const;
+  std::string longName() const { return split(names, ',').back(); }
 };
 
 /// An argument without a name: its position says what it is.
 struct Positional {
   const char* value;
-  const char* meaning;
   Member member;
+  const char* meaning;
   Proposal proposal = Proposal::nothing;
   bool required = false;
 };
 
+constexpr Option oneOf(const char* choices, Option option) {
+  option.choices = choices;
+  return option;
+}
+
+// clang-format off
 namespace Options {
 
-inline constexpr Option chip{"-c,--chip",
-                             "CHIP",
-                             "the chip: a name such as BCM56990_B0 or 56990, or a number",
-                             &Arguments::chips,
-                             Proposal::chips,
-                             "",
-                             true};
-inline constexpr Option chips{"-c,--chip",
-                              "CHIP",
-                              "a chip; give the option twice, old chip first",
-                              &Arguments::chips,
-                              Proposal::chips,
-                              "",
-                              true};
-inline constexpr Option chipIfAny{"-c,--chip", "CHIP", "this chip only", &Arguments::chips,
-                                  Proposal::chips};
-inline constexpr Option variant{"--variant", "N", "table variant, 0 to 255 (default 0)",
-                                &Arguments::variant};
+inline constexpr Option
+    chip{"-c,--chip", "CHIP", &Arguments::chips,
+         "the chip: a name such as BCM56990_B0 or 56990, or a number", Proposal::chips, true},
+    chips{"-c,--chip", "CHIP", &Arguments::chips,
+          "a chip; give the option twice, old chip first", Proposal::chips, true},
+    chipIfAny{"-c,--chip", "CHIP", &Arguments::chips, "this chip only", Proposal::chips},
+    variant{"--variant", "N", &Arguments::variant, "table variant, 0 to 255 (default 0)"},
+    output{"-o,--output", "FILE", &Arguments::output,
+           "write the result to FILE, whole or not at all (default: standard output)",
+           Proposal::files},
+    color = oneOf("auto,always,never", {"--color", "WHEN", &Arguments::color,
+            "colours, by default on a terminal, unless NO_COLOR is set"}),
+    index{"--index", "LIST", &Arguments::index,
+          "only these entries, such as 100, 0-99 or 1,5,100-199"},
+    changeIndex{"--index", "LIST", &Arguments::index,
+          "the entries to make, or with --base to change, such as 100 or 1,5,100-199"},
+    entryIndex{"--index", "N", &Arguments::index, "the entry; for a register array its element"},
+    array{"--array", "N", &Arguments::array, "the element of a register array"},
+    identifier{"--identifier", "N", &Arguments::identifier, "the instance (default 0)"},
+    find{"--find", "ADDRESS", &Arguments::find,
+         "print what has this address, such as 0x0c7c0064"},
+    fields{"--fields", "NAMES", &Arguments::fields, "only these fields, separated by commas",
+           Proposal::fields},
+    where{"--where", "FIELD=VALUE", &Arguments::where,
+          "only entries where the field has the value or, with !=, does not have it; may be "
+          "repeated: all must hold", Proposal::assignments},
+    nonzero{"--nonzero", nullptr, &Arguments::nonzero, "skip entries that are all zero"},
+    check{"--check", nullptr, &Arguments::check,
+          "instead of the entries, report those with bits set outside all fields or beyond the "
+          "end of the table; exit 1 if there are any"},
+    input = oneOf("auto,raw,hex,xxd,json", {"--input", "FORMAT", &Arguments::input,
+            "format of the dump (default: recognized by its first bytes)"}),
+    hexOrder = oneOf("bytes,words,int", {"--hex-order", "ORDER", &Arguments::hexOrder,
+               "how to read hex digits; bytes: the first byte first; words: 32-bit words, the "
+               "first word first; int: one number, highest digit first"}),
+    stride{"--stride", "BYTES", &Arguments::stride,
+           "bytes from one entry of the dump to the next, at most 65536 (default: the bytes of "
+           "an entry)"},
+    first{"--first", "N", &Arguments::first,
+          "index of the first entry of a partial dump (default 0)"},
+    base{"--base", "FILE", &Arguments::base,
+         "change the entries of this dump instead of making new ones", Proposal::files},
+    whole{"--whole", nullptr, &Arguments::whole,
+          "write the whole table: entries that are not given are zero"},
+    quiet{"-q,--quiet", nullptr, &Arguments::quiet, "print nothing: the exit code is the answer"},
+    diagram{"--diagram", nullptr, &Arguments::diagram, "draw the entry in rows of 32 bits"},
+    help{"-h,--help", nullptr, &Arguments::help, "print this help"};
+
 /// --format with the formats of a verb; the first is the default.
 constexpr Option format(const char* choices) {
-  return {"-f,--format",      "FORMAT",          "form of the result, by default the first",
-          &Arguments::format, Proposal::nothing, choices};
+  return oneOf(choices, {"-f,--format", "FORMAT", &Arguments::format,
+                         "form of the result, by default the first"});
 }
 inline constexpr Option listFormat = format("table,json,jsonl,csv");
-inline constexpr Option output{
-    "-o,--output", "FILE",
-    "write the result to FILE, whole or not at all (default: standard output)", &Arguments::output,
-    Proposal::files};
-inline constexpr Option color{"--color",
-                              "WHEN",
-                              "colours, by default on a terminal, unless NO_COLOR is set",
-                              &Arguments::color,
-                              Proposal::nothing,
-                              "auto,always,never"};
-inline constexpr Option index{
-    "--index", "LIST", "only these entries, such as 100, 0-99 or 1,5,100-199", &Arguments::index};
-inline constexpr Option changeIndex{
-    "--index", "LIST", "the entries to make, or with --base to change, such as 100 or 1,5,100-199",
-    &Arguments::index};
-inline constexpr Option entryIndex{"--index", "N", "the entry; for a register array its element",
-                                   &Arguments::index};
-inline constexpr Option array{"--array", "N", "the element of a register array", &Arguments::array};
-inline constexpr Option identifier{"--identifier", "N", "the instance (default 0)",
-                                   &Arguments::identifier};
-inline constexpr Option find{"--find", "ADDRESS", "print what has this address, such as 0x0c7c0064",
-                             &Arguments::find};
-inline constexpr Option fields{"--fields", "NAMES", "only these fields, separated by commas",
-                               &Arguments::fields, Proposal::fields};
-inline constexpr Option where{"--where", "FIELD=VALUE",
-                              "only entries where the field has the value or, with !=, does not "
-                              "have it; may be repeated: all must hold",
-                              &Arguments::where, Proposal::assignments};
-inline constexpr Option nonzero{"--nonzero", nullptr, "skip entries that are all zero",
-                                &Arguments::nonzero};
-inline constexpr Option check{"--check", nullptr,
-                              "instead of the entries, report those with bits set outside all "
-                              "fields or beyond the end of the table; exit 1 if there are any",
-                              &Arguments::check};
-inline constexpr Option input{"--input",
-                              "FORMAT",
-                              "format of the dump (default: recognized by its first bytes)",
-                              &Arguments::input,
-                              Proposal::nothing,
-                              "auto,raw,hex,xxd,json"};
-inline constexpr Option hexOrder{
-    "--hex-order",
-    "ORDER",
-    "how to read hex digits; bytes: the first byte first; words: 32-bit words, the first word "
-    "first; int: one number, highest digit first",
-    &Arguments::hexOrder,
-    Proposal::nothing,
-    "bytes,words,int"};
-inline constexpr Option stride{
-    "--stride", "BYTES",
-    "bytes from one entry of the dump to the next, at most 65536 (default: the bytes of an entry)",
-    &Arguments::stride};
-inline constexpr Option first{
-    "--first", "N", "index of the first entry of a partial dump (default 0)", &Arguments::first};
-inline constexpr Option base{"--base", "FILE",
-                             "change the entries of this dump instead of making new ones",
-                             &Arguments::base, Proposal::files};
-inline constexpr Option whole{"--whole", nullptr,
-                              "write the whole table: entries that are not given are zero",
-                              &Arguments::whole};
-inline constexpr Option quiet{"-q,--quiet", nullptr, "print nothing: the exit code is the answer",
-                              &Arguments::quiet};
-inline constexpr Option diagram{"--diagram", nullptr, "draw the entry in rows of 32 bits",
-                                &Arguments::diagram};
-inline constexpr Option help{"-h,--help", nullptr, "print this help", &Arguments::help};
 
 }  // namespace Options
 
 namespace Positionals {
 
-inline constexpr Positional table{"TABLE", "the table, such as VlanEntry or vlan",
-                                  &Arguments::table, Proposal::tables, true};
-inline constexpr Positional tableIfAny{"TABLE", "this table only", &Arguments::table,
-                                       Proposal::tables};
-inline constexpr Positional dump{"FILE", "the dump; - or nothing: standard input",
-                                 &Arguments::files, Proposal::files};
-inline constexpr Positional oldAndNew{"OLD NEW", "two dumps; - is standard input",
-                                      &Arguments::files, Proposal::files, true};
-inline constexpr Positional pattern{"PATTERN",
-                                    "part of a field's name, a name with * and ?, or an identifier",
-                                    &Arguments::pattern};
-inline constexpr Positional assignments{
-    "FIELD=VALUE", "fields to set; @FILE takes them from a JSON file, @- from standard input",
-    &Arguments::assignments, Proposal::assignments};
+inline constexpr Positional
+    table{"TABLE", &Arguments::table, "the table, such as VlanEntry or vlan",
+          Proposal::tables, true},
+    tableIfAny{"TABLE", &Arguments::table, "this table only", Proposal::tables},
+    dump{"FILE", &Arguments::files, "the dump; - or nothing: standard input", Proposal::files},
+    oldAndNew{"OLD NEW", &Arguments::files, "two dumps; - is standard input",
+              Proposal::files, true},
+    pattern{"PATTERN", &Arguments::pattern,
+            "part of a field's name, a name with * and ?, or an identifier"},
+    assignments{"FIELD=VALUE", &Arguments::assignments,
+                "fields to set; @FILE takes them from a JSON file, @- from standard input",
+                Proposal::assignments};
 
 }  // namespace Positionals
+// clang-format on
+
 }  // namespace Tool

@@ -9,7 +9,6 @@
 #include <cstring>
 
 #include "model/Failure.h"
-#include "model/Text.h"
 
 namespace Tool {
 namespace {

@@ -2,7 +2,6 @@
 
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "input/ByteStream.h"
 #include "model/Entry.h"

@@ -2,6 +2,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include "input/EntryReader.h"
+
 #include "model/Failure.h"
 #include "model/Text.h"
 

@@ -2,10 +2,8 @@
 
 #include <memory>
 #include <optional>
-#include <utility>
 #include <vector>
 
-#include "input/EntryReader.h"
 #include "input/JsonText.h"
 #include "model/EntryBuilder.h"
 

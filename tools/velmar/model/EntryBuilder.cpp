@@ -1,7 +1,5 @@
 #include "model/EntryBuilder.h"
 
-#include <algorithm>
-
 #include "model/Failure.h"
 #include "model/Text.h"
 

@@ -129,9 +129,7 @@ std::vector<std::string> chipsOf(const Catalogue::Table& table) {
 std::vector<std::string> chipsOf(const Catalogue::Table& table, U32 field) {
   std::vector<std::string> names;
   for (const Catalogue::Chip& chip : allChips()) {
-    if (table.isOn(chip.number) && table.range(field, chip.number).width != 0) {
-      names.emplace_back(chip.name);
-    }
+    if (table.range(field, chip.number).width != 0) names.emplace_back(chip.name);
   }
   return names;
 }

@@ -6,7 +6,6 @@
 
 namespace Tool {
 
-Cell::Cell(U32 number) : Cell(U64{number}) {}
 Cell::Cell(U64 number) : json_(std::to_string(number)), text_(json_) {}
 Cell::Cell(const std::vector<std::string>& list)
     : Cell(nlohmann::json(list).dump(), join(list, " ")) {}

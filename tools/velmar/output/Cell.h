@@ -12,7 +12,7 @@ class Cell {
  public:
   Cell(std::string text) : text_(std::move(text)) {}
   Cell(const char* text) : text_(text) {}
-  Cell(U32 number);
+  Cell(U32 number) : Cell(U64{number}) {}
   Cell(U64 number);
   Cell(bool value) : Cell(value ? "true" : "false", value ? "yes" : "no") {}
   Cell(std::nullptr_t) : Cell("null", "-") {}

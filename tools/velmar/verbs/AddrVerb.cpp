@@ -1,5 +1,4 @@
 #include "model/Failure.h"
-#include "model/Text.h"
 #include "output/Listing.h"
 #include "verbs/Target.h"
 #include "verbs/Verbs.h"
@@ -67,11 +66,9 @@ Listing entriesAtAddress(const Arguments& arguments) {
   const Catalogue::Chip chip = chipOf(arguments);
   const U8 variant = variantOf(arguments);
   Listing listing = newListing();
-  if (!arguments.table.empty()) {
-    addMatches(listing, layoutOf(arguments), static_cast<U32>(address));
-    return listing;
-  }
-  for (const Catalogue::Table& table : tablesOn(chip, variant)) {
+  const bool isNamed = !arguments.table.empty();
+  for (const Catalogue::Table& table :
+       isNamed ? std::vector{findTable(arguments.table)} : tablesOn(chip, variant)) {
     addMatches(listing, Layout(table, chip, variant), static_cast<U32>(address));
   }
   return listing;

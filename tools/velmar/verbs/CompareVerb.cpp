@@ -48,21 +48,18 @@ class ChipComparison {
   void compareGeometry(const Catalogue::Table& table) {
     const Geometry before = table.geometry(before_.number);
     const Geometry after = table.geometry(after_.number);
-    const auto compareCells = [&](const char* part, const Cell& old, const Cell& now) {
+    const auto compareCell = [&](const char* part, const Cell& old, const Cell& now) {
       if (old.json() != now.json()) add(table, part, "changed", old, now);
     };
-    const auto compareNumber = [&](const char* part, U32 Geometry::*member) {
-      compareCells(part, before.*member, after.*member);
-    };
-    compareCells("(entry bytes)", U32{4} * before.width, U32{4} * after.width);
-    compareNumber("(entries)", &Geometry::entries);
-    compareNumber("(elements)", &Geometry::arrayElements);
-    compareCells("(address)", addressText(before.base), addressText(after.base));
-    compareNumber("(element stride)", &Geometry::addrStride);
-    compareNumber("(identifiers)", &Geometry::identifiers);
-    compareNumber("(access)", &Geometry::accessType);
-    compareNumber("(block)", &Geometry::block);
-    compareCells("(variants)", variantsText(before), variantsText(after));
+    compareCell("(entry bytes)", U32{4} * before.width, U32{4} * after.width);
+    compareCell("(entries)", before.entries, after.entries);
+    compareCell("(elements)", before.arrayElements, after.arrayElements);
+    compareCell("(address)", addressText(before.base), addressText(after.base));
+    compareCell("(element stride)", before.addrStride, after.addrStride);
+    compareCell("(identifiers)", before.identifiers, after.identifiers);
+    compareCell("(access)", before.accessType, after.accessType);
+    compareCell("(block)", before.block, after.block);
+    compareCell("(variants)", variantsText(before), variantsText(after));
   }
 
   static const char* variantsText(const Geometry& geometry) {

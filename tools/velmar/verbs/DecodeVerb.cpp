@@ -5,8 +5,8 @@
 #include "model/Text.h"
 #include "model/Value.h"
 #include "output/EntryWriter.h"
+#include "output/Listing.h"
 #include "output/Progress.h"
-#include "output/RowWriter.h"
 #include "verbs/Target.h"
 #include "verbs/Verbs.h"
 

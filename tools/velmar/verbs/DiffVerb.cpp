@@ -2,11 +2,10 @@
 
 #include "model/Failure.h"
 #include "model/IndexSet.h"
-#include "model/Text.h"
 #include "model/Value.h"
 #include "output/EntryWriter.h"
+#include "output/Listing.h"
 #include "output/Progress.h"
-#include "output/RowWriter.h"
 #include "output/ValueText.h"
 #include "verbs/Target.h"
 #include "verbs/Verbs.h"
@@ -197,9 +196,6 @@ class Report {
   RowWriter rows_;
 };
 
-constexpr const char* onlyInOld = "only in OLD";
-constexpr const char* onlyInNew = "only in NEW";
-
 class Diff {
  public:
   Diff(const Arguments& arguments, const Layout& layout)
@@ -235,7 +231,7 @@ class Diff {
       comparePair();
     } else {
       const U64 index = takesOld ? old_.entry().index : new_.entry().index;
-      if (selected_.has(index)) reportOnlyIn(index, takesOld ? onlyInOld : onlyInNew);
+      if (selected_.has(index)) reportOnlyIn(index, takesOld ? "only in OLD" : "only in NEW");
     }
     if (takesOld) old_.take();
     if (takesNew) new_.take();

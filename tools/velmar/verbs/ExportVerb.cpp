@@ -28,9 +28,8 @@ Json layoutAsJson(const Catalogue::Table& table, const Catalogue::Chip& chip) {
     if (range.width == 0) continue;
     fields[table.field(i).accessor] = {{"offset", range.offset}, {"width", range.width}};
   }
-  const bool anyVariant = geometry.variants == Catalogue::Variants::any;
   return {{"chip", chip.name},
-          {"variants", anyVariant ? "any" : "zeroOnly"},
+          {"variants", geometry.variants == Catalogue::Variants::any ? "any" : "zeroOnly"},
           {"entryBytes", 4U * geometry.width},
           {"entries", geometry.entries},
           {"arrayElements", geometry.arrayElements},
@@ -51,10 +50,9 @@ Json tableAsJson(const Catalogue::Table& table, const std::vector<Catalogue::Chi
   for (const Catalogue::Chip& chip : chips) {
     if (table.isOn(chip.number, variant)) layouts.push_back(layoutAsJson(table, chip));
   }
-  const bool isTable = table.kind() == Catalogue::Kind::table;
   return {{"name", table.name()},
           {"purpose", table.purpose()},
-          {"kind", isTable ? "table" : "registerArray"},
+          {"kind", table.kind() == Catalogue::Kind::table ? "table" : "registerArray"},
           {"rawBytes", table.rawBytes()},
           {"allFieldsBytes", table.allFieldsBytes()},
           {"fields", std::move(fields)},

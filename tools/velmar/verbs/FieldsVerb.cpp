@@ -1,9 +1,8 @@
 #include <fnmatch.h>
 
-#include <algorithm>
+#include <set>
 
 #include "model/Failure.h"
-#include "model/Layout.h"
 #include "model/Text.h"
 #include "verbs/Target.h"
 #include "verbs/Verbs.h"
@@ -48,13 +47,11 @@ Listing matchingFields(const FieldPattern& pattern) {
 }
 
 std::vector<std::string> allFieldNames() {
-  std::vector<std::string> names;
+  std::set<std::string> names;
   for (const Catalogue::Table& table : allTables()) {
-    for (std::string& name : fieldNames(table)) names.push_back(std::move(name));
+    for (const std::string& name : fieldNames(table)) names.insert(name);
   }
-  std::sort(names.begin(), names.end());
-  names.erase(std::unique(names.begin(), names.end()), names.end());
-  return names;
+  return {names.begin(), names.end()};
 }
 
 int run(const Arguments& arguments) {

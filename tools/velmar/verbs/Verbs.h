@@ -15,6 +15,4 @@ Verb fieldsVerb();
 Verb layoutVerb();
 Verb tablesVerb();
 
-VerbList allVerbs();
-
 }  // namespace Tool
