@@ -1,4 +1,3 @@
-#include "output/Append.h"
 #include "output/EntryWriter.h"
 #include "output/JsonRows.h"
 #include "output/ValueText.h"

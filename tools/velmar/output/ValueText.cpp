@@ -1,7 +1,5 @@
 #include "output/ValueText.h"
 
-#include "output/Append.h"
-
 namespace Tool {
 namespace {
 
@@ -38,20 +36,11 @@ size_t longestValueJson(const FieldPlace& place) {
   return numbers + place.width / 4 + digitsOfPort * place.width;
 }
 
-char* appendValueJson(char* at, const FieldPlace& place, const U8* entry, U32 entryBytes) {
-  if (place.isScalar()) {
-    const U64 value = readScalar(place, entry, entryBytes);
-    at = appendHex(at, value);
-    *at++ = '"';
-    if (isExactInJson(place.width)) at = appendDecimal(append(at, R"(,"decimal":)"), value);
-  } else {
-    const Value value = Value::read(place, entry, entryBytes);
-    at = append(at, value.hexDigits());
-    *at++ = '"';
-    if (place.isBitmap()) at = appendPorts(at, value);
-  }
-  *at++ = '}';
-  return at;
+char* appendWideJson(char* at, const FieldPlace& place, const U8* entry, U32 entryBytes) {
+  const Value value = Value::read(place, entry, entryBytes);
+  at = append(append(at, value.hexDigits()), "\"");
+  if (place.isBitmap()) at = appendPorts(at, value);
+  return append(at, "}");
 }
 
 std::string reservedBits(const Layout& layout, const U8* entry) {
