@@ -10,9 +10,9 @@
 #include <string_view>
 #include <vector>
 
-#include "Failure.h"
-#include "Layout.h"
-#include "Text.h"
+#include "model/Failure.h"
+#include "model/Layout.h"
+#include "model/Text.h"
 
 // What the fuzz targets share. An input is a few bytes that choose, and the data behind them.
 

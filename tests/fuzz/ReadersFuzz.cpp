@@ -3,9 +3,9 @@
 
 #include <memory>
 
-#include "EntryReader.h"
-#include "EntryWriter.h"
 #include "Fuzzing.h"
+#include "input/EntryReader.h"
+#include "output/EntryWriter.h"
 
 namespace Fuzzing {
 namespace {
@@ -57,7 +57,6 @@ void printHex(Tool::Output& output, const Dump& dump, U32 group) {
 void printJson(Tool::Output& output, const Dump& dump, const Tool::Layout& layout,
                Tool::Format format) {
   const auto writer = Tool::makeEntryWriter(output, layout, layout.fields(), format);
-  writer->begin();
   for (size_t i = 0; i < dump.entries.size(); ++i) {
     writer->write({dump.indexes[i], dump.entries[i].data()});
   }

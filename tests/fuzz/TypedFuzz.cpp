@@ -1,12 +1,12 @@
 // What people type: values of fields, index sets, names and numbers. What is accepted means what
 // a plain reading of it means, and survives being printed and typed again.
 
-#include "EntryBuilder.h"
 #include "Fuzzing.h"
-#include "IndexSet.h"
-#include "JsonInput.h"
-#include "Target.h"
-#include "Text.h"
+#include "input/JsonInput.h"
+#include "model/EntryBuilder.h"
+#include "model/IndexSet.h"
+#include "model/Text.h"
+#include "verbs/Target.h"
 
 namespace Fuzzing {
 namespace {
@@ -40,7 +40,7 @@ void checkBuilt(const Tool::Layout& layout, const std::vector<Tool::Assignment>&
     const bool holds = Tool::Value::read(place, entry, layout.entryBytes()) == assignment.value;
     require(holds, "an entry has the values it was given", place.name());
   }
-  require(!layout.hasBitsOutside(builder.bytes().data()), "fields set no bit outside all fields");
+  require(!layout.hasReservedBits(builder.bytes().data()), "fields set no bit outside all fields");
 }
 
 void typeAssignments(const Tool::Layout& layout, const std::string& text) {
@@ -54,7 +54,7 @@ void typeAssignments(const Tool::Layout& layout, const std::string& text) {
 void typeJson(const Tool::Layout& layout, const std::string& text) {
   MemoryPipe::fill(text);
   Tool::JsonInput json(std::make_unique<Tool::ByteStream>("-", nullptr, 64), layout, 0);
-  for (Tool::JsonInput::Part part; json.next(part);) checkBuilt(layout, part.assignments);
+  for (Tool::JsonInput::Object object; json.next(object);) checkBuilt(layout, object.assignments);
 }
 
 void typeIndexes(const std::string& text) {

@@ -2,10 +2,10 @@
 // the accessors of the class or through texts of the command, give the same field bits and leave the
 // bits outside all fields.
 
-#include "EntryBuilder.h"
 #include "Fuzzing.h"
 #include "FieldLists.h"
 #include "Velmar/MetaInfo.h"
+#include "model/EntryBuilder.h"
 #include "tables/Classes.h"
 
 namespace Fuzzing {
@@ -89,8 +89,8 @@ extern "C" int LLVMFuzzerTestOneInput(const U8* data, size_t size) {
   });
   require(failure.empty(), "values that were read are taken", failure);
   for (size_t i = 0; i < entry.size(); ++i) {
-    const U8 outside = i < layout.entryBytes() ? layout.outsideMask()[i] : U8{0xff};
-    require((entry[i] ^ copy[i]) == outside, "the same fields, and all other bits as before",
+    const U8 others = i < layout.entryBytes() ? layout.reservedMask()[i] : U8{0xff};
+    require((entry[i] ^ copy[i]) == others, "the same fields, and all other bits as before",
             layout.name());
   }
   return 0;

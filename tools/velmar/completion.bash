@@ -1,4 +1,4 @@
-# Completion of velmar for bash. The command itself knows what may stand where.
+# Completion of velmar for bash. The command itself lists what fits.
 
 _velmar() {
   local IFS=$'\n'

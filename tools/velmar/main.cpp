@@ -1,19 +1,27 @@
+#include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <new>
 
-#include "CommandLine.h"
-#include "Failure.h"
-#include "Output.h"
+#include "cli/CommandLine.h"
+#include "model/Failure.h"
+#include "output/Output.h"
+#include "verbs/Verbs.h"
 
 int main(int count, char** words) {
-  Tool::installSignalHandlers();
+  using namespace Tool;
+  installSignalHandlers();
   try {
-    return Tool::runCommandLine(count, words);
+    const VerbList verbs = {{"decode", decodeVerb}, {"encode", encodeVerb},
+                            {"diff", diffVerb},     {"addr", addrVerb},
+                            {"layout", layoutVerb}, {"compare", compareVerb},
+                            {"chips", chipsVerb},   {"tables", tablesVerb},
+                            {"fields", fieldsVerb}, {"export", exportVerb}};
+    return runCommandLine(verbs, {words + std::min(count, 1), words + count});
   } catch (const std::bad_alloc&) {
     std::fputs("velmar: out of memory; free some and try again\n", stderr);
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "velmar: %s\n", failure.what());
   }
-  return Tool::exitFailure;
+  return exitFailure;
 }

@@ -1,0 +1,55 @@
+#include "cli/CommandLine.h"
+
+#include <cstdio>
+
+#include "cli/Completion.h"
+#include "cli/Help.h"
+#include "cli/ManPage.h"
+#include "cli/Parser.h"
+#include "model/Failure.h"
+#include "model/Names.h"
+#include "model/Text.h"
+#include "output/Output.h"
+
+namespace Tool {
+namespace {
+
+int print(const std::string& text) {
+  Output output("", "never");
+  output.write(text);
+  output.finish();
+  return exitSuccess;
+}
+
+Verb findVerb(const VerbList& verbs, const std::string& name) {
+  std::vector<std::string> names;
+  for (const VerbName& verb : verbs) {
+    if (name == verb.name) return verb.make();
+    names.emplace_back(verb.name);
+  }
+  fail("unknown verb {}; {}\"velmar --help\" lists the verbs", inQuotes(name),
+       didYouMean(name, names));
+}
+
+}  // namespace
+
+int runCommandLine(const VerbList& verbs, const std::vector<std::string>& words) {
+  if (words.empty()) {
+    std::fputs(overview(verbs).c_str(), stderr);
+    return exitFailure;
+  }
+  const std::string& first = words[0];
+  const std::vector<std::string> rest(words.begin() + 1, words.end());
+  const bool asksForHelp = first == "--help" || first == "-h" || first == "help";
+  if (first == "help" && !rest.empty()) return print(helpOf(findVerb(verbs, rest[0])));
+  if (asksForHelp) return print(overview(verbs));
+  if (first == "--version") return print(formatText("velmar {}\n", VELMAR_VERSION));
+  // For the build and for the shell, not for people.
+  if (first == "__man") return print(manPage(verbs));
+  if (first == "__complete") return print(completion(verbs, rest));
+  const Verb verb = findVerb(verbs, first);
+  const Arguments arguments = parseArguments(verb, rest);
+  return arguments.help ? print(helpOf(verb)) : verb.run(arguments);
+}
+
+}  // namespace Tool

@@ -1,0 +1,97 @@
+#include "cli/Help.h"
+
+#include <algorithm>
+
+#include "model/Formatting.h"
+#include "model/Text.h"
+
+namespace Tool {
+namespace {
+
+constexpr size_t lineWidth = 80;
+constexpr size_t headingWidth = 26;
+
+/// A text in lines; those after the first are indented.
+std::string paragraph(const std::string& text, size_t indent = 0) {
+  std::string lines;
+  for (const std::string& line : wrap(text, lineWidth - indent)) {
+    if (!lines.empty()) lines.append(indent, ' ');
+    lines += line.substr(0, line.find_last_not_of(' ') + 1) + '\n';
+  }
+  return lines;
+}
+
+/// A heading with its meaning beside it.
+std::string item(const std::string& heading, const std::string& meaning, size_t width) {
+  std::string text = "  " + heading;
+  text.resize(std::max(text.size() + 2, width), ' ');
+  return text + paragraph(meaning, width);
+}
+
+}  // namespace
+
+const char* const purposeText =
+    "Decodes, encodes, compares and explains the VLAN-related memories and registers of Ethernet "
+    "switch chips, offline, from saved dumps.";
+const char* const exitCodeText =
+    "Exit code: 0 success, or no difference; 1 a difference or a finding; 2 wrong usage, bad input "
+    "or a file that cannot be read or written.";
+
+std::string headingOf(const Option& option) {
+  std::string heading = join(split(option.names, ','), ", ");
+  if (option.value != nullptr) heading += formatText(" {}", option.value);
+  return heading;
+}
+
+std::string meaningOf(const Option& option) {
+  std::string meaning = option.meaning;
+  if (option.choices[0] != '\0') {
+    meaning += "; one of " + join(split(option.choices, ','), ", ");
+  }
+  return meaning;
+}
+
+std::string usageOf(const Verb& verb) {
+  std::string usage = formatText("velmar {}", verb.name);
+  std::string last;
+  for (const Positional& positional : verb.positionals) {
+    const std::string name = positional.required ? positional.value
+                             : positional.proposal == Proposal::assignments
+                                 ? formatText("[{}...]", positional.value)
+                                 : formatText("[{}]", positional.value);
+    (positional.proposal == Proposal::tables ? usage : last) += " " + name;
+  }
+  for (const Option& option : verb.options) {
+    if (option.required) usage += formatText(" {} {}", option.longName(), option.value);
+  }
+  return usage + " [OPTION...]" + last;
+}
+
+std::string overview(const VerbList& verbs) {
+  std::string text = "Usage: velmar VERB [ARGUMENT...]\n\n" + paragraph(purposeText) + "\nVerbs:\n";
+  for (const VerbName& name : verbs) text += item(name.name, name.make().summary, 12);
+  text += "\n\"velmar VERB --help\" explains a verb; \"velmar --version\" prints the version.\n";
+  text += paragraph(
+      "Names are forgiving: VlanEntry, vlan and VLAN are one table; BCM56990_B0, 56990 and 33 one "
+      "chip; fidId, FID_ID and 90 one field.");
+  return text + paragraph(exitCodeText);
+}
+
+std::string helpOf(const Verb& verb) {
+  std::string text = "Usage: " + usageOf(verb) + "\n\n" + paragraph(verb.summary);
+  if (verb.details[0] != '\0') text += "\n" + paragraph(verb.details);
+  if (!verb.positionals.empty()) text += "\nArguments:\n";
+  for (const Positional& positional : verb.positionals) {
+    text += item(positional.value, positional.meaning, headingWidth);
+  }
+  text += "\nOptions:\n";
+  for (const Option& option : verb.options) {
+    text += item(headingOf(option), meaningOf(option), headingWidth);
+  }
+  text += item(headingOf(Options::help), meaningOf(Options::help), headingWidth);
+  text += "\n" + paragraph(exitCodeText) + "\nExamples:\n";
+  for (const char* example : verb.examples) text += formatText("  {}\n", example);
+  return text;
+}
+
+}  // namespace Tool

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+#include "cli/Verb.h"
+
+namespace Tool {
+
+/// What "velmar --help" prints.
+std::string overview(const VerbList& verbs);
+/// What "velmar VERB --help" prints.
+std::string helpOf(const Verb& verb);
+
+/// The command line of a verb, such as "velmar decode TABLE --chip CHIP [OPTION...] [FILE]".
+std::string usageOf(const Verb& verb);
+/// An option as the help lists it, such as "-o, --output FILE".
+std::string headingOf(const Option& option);
+/// What the help says of an option, with its choices.
+std::string meaningOf(const Option& option);
+
+extern const char* const purposeText;
+extern const char* const exitCodeText;
+
+}  // namespace Tool

@@ -1,0 +1,56 @@
+#include "cli/ManPage.h"
+
+#include "model/Formatting.h"
+
+#include "cli/Help.h"
+
+namespace Tool {
+namespace {
+
+/// A text in which the formatter of manual pages finds no commands.
+std::string escaped(const std::string& text) {
+  std::string safe;
+  for (const char letter : text) {
+    if (letter == '-' || letter == '\\') {
+      safe += {'\\', letter};
+    } else if (letter == '\'') {
+      safe += "\\(aq";
+    } else {
+      safe += letter;
+    }
+  }
+  const bool isRequest = !safe.empty() && safe[0] == '.';
+  return isRequest ? "\\&" + safe : safe;
+}
+
+std::string item(const std::string& heading, const std::string& meaning) {
+  return formatText(".TP\n.B {}\n{}\n", escaped(heading), escaped(meaning));
+}
+
+std::string section(const Verb& verb) {
+  std::string text = formatText(".SS {}\n.B {}\n.PP\n{}\n", verb.name, escaped(usageOf(verb)),
+                                escaped(verb.summary));
+  if (verb.details[0] != '\0') text += formatText(".PP\n{}\n", escaped(verb.details));
+  for (const Positional& positional : verb.positionals) {
+    text += item(positional.value, positional.meaning);
+  }
+  for (const Option& option : verb.options) text += item(headingOf(option), meaningOf(option));
+  text += ".PP\nExamples:\n.PP\n.nf\n";
+  for (const char* example : verb.examples) text += formatText("    {}\n", escaped(example));
+  return text + ".fi\n";
+}
+
+}  // namespace
+
+std::string manPage(const VerbList& verbs) {
+  std::string text = formatText(
+      ".TH VELMAR 1 \"\" \"velmar {}\"\n"
+      ".SH NAME\nvelmar \\- decode, encode, compare and explain switch table entries\n"
+      ".SH SYNOPSIS\n.B velmar\nVERB [ARGUMENT...]\n"
+      ".SH DESCRIPTION\n{}\n.SH VERBS\n",
+      VELMAR_VERSION, escaped(purposeText));
+  for (const VerbName& name : verbs) text += section(name.make());
+  return text + formatText(".SH EXIT STATUS\n{}\n", escaped(exitCodeText));
+}
+
+}  // namespace Tool

@@ -1,0 +1,188 @@
+#include "input/JsonInput.h"
+
+#include <nlohmann/json.hpp>
+
+#include "input/EntryReader.h"
+
+#include "model/Failure.h"
+#include "model/Text.h"
+
+namespace Tool {
+namespace {
+
+using nlohmann::json;
+
+[[noreturn]] void failValue(const FieldPlace& place, const char* what) {
+  fail("{}: {}; give a number, a text such as \"0x1f\" or \"0-3,17\", or a list of ports",
+       place.name(), what);
+}
+
+Value portsValue(const FieldPlace& place, const json& list) {
+  if (!place.isBitmap()) failValue(place, "the field is not a bitmap");
+  Value value(place.width);
+  for (const json& port : list) {
+    if (!port.is_number_unsigned()) failValue(place, "a port must be a number");
+    addPort(place, value, port.get<U64>());
+  }
+  return value;
+}
+
+Value valueOf(const FieldPlace& place, const json& value);
+
+/// {"hex": ..., "decimal": ..., "ports": [...]}: one or more of them, with the same value.
+Value objectValue(const FieldPlace& place, const json& object) {
+  std::optional<Value> result;
+  for (const auto& [key, member] : object.items()) {
+    if (key != "hex" && key != "decimal" && key != "ports") {
+      failValue(place, "a value has the members hex, decimal and ports only");
+    }
+    const Value value = valueOf(place, member);
+    if (result && *result != value) failValue(place, "hex, decimal and ports disagree");
+    result = value;
+  }
+  if (!result) failValue(place, "there is no value");
+  return *result;
+}
+
+Value valueOf(const FieldPlace& place, const json& value) {
+  if (value.is_number_unsigned()) return makeValue(place, value.get<U64>());
+  if (value.is_boolean()) return makeValue(place, value.get<bool>() ? 1 : 0);
+  if (value.is_string()) return parseValue(place, value.get<std::string>());
+  if (value.is_array()) return portsValue(place, value);
+  if (value.is_object()) return objectValue(place, value);
+  failValue(place, value.is_number() ? "negative or fractional number" : "no value");
+}
+
+std::vector<Assignment> assignmentsOf(const Layout& layout, const json& fields) {
+  std::vector<Assignment> assignments;
+  for (const auto& [name, value] : fields.items()) {
+    const FieldPlace& place = layout.find(name);
+    assignments.push_back({place, valueOf(place, value)});
+  }
+  return assignments;
+}
+
+/// The whole entry as a number, of which only reserved bits may be set.
+std::vector<U8> reservedBitsOf(const Layout& layout, const json& member) {
+  const std::string text = member.is_string() ? member.get<std::string>() : "";
+  FieldPlace whole = layout.wholeEntry();
+  whole.field.accessor = "outsideFields";
+  const Value value = parseValue(whole, text);
+  std::vector<U8> bits(layout.entryBytes());
+  value.write(whole, bits.data(), layout.entryBytes());
+  for (size_t i = 0; i < bits.size(); ++i) {
+    if ((bits[i] & ~layout.reservedMask()[i]) != 0) {
+      fail("outsideFields: {} has bits inside fields; set the fields instead", text);
+    }
+  }
+  return bits;
+}
+
+/// The table and chip of an entry must be those of the command line.
+void checkSource(const Layout& layout, const json& object) {
+  const std::string table = object.value("table", layout.name());
+  const std::string chip = object.value("chip", layout.chip().name);
+  if (simplified(table) != simplified(layout.name()) || chip != layout.chip().name) {
+    fail("an entry of {} on {}, not of {} on {}; give that table and chip", inQuotes(table),
+         inQuotes(chip), layout.name(), layout.chip().name);
+  }
+}
+
+JsonInput::Object objectOf(const Layout& layout, const json& members, U64 nextIndex) {
+  if (!members.contains("fields")) return {std::nullopt, assignmentsOf(layout, members), {}};
+  checkSource(layout, members);
+  JsonInput::Object object;
+  object.index = nextIndex;
+  for (const auto& [key, member] : members.items()) {
+    if (key == "index") {
+      if (!member.is_number_unsigned() || member.get<U64>() > 0xffffffff) {
+        fail("index: not a number; give the index of the entry");
+      }
+      object.index = member.get<U64>();
+    } else if (key == "fields") {
+      if (!member.is_object()) fail("fields: not an object; give {{\"field\": value}}");
+      object.assignments = assignmentsOf(layout, member);
+    } else if (key == "outsideFields") {
+      object.reservedBits = reservedBitsOf(layout, member);
+    } else if (key != "table" && key != "chip" && key != "variant" && key != "address" &&
+               key != "accessType" && key != "block") {
+      fail("unknown member {}; an entry has index, fields and outsideFields", inQuotes(key));
+    }
+  }
+  return object;
+}
+
+/// The JSON library's message without its error code.
+std::string reasonOf(const json::exception& error) {
+  const std::string text = printable(error.what());
+  const size_t end = text.find("] ");
+  return end == std::string::npos ? text : text.substr(end + 2);
+}
+
+class JsonReader : public EntryReader {
+ public:
+  JsonReader(std::unique_ptr<ByteStream> stream, const Layout& layout, U64 first)
+      : input_(std::move(stream), layout, first), builder_(layout) {}
+
+  bool read(Entry& entry) override {
+    JsonInput::Object object;
+    if (!input_.next(object)) return false;
+    if (!object.index) {
+      fail(
+          "{}:{}: an object without \"fields\" is not an entry of a dump; give JSON such as decode "
+          "--format json prints",
+          input_.name(), input_.line());
+    }
+    builder_.startFromZero();
+    try {
+      for (const Assignment& assignment : object.assignments) builder_.set(assignment);
+    } catch (const Failure& failure) {
+      fail("{}:{}: {}", input_.name(), input_.line(), failure.what());
+    }
+    builder_.setReservedBits(object.reservedBits);
+    entry = {*object.index, builder_.bytes().data()};
+    return true;
+  }
+
+ private:
+  JsonInput input_;
+  EntryBuilder builder_;
+};
+
+}  // namespace
+
+JsonInput::JsonInput(std::unique_ptr<ByteStream> stream, const Layout& layout, U64 first)
+    : stream_(std::move(stream)), text_(*stream_), layout_(layout), index_(first) {}
+
+bool JsonInput::next(Object& object) {
+  std::string text;
+  for (;;) {
+    const JsonText::Chunk kind = text_.next(text);
+    if (kind == JsonText::Chunk::end) {
+      if (!isStarted_) fail("{}: no entry; check the file", name());
+      return false;
+    }
+    isStarted_ = true;
+    try {
+      const json members = json::parse(text);
+      if (kind == JsonText::Chunk::head) {
+        checkSource(layout_, members);
+        continue;
+      }
+      object = objectOf(layout_, members, index_);
+      if (object.index) index_ = *object.index + 1;
+      return true;
+    } catch (const json::exception& error) {
+      fail("{}:{}: {}; check the JSON", name(), line(), reasonOf(error));
+    } catch (const Failure& failure) {
+      fail("{}:{}: {}", name(), line(), failure.what());
+    }
+  }
+}
+
+std::unique_ptr<EntryReader> openJson(std::unique_ptr<ByteStream> stream, const Layout& layout,
+                                      const InputOptions& options) {
+  return std::make_unique<JsonReader>(std::move(stream), layout, options.first);
+}
+
+}  // namespace Tool

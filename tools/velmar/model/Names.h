@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Velmar/Catalogue.h"
+
+// Names as people type them: any case, with or without underscores.
+
+namespace Tool {
+
+namespace Catalogue = Velmar::Catalogue;
+
+/// A chip by its name ("BCM56990_B0", "56990_b0", "56990" where only one chip has that number) or
+/// by its ChipType_ number.
+Catalogue::Chip findChip(std::string_view name);
+
+/// A class by its name, with or without "Entry" or "Control" at its end.
+Catalogue::Table findTable(std::string_view name);
+
+/// Index of the field of a class, by accessor, hardware name or identifier.
+U32 findField(const Catalogue::Table& table, std::string_view name);
+
+/// Lower case, without underscores and hyphens.
+std::string simplified(std::string_view name);
+
+/// "did you mean A, B? " if candidates resemble `name`, otherwise nothing.
+std::string didYouMean(std::string_view name, const std::vector<std::string>& candidates);
+
+std::vector<Catalogue::Chip> allChips();
+std::vector<Catalogue::Table> allTables();
+/// The tables that a chip and variant have.
+std::vector<Catalogue::Table> tablesOn(const Catalogue::Chip& chip, U8 variant = 0);
+
+std::vector<std::string> chipNames();
+std::vector<std::string> tableNames();
+std::vector<std::string> fieldNames(const Catalogue::Table& table);
+/// The chips on which a class, or one field of it, exists.
+std::vector<std::string> chipsOf(const Catalogue::Table& table);
+std::vector<std::string> chipsOf(const Catalogue::Table& table, U32 field);
+
+}  // namespace Tool

@@ -1,0 +1,80 @@
+#include "model/Text.h"
+
+#include <charconv>
+
+namespace Tool {
+
+bool isBlank(char letter) { return letter == ' ' || letter == '\t' || letter == '\r'; }
+
+int hexDigit(char letter) {
+  if (letter >= '0' && letter <= '9') return letter - '0';
+  if (letter >= 'a' && letter <= 'f') return letter - 'a' + 10;
+  if (letter >= 'A' && letter <= 'F') return letter - 'A' + 10;
+  return -1;
+}
+
+std::optional<U64> parseNumber(std::string_view text) {
+  int base = 10;
+  if (text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X')) {
+    base = 16;
+    text.remove_prefix(2);
+  }
+  U64 value = 0;
+  const char* end = text.data() + text.size();
+  const auto result = std::from_chars(text.data(), end, value, base);
+  if (result.ec != std::errc{} || result.ptr != end) return std::nullopt;
+  return value;
+}
+
+std::string_view trim(std::string_view text) {
+  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+std::vector<std::string> split(std::string_view text, char separator) {
+  std::vector<std::string> parts;
+  for (;;) {
+    const size_t end = text.find(separator);
+    parts.emplace_back(trim(text.substr(0, end)));
+    if (end == std::string_view::npos) return parts;
+    text.remove_prefix(end + 1);
+  }
+}
+
+std::string join(const std::vector<std::string>& parts, std::string_view separator) {
+  std::string text;
+  for (const std::string& part : parts) {
+    if (!text.empty()) text += separator;
+    text += part;
+  }
+  return text;
+}
+
+std::vector<std::string> wrap(const std::string& text, size_t width) {
+  std::vector<std::string> lines;
+  size_t from = 0;
+  while (text.size() - from > width) {
+    size_t to = from + width;
+    const size_t soft = text.find_last_of(" ,", to - 1);
+    if (soft != std::string::npos && soft > from) to = soft + 1;
+    if (text[to] == ' ') ++to;
+    lines.push_back(text.substr(from, to - from));
+    from = to;
+  }
+  lines.push_back(text.substr(from));
+  return lines;
+}
+
+std::string printable(std::string_view text) {
+  std::string safe;
+  for (const char letter : text) safe += letter >= ' ' && letter <= '~' ? letter : '?';
+  return safe;
+}
+
+std::string inQuotes(std::string_view text) {
+  constexpr size_t longest = 60;
+  return '"' + printable(text.substr(0, longest)) + (text.size() > longest ? "...\"" : "\"");
+}
+
+}  // namespace Tool

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "AsicUtils/Types.h"
+
+// Operations on text that several verbs and input formats share.
+
+namespace Tool {
+
+/// A decimal number, or a hexadecimal one after "0x"; nothing else, and at most 64 bits.
+std::optional<U64> parseNumber(std::string_view text);
+
+/// The parts between the separators, without surrounding blanks.
+std::vector<std::string> split(std::string_view text, char separator);
+std::string join(const std::vector<std::string>& parts, std::string_view separator);
+
+std::string_view trim(std::string_view text);
+bool isBlank(char letter);
+
+/// Value of a hexadecimal digit; negative for any other letter.
+int hexDigit(char letter);
+
+/// Cuts a text into lines of at most `width` columns, preferably after a blank or comma.
+std::vector<std::string> wrap(const std::string& text, size_t width);
+
+/// A text with "?" in place of each byte that is not printable ASCII.
+std::string printable(std::string_view text);
+
+/// A text as error messages quote it: shortened, and printable.
+std::string inQuotes(std::string_view text);
+
+}  // namespace Tool

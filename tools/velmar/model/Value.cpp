@@ -1,0 +1,172 @@
+#include "model/Value.h"
+
+#include "Detail/CopyBits.h"
+#include "model/Failure.h"
+#include "model/Text.h"
+
+namespace Tool {
+namespace {
+
+[[noreturn]] void failTooLarge(const FieldPlace& place, std::string_view text) {
+  const std::string digits = formatText("{:x}", (1U << ((place.width - 1) % 4 + 1)) - 1) +
+                             std::string((place.width - 1) / 4, 'f');
+  fail("{}: value {} does not fit; the field has {} bit{}, its largest value is 0x{}", place.name(),
+       inQuotes(text), place.width, place.width == 1 ? "" : "s", digits);
+}
+
+U64 parsePort(const FieldPlace& place, std::string_view text) {
+  const std::optional<U64> port = parseNumber(text);
+  if (!port) {
+    fail("{}: {} is not a port; give ports such as 0-3,17, \"none\", or a hexadecimal number",
+         place.name(), inQuotes(text));
+  }
+  return *port;
+}
+
+Value parsePorts(const FieldPlace& place, std::string_view text) {
+  Value value(place.width);
+  if (text.empty() || text == "none") return value;
+  for (const std::string& part : split(text, ',')) {
+    const size_t dash = part.find('-');
+    const U64 first = parsePort(place, trim(std::string_view(part).substr(0, dash)));
+    const U64 last = dash == std::string::npos
+                         ? first
+                         : parsePort(place, trim(std::string_view(part).substr(dash + 1)));
+    if (last < first) {
+      fail("{}: port range {} runs backwards; give the lower port first", place.name(),
+           inQuotes(part));
+    }
+    addPort(place, value, last);
+    for (U64 port = first; port < last; ++port) addPort(place, value, port);
+  }
+  return value;
+}
+
+bool isHexNumber(std::string_view text) {
+  return text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X') &&
+         text.find_first_not_of("0123456789abcdefABCDEF", 2) == std::string_view::npos;
+}
+
+}  // namespace
+
+Value::Value(U32 width) : width_(width) {
+  if (wordCount() > maxWords) fail("a field of {} bits is wider than this program takes", width);
+  for (U32 i = 0; i < wordCount(); ++i) words_[i] = 0;
+}
+
+Value Value::read(const FieldPlace& place, const U8* entry, U32 entryBytes) {
+  Value value(place.width);
+  Detail::copyBits(reinterpret_cast<U8*>(value.words_.data()),
+                   static_cast<int>(4 * value.wordCount()), entry, static_cast<int>(entryBytes),
+                   static_cast<int>(place.width), 0, static_cast<int>(place.offset));
+  return value;
+}
+
+void Value::write(const FieldPlace& place, U8* entry, U32 entryBytes) const {
+  Detail::copyBits(entry, static_cast<int>(entryBytes), reinterpret_cast<const U8*>(words_.data()),
+                   static_cast<int>(4 * wordCount()), static_cast<int>(place.width),
+                   static_cast<int>(place.offset), 0);
+}
+
+bool Value::isZero() const {
+  for (U32 i = 0; i < wordCount(); ++i) {
+    if (words_[i] != 0) return false;
+  }
+  return true;
+}
+
+bool operator==(const Value& a, const Value& b) {
+  if (a.width_ != b.width_) return false;
+  for (U32 i = 0; i < a.wordCount(); ++i) {
+    if (a.words_[i] != b.words_[i]) return false;
+  }
+  return true;
+}
+
+std::string Value::hexDigits() const {
+  std::string digits;
+  for (U32 i = wordCount(); i-- > 0;) {
+    if (digits.empty() && words_[i] == 0) continue;
+    digits += digits.empty() ? formatText("{:x}", words_[i]) : formatText("{:08x}", words_[i]);
+  }
+  return digits.empty() ? "0" : digits;
+}
+
+std::optional<U64> Value::number() const {
+  for (U32 i = 2; i < wordCount(); ++i) {
+    if (words_[i] != 0) return std::nullopt;
+  }
+  const U64 high = wordCount() > 1 ? words_[1] : 0;
+  return high << 32 | words_[0];
+}
+
+Oru::PerUnitBitmap Value::ports() const {
+  Oru::PerUnitBitmap ports(width_);
+  for (U32 i = 0; i < wordCount(); ++i) ports.bitListIs(i, words_[i]);
+  return ports;
+}
+
+std::string Value::portRanges() const {
+  if (isZero()) return "none";
+  return ports().ranges().c_str();
+}
+
+void Value::setBit(U32 bit) { words_[bit / 32] |= 1U << bit % 32; }
+
+bool Value::setHexDigits(std::string_view digits) {
+  U32 bit = 0;
+  for (size_t i = digits.size(); i-- > 0; bit += 4) {
+    const U32 digit = static_cast<U32>(hexDigit(digits[i]));
+    for (U32 j = 0; j < 4; ++j) {
+      if ((digit >> j & 1U) == 0) continue;
+      if (bit + j >= width_) return false;
+      setBit(bit + j);
+    }
+  }
+  return true;
+}
+
+U64 readScalar(const FieldPlace& place, const U8* entry, U32 entryBytes) {
+  U64 value = 0;
+  Detail::copyBits(reinterpret_cast<U8*>(&value), sizeof(value), entry,
+                   static_cast<int>(entryBytes), static_cast<int>(place.width), 0,
+                   static_cast<int>(place.offset));
+  return value;
+}
+
+Value makeValue(const FieldPlace& place, U64 number) {
+  Value value(place.width);
+  if (!value.setHexDigits(formatText("{:x}", number))) {
+    failTooLarge(place, formatText("{}", number));
+  }
+  return value;
+}
+
+void addPort(const FieldPlace& place, Value& value, U64 port) {
+  if (port >= place.width) {
+    fail("{}: there is no port {}; the field has ports 0 to {}", place.name(), port,
+         place.width - 1);
+  }
+  value.setBit(static_cast<U32>(port));
+}
+
+Value parseValue(const FieldPlace& place, std::string_view text) {
+  if (isHexNumber(text)) {
+    Value value(place.width);
+    if (!value.setHexDigits(text.substr(2))) failTooLarge(place, text);
+    return value;
+  }
+  if (place.isBitmap()) return parsePorts(place, text);
+  const std::optional<U64> number = parseNumber(text);
+  if (number) return makeValue(place, *number);
+  const bool allDigits =
+      !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+  if (allDigits) {
+    fail("{}: value {} has more than 64 bits; give it in hexadecimal", place.name(),
+         inQuotes(text));
+  }
+  fail("{}: {} is not a number; give it in decimal, or in hexadecimal after 0x", place.name(),
+       inQuotes(text));
+}
+
+}  // namespace Tool

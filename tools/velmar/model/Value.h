@@ -1,0 +1,60 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "Oru/PerUnitBitmap.h"
+#include "model/Layout.h"
+
+namespace Tool {
+
+/// The value of a field of any width, as 32-bit words from the lowest bits up.
+class Value {
+ public:
+  /// Zero.
+  explicit Value(U32 width);
+  static Value read(const FieldPlace& place, const U8* entry, U32 entryBytes);
+  /// Writes the value into an entry. The field must have the width of the value.
+  void write(const FieldPlace& place, U8* entry, U32 entryBytes) const;
+
+  bool isZero() const;
+  friend bool operator==(const Value& a, const Value& b);
+  friend bool operator!=(const Value& a, const Value& b) { return !(a == b); }
+
+  /// Hexadecimal digits without leading zeros and without "0x".
+  std::string hexDigits() const;
+  std::string hex() const { return "0x" + hexDigits(); }
+  /// The value as a number, where it fits 64 bits.
+  std::optional<U64> number() const;
+  /// The value as a set of ports.
+  Oru::PerUnitBitmap ports() const;
+  /// The ports as ranges such as "0-3,17"; "none" for no ports.
+  std::string portRanges() const;
+
+  void setBit(U32 bit);
+  /// Sets the value from hexadecimal digits; false where it does not fit the width.
+  bool setHexDigits(std::string_view digits);
+
+ private:
+  static constexpr U32 maxWords = 32;
+
+  U32 wordCount() const { return (width_ + 31) / 32; }
+
+  U32 width_;
+  std::array<U32, maxWords> words_;
+};
+
+/// A scalar field's value, for the loops that must be fast.
+U64 readScalar(const FieldPlace& place, const U8* entry, U32 entryBytes);
+
+/// A value as it is typed: a number, decimal or hexadecimal; for a bitmap a list of ports such as
+/// "0-3,17", "none", or a hexadecimal number. Fails for a value that does not fit the field.
+Value parseValue(const FieldPlace& place, std::string_view text);
+/// The value of a number; fails for a number that does not fit the field.
+Value makeValue(const FieldPlace& place, U64 number);
+/// Adds a port to a bitmap's value; fails for a port that the bitmap does not have.
+void addPort(const FieldPlace& place, Value& value, U64 port);
+
+}  // namespace Tool

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "AsicUtils/Types.h"
+#include "model/Formatting.h"
+
+namespace Tool {
+
+enum class Style { plain, strong, faint, removed, added };
+
+enum class Format { table, json, jsonl, csv, hex, words, raw };
+/// The format of a value of --format; the table if there is none.
+Format formatOf(const std::string& name);
+
+/// Where a verb writes its result: standard output, or a file that appears under its name only when
+/// it is complete. Text is collected and written in large pieces.
+class Output {
+ public:
+  /// `file` empty: standard output. `color` is auto, always or never.
+  Output(const std::string& file, const std::string& color);
+  ~Output();
+  Output(const Output&) = delete;
+  Output& operator=(const Output&) = delete;
+
+  /// A loop that writes much calls flushIfLarge() between its items.
+  void write(std::string_view piece) { text_.append(piece); }
+  template <class... Arguments>
+  void print(fmt::format_string<Arguments...> format, Arguments&&... arguments) {
+    appendFormatted(text_, format, fmt::make_format_args(arguments...));
+  }
+  /// Writes the piece in a style, where colours are on.
+  void write(std::string_view piece, Style style);
+
+  void flushIfLarge() {
+    if (text_.size() >= flushSize) flush();
+  }
+  void flush();
+  /// Writes what is left and gives the file its name.
+  void finish();
+
+  bool isTerminal() const { return terminal_; }
+  /// Columns of the terminal; 0 if the result goes elsewhere.
+  U32 columns() const { return columns_; }
+
+ private:
+  static constexpr size_t flushSize = 1U << 16;
+
+  void openFile();
+  void failWriting() const;
+
+  std::string file_;
+  std::string partial_;  ///< name of the file while it is incomplete; empty: none
+  int descriptor_;
+  bool terminal_;
+  bool colored_;
+  U32 columns_ = 0;
+  std::string text_;
+};
+
+/// Ctrl-C, a hang-up or a closed pipe ends the command at once, without a message, and removes an
+/// incomplete file.
+void installSignalHandlers();
+
+}  // namespace Tool

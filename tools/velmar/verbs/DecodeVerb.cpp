@@ -1,0 +1,225 @@
+#include <algorithm>
+
+#include "model/Failure.h"
+#include "model/IndexSet.h"
+#include "model/Text.h"
+#include "model/Value.h"
+#include "output/EntryWriter.h"
+#include "output/Listing.h"
+#include "output/Progress.h"
+#include "verbs/Target.h"
+#include "verbs/Verbs.h"
+
+namespace Tool {
+namespace {
+
+/// A condition of --where.
+class Condition {
+ public:
+  Condition(const Layout& layout, const std::string& text)
+      : entryBytes_(layout.entryBytes()), place_(parsePlace(layout, text)), value_(place_.width) {
+    const size_t sign = text.find('=');
+    value_ = parseValue(place_, trim(std::string_view(text).substr(sign + 1)));
+    wantsEqual_ = text[sign - 1] != '!';
+  }
+
+  bool holdsFor(const U8* bytes) const {
+    return (Value::read(place_, bytes, entryBytes_) == value_) == wantsEqual_;
+  }
+
+ private:
+  static FieldPlace parsePlace(const Layout& layout, const std::string& text) {
+    size_t end = text.find('=');
+    if (end == std::string::npos || end == 0) {
+      fail("--where {}: no condition; give FIELD=VALUE or FIELD!=VALUE", inQuotes(text));
+    }
+    if (text[end - 1] == '!') --end;
+    return layout.find(trim(std::string_view(text).substr(0, end)));
+  }
+
+  U32 entryBytes_;
+  FieldPlace place_;
+  Value value_;
+  bool wantsEqual_;
+};
+
+/// The entries to show.
+class Selection {
+ public:
+  Selection(const Arguments& arguments, const Layout& layout)
+      : nonzero_(arguments.nonzero), zeros_(layout.entryBytes()) {
+    if (!arguments.index.empty()) indexes_ = IndexSet(arguments.index);
+    for (const std::string& text : arguments.where) conditions_.emplace_back(layout, text);
+  }
+
+  bool has(const Entry& entry) const {
+    if (!indexes_.has(entry.index)) return false;
+    if (nonzero_ && std::equal(zeros_.begin(), zeros_.end(), entry.bytes)) return false;
+    return std::all_of(
+        conditions_.begin(), conditions_.end(),
+        [&entry](const Condition& condition) { return condition.holdsFor(entry.bytes); });
+  }
+  U64 last() const { return indexes_.last(); }
+  bool isByIndex() const { return !indexes_.isAll(); }
+
+ private:
+  bool nonzero_;
+  std::vector<U8> zeros_;
+  IndexSet indexes_;
+  std::vector<Condition> conditions_;
+};
+
+std::string onlyFile(const Arguments& arguments) {
+  if (arguments.files.size() > 1) {
+    fail("more than one dump: {} and {}; give one", arguments.files[0], arguments.files[1]);
+  }
+  return arguments.files.empty() ? "" : arguments.files.front();
+}
+
+/// Goes through the selected entries of a dump.
+class Walk {
+ public:
+  Walk(const Arguments& arguments, const Layout& layout, Output& output)
+      : layout_(layout),
+        selection_(arguments, layout),
+        reader_(openEntries(
+            std::make_unique<ByteStream>(onlyFile(arguments), [&output] { output.flush(); }),
+            layout, inputOptionsOf(arguments))) {}
+
+  bool next(Entry& entry) {
+    while (reader_->next(entry)) {
+      progress_.step();
+      if (entry.index > selection_.last() && reader_->isAscending()) break;
+      if (!selection_.has(entry)) continue;
+      ++selected_;
+      goesBeyond_ = goesBeyond_ || entry.index >= layout_.indexCount();
+      return true;
+    }
+    return false;
+  }
+
+  /// Notes what the result does not show.
+  void report() const {
+    if (goesBeyond_) {
+      std::fprintf(stderr,
+                   "velmar: note: the dump extends beyond the end of %s on %s (%u entries)\n",
+                   layout_.name(), layout_.chip().name, layout_.indexCount());
+    }
+    if (selected_ == 0 && selection_.isByIndex()) {
+      std::fprintf(stderr, "velmar: note: no entry of the dump has an index of --index\n");
+    }
+  }
+
+ private:
+  const Layout& layout_;
+  Selection selection_;
+  std::unique_ptr<EntryReader> reader_;
+  Progress progress_;
+  U64 selected_ = 0;
+  bool goesBeyond_ = false;
+};
+
+int decode(const Arguments& arguments, const Layout& layout, Output& output) {
+  std::vector<FieldPlace> fields = fieldsOf(arguments, layout);
+  Walk walk(arguments, layout, output);
+  const auto writer =
+      makeEntryWriter(output, layout, std::move(fields), formatOf(arguments.format));
+  for (Entry entry; walk.next(entry); output.flushIfLarge()) writer->write(entry);
+  writer->end();
+  output.finish();
+  walk.report();
+  return exitSuccess;
+}
+
+/// The reserved bits that are set in an entry, as ranges such as "127:96".
+std::vector<std::string> setReservedBits(const Layout& layout, const U8* bytes) {
+  std::vector<std::string> ranges;
+  const auto isSet = [&](U32 bit) {
+    return (layout.reservedMask()[bit / 8] & bytes[bit / 8] & 1U << bit % 8) != 0;
+  };
+  const U32 bits = 8 * layout.entryBytes();
+  for (U32 bit = 0; bit < bits; ++bit) {
+    if (!isSet(bit)) continue;
+    const U32 first = bit;
+    while (bit + 1 < bits && isSet(bit + 1)) ++bit;
+    ranges.push_back(first == bit ? formatText("{}", bit) : formatText("{}:{}", bit, first));
+  }
+  return ranges;
+}
+
+/// Prints the findings of --check, each as it is found.
+class Findings {
+ public:
+  Findings(Output& output, const Layout& layout, Format format)
+      : output_(output),
+        layout_(layout),
+        isTable_(format == Format::table),
+        rows_(output, format, {"index", "beyondEnd", "bits"}) {}
+
+  void examine(const Entry& entry) {
+    const std::vector<std::string> bits = setReservedBits(layout_, entry.bytes);
+    const bool beyond = entry.index >= layout_.indexCount();
+    if (bits.empty() && !beyond) return;
+    any_ = true;
+    if (isTable_) return printLine(entry.index, beyond, bits);
+    rows_.write({entry.index, Cell(beyond).shownAs(beyond ? "true" : "false"), bits});
+  }
+
+  void end() { rows_.end(); }
+  bool any() const { return any_; }
+
+ private:
+  void printLine(U64 index, bool beyond, const std::vector<std::string>& bits) {
+    output_.print("{} {}:", layout_.name(), index);
+    if (beyond) output_.write(" beyond the end of the table");
+    if (beyond && !bits.empty()) output_.write(";");
+    if (!bits.empty()) output_.print(" bits outside all fields: {}", join(bits, " "));
+    output_.write("\n");
+  }
+
+  Output& output_;
+  const Layout& layout_;
+  bool isTable_;
+  RowWriter rows_;
+  bool any_ = false;
+};
+
+int check(const Arguments& arguments, const Layout& layout, Output& output) {
+  Walk walk(arguments, layout, output);
+  Findings findings(output, layout, formatOf(arguments.format));
+  for (Entry entry; walk.next(entry); output.flushIfLarge()) findings.examine(entry);
+  findings.end();
+  output.finish();
+  return findings.any() ? exitFinding : exitSuccess;
+}
+
+int run(const Arguments& arguments) {
+  const Layout layout = layoutOf(arguments);
+  Output output(arguments.output, arguments.color);
+  return arguments.check ? check(arguments, layout, output) : decode(arguments, layout, output);
+}
+
+}  // namespace
+
+Verb decodeVerb() {
+  return {
+      "decode",
+      "Decodes a dump of a table: address and fields of each entry.",
+      "A dump is raw binary (little-endian, entries one after another), hex text (one entry "
+      "per line, with an optional \"index:\" before it and # comments), the output of xxd, or the "
+      "JSON of this command. In hex text, groups of two digits are bytes and groups of eight "
+      "are 32-bit words; for anything else, and for groups of eight in xxd output, give "
+      "--hex-order. A dump is read as a stream and may be of any size; a line of text or a "
+      "JSON entry may have up to 1 MiB.",
+      {Positionals::table, Positionals::dump},
+      {Options::chip, Options::variant, Options::index, Options::fields, Options::where,
+       Options::nonzero, Options::check, Options::input, Options::hexOrder, Options::stride,
+       Options::first, Options::listFormat, Options::output, Options::color},
+      {"velmar encode VlanEntry --chip 56990_B0 valid=1 stg=5 | velmar decode VlanEntry --chip "
+       "56990_B0",
+       "velmar encode VlanMpls --chip 56980 --index 7 mplsEnable=1 --whole -f raw | velmar "
+       "decode VlanMpls --chip 56980 --nonzero --format jsonl -"},
+      run};
+}
+
+}  // namespace Tool

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "cli/Verb.h"
+
+namespace Tool {
+
+Verb addrVerb();
+Verb chipsVerb();
+Verb compareVerb();
+Verb decodeVerb();
+Verb diffVerb();
+Verb encodeVerb();
+Verb exportVerb();
+Verb fieldsVerb();
+Verb layoutVerb();
+Verb tablesVerb();
+
+}  // namespace Tool
