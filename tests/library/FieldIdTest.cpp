@@ -60,66 +60,51 @@ TEST(Catalogue, namesEveryClassAndField) {
   }
 }
 
-/// The catalogue's geometry against the class's own members and addresses.
-void expectGeometry(const Catalogue::Geometry& geometry, const ClassProbe& probe, U32 chip) {
-  const std::map<std::string, U32> values = {{"width", geometry.width},
-                                             {"entries", geometry.entries},
-                                             {"arrayElements", geometry.arrayElements},
-                                             {"fieldCount", geometry.fieldCount},
-                                             {"addrStride", geometry.addrStride}};
-  for (const GeometryProbe& member : probe.geometry) {
-    const auto found = values.find(member.name);
-    if (found != values.end()) EXPECT_EQ(found->second, member.ofChip(chip, 0)) << member.name;
-  }
-  SchanTriple first{};
-  ASSERT_TRUE(probe.getSchanAddress(chip, 0, first, 0, 0, 0));
-  EXPECT_EQ(geometry.base, first.address);
-  EXPECT_EQ(geometry.accessType, first.accessType);
-  EXPECT_EQ(geometry.block, first.block);
-  EXPECT_TRUE(probe.hasIdentifier(chip, 0, geometry.identifiers - 1));
-  EXPECT_FALSE(probe.hasIdentifier(chip, 0, geometry.identifiers));
-  SchanTriple refused{};
-  const U16 beyond = static_cast<U16>(geometry.identifiers);
-  assertionOf([&] { probe.getSchanAddress(chip, 0, refused, beyond, 0, 0); });
-  EXPECT_EQ(refused.address, geometry.base + beyond * geometry.identifierTerm);
+/// The catalogue's geometry against the golden data.
+void expectGeometry(const Catalogue::Geometry& geometry, const GoldenClass& golden, U32 chip) {
+  const GoldenChip& facts = golden.chips.at(chip);
+  EXPECT_EQ(geometry.variants == Catalogue::Variants::any, facts.anyVariant);
+  EXPECT_EQ(geometry.width, facts.words);
+  EXPECT_EQ(geometry.entries, facts.entries.value_or(1));
+  EXPECT_EQ(geometry.arrayElements, facts.arrayElements);
+  EXPECT_EQ(geometry.addrStride, golden.isTable ? 0U : isLate(chip) ? 1024U : 256U);
+  EXPECT_EQ(geometry.identifiers, golden.isTable || isLate(chip) ? 1U : 2U);
+  EXPECT_EQ(geometry.identifierTerm, golden.isTable && isLate(chip) ? 16384U : 0U);
+  EXPECT_EQ(geometry.base, facts.base);
+  EXPECT_EQ(geometry.accessType, facts.accessType);
+  EXPECT_EQ(geometry.block, facts.block);
 }
 
-TEST(Catalogue, agreesWithEveryAccessor) {
-  for (U32 t = 0; t < Catalogue::tableCount(); ++t) {
-    const Catalogue::Table table = Catalogue::table(t);
-    const ClassProbe& probe = classProbes()[t];
-    for (const U32 chip : chipsAndStrangers()) {
-      SCOPED_TRACE(probe.name + " on chip " + std::to_string(chip));
-      const auto knows = [&](U8 variant) {
-        return probe.chipTypeVariantValid(static_cast<ChipType_>(chip), variant);
-      };
-      const Catalogue::Geometry geometry = table.geometry(chip);
-      EXPECT_EQ(table.isOn(chip), knows(0));
-      EXPECT_EQ(table.isOn(chip, 0), knows(0));
-      EXPECT_EQ(table.isOn(chip, 1), knows(1));
-      if (!table.isOn(chip)) {
-        EXPECT_EQ(geometry.width, 0);
-        EXPECT_FALSE(table.isFieldBit(0, chip));
-        for (U32 f = 0; f < table.fieldCount(); ++f) EXPECT_EQ(table.range(f, chip).width, 0);
-        continue;
-      }
-      EXPECT_EQ(geometry.variants == Catalogue::Variants::any, knows(1));
-      expectGeometry(geometry, probe, chip);
-      const auto view = probe.make(chip, nullptr, 0, 0);
-      for (U32 f = 0; f < table.fieldCount(); ++f) {
-        const Catalogue::BitRange range = table.range(f, chip);
-        EXPECT_EQ(range.width, view->fieldWidth(table.field(f).id));
-        if (range.width != 0) EXPECT_EQ(range.offset, view->fieldOffset(table.field(f).id));
-      }
-      const Raw8192 mask = probe.allFieldsMask(chip, 0);
-      for (U32 bit = 0; bit < 8192; ++bit) ASSERT_EQ(table.isFieldBit(bit, chip), mask.bit(bit));
-      EXPECT_EQ(table.allFieldsBytes(), goldenClass(probe.name).chips.at(chip).rawBytesNeeded);
-      std::vector<U8> buffer(table.allFieldsBytes(), 0);
-      const U16 len = static_cast<U16>(buffer.size());
-      EXPECT_EQ(4 * probe.getAllFields(*probe.make(chip, buffer.data(), len, 0)).size(),
-                table.rawBytes());
+TEST(Catalogue, agreesWithTheClasses) {
+  everywhere([](const ClassProbe& probe, const GoldenClass& golden, U32 chip, U8 variant, auto) {
+    const std::size_t index = static_cast<std::size_t>(&probe - classProbes().data());
+    const Catalogue::Table table = Catalogue::table(static_cast<U32>(index));
+    const Catalogue::Geometry geometry = table.geometry(chip);
+    const bool isOn = golden.chips.count(chip) != 0;
+    EXPECT_EQ(table.isOn(chip), isOn);
+    EXPECT_EQ(table.isOn(chip, variant), knowsVariant(golden, chip, variant));
+    const Raw8192 mask = isOn ? probe.allFieldsMask(chip, 0) : Raw8192{};
+    for (U32 bit = 0; bit < 8192; ++bit) ASSERT_EQ(table.isFieldBit(bit, chip), mask.bit(bit));
+    U32 fieldCount = 0;
+    for (U32 f = 0; f < table.fieldCount(); ++f) {
+      const auto& places = golden.find(table.field(f).accessor)->places;
+      const auto place = places.find(chip);
+      const Catalogue::BitRange range = table.range(f, chip);
+      EXPECT_EQ(range.width, place == places.end() ? 0 : place->second.width);
+      if (range.width != 0) EXPECT_EQ(range.offset, place->second.offset);
+      fieldCount += range.width != 0;
     }
-  }
+    EXPECT_EQ(geometry.fieldCount, fieldCount);
+    if (!isOn) {
+      EXPECT_EQ(geometry.width, 0);
+      return;
+    }
+    expectGeometry(geometry, golden, chip);
+    EXPECT_EQ(table.allFieldsBytes(), golden.chips.at(chip).rawBytesNeeded);
+    std::vector<U8> buffer(table.allFieldsBytes(), 0);
+    const auto view = probe.make(chip, buffer.data(), static_cast<U16>(buffer.size()), 0);
+    EXPECT_EQ(4 * probe.getAllFields(*view).size(), table.rawBytes());
+  });
 }
 
 TEST(Catalogue, overlapsAreThoseThatShareBits) {
