@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
+#include <map>
 #include <sstream>
 
 #include "support/ClassProbes.h"
@@ -35,11 +35,11 @@ class Differences {
     add(text.str());
   }
 
-  /// Whether both or none have `what`.
-  void comparePresence(const std::string& what, const std::string& file, bool golden,
-                       bool compiled) {
-    if (golden && !compiled) add(what + " is in tests/golden/" + file + " and not compiled");
-    if (!golden && compiled) add(what + " is compiled and not in tests/golden/" + file);
+  /// Whether both or none have `what`; true for both.
+  bool areBoth(const std::string& what, bool golden, bool compiled) {
+    if (golden && !compiled) add(what + " is in tests/golden and not compiled");
+    if (!golden && compiled) add(what + " is compiled and not in tests/golden");
+    return golden && compiled;
   }
 
  private:
@@ -62,22 +62,13 @@ std::string hexadecimal(U32 number) {
   return text.str();
 }
 
-std::string placeText(bool exists, U32 offset, U32 width) {
-  if (!exists) return "no such field";
-  return "offset " + std::to_string(offset) + " width " + std::to_string(width);
-}
-
 TEST(GoldenSweep, classes) {
-  std::set<std::string> golden;
-  std::set<std::string> compiled;
-  for (const GoldenClass& each : goldenClasses()) golden.insert(each.name);
-  for (const ClassProbe& each : classProbes()) compiled.insert(each.name);
-  std::set<std::string> both = golden;
-  both.insert(compiled.begin(), compiled.end());
+  std::map<std::string, std::pair<bool, bool>> classes;
+  for (const GoldenClass& each : goldenClasses()) classes[each.name].first = true;
+  for (const ClassProbe& each : classProbes()) classes[each.name].second = true;
   Differences differences;
-  for (const std::string& name : both) {
-    differences.comparePresence("class " + name, "tables.tsv", golden.count(name) != 0,
-                                compiled.count(name) != 0);
+  for (const auto& [name, has] : classes) {
+    differences.areBoth("class " + name, has.first, has.second);
   }
 }
 
@@ -91,8 +82,7 @@ TEST(GoldenSweep, tables) {
       const auto found = golden.chips.find(chip);
       SchanTriple first{};
       const bool exists = probe.getSchanAddress(chip, 0, first, 0, 0, 0);
-      differences.comparePresence(where, "tables.tsv", found != golden.chips.end(), exists);
-      if (!exists || found == golden.chips.end()) continue;
+      if (!differences.areBoth(where, found != golden.chips.end(), exists)) continue;
       const GoldenChip& expected = found->second;
       const auto compare = [&](const char* what, const auto& inGolden, const auto& compiled) {
         differences.compare(where + ": " + what, inGolden, compiled);
@@ -102,13 +92,13 @@ TEST(GoldenSweep, tables) {
       compare("base", hexadecimal(expected.base), hexadecimal(first.address));
       compare("access type", expected.accessType, first.accessType);
       compare("block", expected.block, first.block);
+      const std::map<std::string, U32> members = {{"width", expected.words},
+                                                  {"arrayElements", expected.arrayElements},
+                                                  {"entries", expected.entries.value_or(0)}};
       for (const GeometryProbe& member : probe.geometry) {
-        const auto compareMember = [&](const char* memberName, U32 inGolden) {
-          if (member.name == memberName) compare(memberName, inGolden, member.ofChip(chip, 0));
-        };
-        compareMember("width", expected.words);
-        compareMember("arrayElements", expected.arrayElements);
-        compareMember("entries", expected.entries.value_or(0));
+        const auto known = members.find(member.name);
+        if (known == members.end()) continue;
+        compare(member.name.c_str(), known->second, member.ofChip(chip, 0));
       }
     }
   });
@@ -118,31 +108,25 @@ TEST(GoldenSweep, fields) {
   Differences differences;
   forEachClass([&](const ClassProbe& probe, const GoldenClass& golden) {
     for (const GoldenField& expected : golden.fields) {
-      const bool isCompiled = probe.find(expected.accessor) != nullptr;
-      differences.comparePresence(probe.name + "::" + expected.accessor, "fields.tsv", true,
-                                  isCompiled);
+      const std::string name = probe.name + "::" + expected.accessor;
+      if (!differences.areBoth(name, true, probe.find(expected.accessor) != nullptr)) continue;
+      const FieldProbe& field = probe.field(expected.accessor);
+      differences.compare(name + ": hardware name", expected.hardwareName, field.hardwareName);
+      differences.compare(name + ": identifier", expected.id, field.id);
+      differences.compare(name + ": type", expected.type, field.type);
+      for (const auto& [chip, chipName] : chipNames()) {
+        const std::string where = name + " on " + chipName;
+        const auto view = probe.open(chip, nullptr, 0, 0);
+        const auto place = expected.places.find(chip);
+        const bool exists = ((*view).*field.isValid)();
+        if (!differences.areBoth(where, place != expected.places.end(), exists)) continue;
+        differences.compare(where + ": offset", place->second.offset, ((*view).*field.offset)());
+        differences.compare(where + ": width", place->second.width, ((*view).*field.length)());
+      }
     }
     for (const FieldProbe& field : probe.fields) {
-      const std::string name = probe.name + "::" + field.accessor;
-      const GoldenField* expected = golden.find(field.accessor);
-      differences.comparePresence(name, "fields.tsv", expected != nullptr, true);
-      if (expected == nullptr) continue;
-      differences.compare(name + ": hardware name", expected->hardwareName, field.hardwareName);
-      differences.compare(name + ": identifier", expected->id, field.id);
-      differences.compare(name + ": type", expected->type, field.type);
-      for (const auto& [chip, chipName] : chipNames()) {
-        const auto view = probe.open(chip, nullptr, 0, 0);
-        const bool exists = ((*view).*field.isValid)();
-        const std::string place = placeText(exists, exists ? ((*view).*field.offset)() : 0,
-                                            exists ? ((*view).*field.length)() : 0);
-        const auto found = expected->places.find(chip);
-        const bool isExpected = found != expected->places.end();
-        const std::string where = name + " on " + chipName;
-        differences.compare(where,
-                            placeText(isExpected, isExpected ? found->second.offset : 0,
-                                      isExpected ? found->second.width : 0),
-                            place);
-      }
+      differences.areBoth(probe.name + "::" + field.accessor,
+                          golden.find(field.accessor) != nullptr, true);
     }
   });
 }

@@ -18,8 +18,6 @@ Velmar::VlanEntry late(BCM56990_B0, buffer, 16, false, 0);
 Velmar::IngVpVlanMembershipEntry member(BCM56470_A0, buffer, 0, false, 0);
 Velmar::IngVpVlanMembershipEntry whole(BCM56470_A0, buffer, 8, false, 0);
 Velmar::IngVpVlanMembershipEccEntry ecc(BCM56470_A0, buffer, 0, false, 0);
-Velmar::IgmpMldPktControl control(BCM56996_B0, buffer, 4, false, 5);
-AsicUtils::BcmAsicBase& base = control;
 
 struct Row {
   std::function<void()> call;
@@ -58,13 +56,6 @@ TEST(Signatures, asWritten) {
     SCOPED_TRACE(row.signature);
     expectFailure(row.call, row.text, row.signature);
   }
-}
-
-TEST(Texts, ofBaseMembersThatAClassLacks) {
-  expectFailure([] { base.entries(); }, "false && \"entries invalid for this class\"",
-                "virtual U32 AsicUtils::AsicBase::entries() const", "AsicBase");
-  expectFailure([] { late.maxIdentifier(); }, "false && \"maxIdentifier invalid for this class\"",
-                "virtual U32 AsicUtils::AsicBase::maxIdentifier() const", "AsicBase");
 }
 
 TEST(Texts, aFieldNarrowerThanItsTypeOfWholeBytesKeepsTheLowBits) {

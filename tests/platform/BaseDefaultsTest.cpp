@@ -43,16 +43,17 @@ std::size_t slotOf(Member member) {
 TEST(VirtualTable, isInTheOrderThatCallersWereCompiledWith) {
   using A = AsicUtils::AsicBase;
   using B = AsicUtils::BcmAsicBase;
+  // clang-format off
   const std::size_t slots[] = {
-      slotOf(&A::setField64),     slotOf(&A::stringField),   slotOf(&A::stringFieldIs),
-      slotOf(&A::fieldWidth),     slotOf(&A::fieldOffset),   slotOf(&A::isFieldValid),
-      slotOf(&A::width),          slotOf(&A::entries),       slotOf(&A::maxIdentifier),
-      slotOf(&A::fieldCount),     slotOf(&A::isTable),       slotOf(&A::allFieldsMask),
-      slotOf(&A::sdkDefinedId),   slotOf(&A::instanceCount), slotOf(&A::hasInstance),
-      slotOf(&A::hasIdentifier),  slotOf(&A::arrayElements), slotOf(&A::tableVariantCount),
-      slotOf(&A::entrySpans),     slotOf(&A::compareTo),     slotOf(&A::getSchanAddress),
-      slotOf(&B::hasMultipleMem), slotOf(&B::groupId),       slotOf(&B::numGroups),
-      slotOf(&B::groupInfo),      slotOf(&B::memInfo)};
+      slotOf(&A::setField64), slotOf(&A::stringField), slotOf(&A::stringFieldIs),
+      slotOf(&A::fieldWidth), slotOf(&A::fieldOffset), slotOf(&A::isFieldValid), slotOf(&A::width),
+      slotOf(&A::entries), slotOf(&A::maxIdentifier), slotOf(&A::fieldCount), slotOf(&A::isTable),
+      slotOf(&A::allFieldsMask), slotOf(&A::sdkDefinedId), slotOf(&A::instanceCount),
+      slotOf(&A::hasInstance), slotOf(&A::hasIdentifier), slotOf(&A::arrayElements),
+      slotOf(&A::tableVariantCount), slotOf(&A::entrySpans), slotOf(&A::compareTo),
+      slotOf(&A::getSchanAddress), slotOf(&B::hasMultipleMem), slotOf(&B::groupId),
+      slotOf(&B::numGroups), slotOf(&B::groupInfo), slotOf(&B::memInfo)};
+  // clang-format on
   std::size_t expected = 2;  // behind the two destructors
   for (const std::size_t slot : slots) EXPECT_EQ(slot, expected++);
 }
