@@ -48,8 +48,9 @@ document = subprocess.run(decode + ["-f", "json"], input=text_of("raw", 8000),
                           stdout=subprocess.PIPE, check=True).stdout
 head, entries = document.split(b"[", 1)
 body = entries[:entries.rindex(b"]")].rstrip()
+ten_times = head + b"[" + b",".join([body] * 10) + b"]}"
 few = peak_memory(decode + ["--nonzero"], document, 1)
-many = peak_memory(decode + ["--nonzero"], head + b"[" + b",".join([body] * 10) + b"]}", 1)
+many = peak_memory(decode + ["--nonzero"], ten_times, 1)
 check(many < few + slack, f"json: {few} bytes for a document, {many} for ten times it")
 
 # A pipe works at once: the first entry comes before the second is there.
