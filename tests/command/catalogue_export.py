@@ -37,12 +37,19 @@ def exported(*arguments):
     return document
 
 
-layouts = {(table["name"], layout["chip"]): {
-    (name, place["offset"], place["width"]) for name, place in layout["fields"].items()}
-    for table in exported()["tables"] for layout in table["layouts"]}
-golden = {(table.name, table.chip): {(field.name, field.offset, field.width)
-                                     for field in table.fields} for table in golden_tables()}
-check(layouts == golden, "other tables, chips or places than the golden ones")
+spelling = {"raw128": "Raw128", "bitmap": "Oru::PerUnitBitmap"}
+golden = {(table.name, table.chip): {
+    (field.name, field.hardware_name, field.id, spelling.get(field.type, field.type), field.offset,
+     field.width) for field in table.fields} for table in golden_tables()}
+layouts = {}
+for table in exported()["tables"]:
+    about = {field["accessor"]: (field["accessor"], field["hardwareName"], field["id"], field["type"])
+             for field in table["fields"]}
+    for layout in table["layouts"]:
+        layouts[table["name"], layout["chip"]] = {
+            (*about[name], place["offset"], place["width"])
+            for name, place in layout["fields"].items()}
+check(layouts == golden, "other tables, chips or fields than the golden ones")
 one = exported("vlan", "--chip", "33")
 check([table["name"] for table in one["tables"]] == ["VlanEntry"] and
       len(one["tables"][0]["layouts"]) == 1, "export of one table on one chip")

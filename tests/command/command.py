@@ -12,7 +12,7 @@ program = os.path.join(build, "bin", "velmar")
 failures = []
 checks = 0
 
-Field = collections.namedtuple("Field", "name type offset width")
+Field = collections.namedtuple("Field", "name hardware_name id type offset width")
 Table = collections.namedtuple("Table", "name chip entry_bytes count base access block fields")
 
 
@@ -62,7 +62,8 @@ def golden_tables():
         if row["offset"] == "-":  # the chip does not have the field
             continue
         fields[row["class"], row["chip"]].append(
-            Field(row["accessor"], row["type"], int(row["offset"]), int(row["width"])))
+            Field(row["accessor"], row["hardware_name"], int(row["id"]), row["type"],
+                  int(row["offset"]), int(row["width"])))
     for row in rows("tables.tsv"):
         count = int(row["entries"]) if row["kind"] == "table" else int(row["array_elements"])
         yield Table(row["class"], row["chip"], 4 * int(row["words"]), count, int(row["base"], 16),

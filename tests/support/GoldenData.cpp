@@ -52,23 +52,20 @@ U32 valueOf(const std::string& rule, U32 port) {
   return part(1, 0) + part(2, 1) * (port - part(3, 0));
 }
 
-std::vector<U32> chipsOf(const Row& row) {
-  std::vector<U32> chips;
-  for (const std::string& name : split(row.at("chip"), ',')) {
-    const auto found = std::find_if(chipNames().begin(), chipNames().end(),
-                                    [&](const auto& each) { return each.second == name; });
-    if (found == chipNames().end() && name != nothing) {
-      throw std::runtime_error("golden data names an unknown chip: " + name);
-    }
-    if (name != nothing) chips.push_back(found->first);
+U32 chipNumber(const std::string& name) {
+  for (const auto& [chip, each] : chipNames()) {
+    if (each == name) return chip;
   }
-  return chips;
+  throw std::runtime_error("golden data names an unknown chip: " + name);
 }
 
+/// Keeps a value for each chip of a row.
 template <class Value>
-void addOnce(std::map<U32, Value>& byChip, U32 chip, const Value& value, const std::string& what) {
-  if (byChip.emplace(chip, value).second) return;
-  throw std::runtime_error("golden data has " + what + " twice on " + chipNames().at(chip));
+void keep(std::map<U32, Value>& byChip, const Row& row, const Value& value) {
+  for (const std::string& name : split(row.at("chip"), ',')) {
+    if (byChip.emplace(chipNumber(name), value).second) continue;
+    throw std::runtime_error("golden data has " + row.at("class") + " twice on " + name);
+  }
 }
 
 /// Adds what a row says of one field, `port` where the row stands for many.
@@ -83,10 +80,8 @@ void addField(GoldenClass& golden, const Row& row, U32 port) {
     golden.fields.push_back({accessor, name, valueOf(row.at("id"), port), row.at("type"), {}});
     field = golden.fields.end() - 1;
   }
-  for (const U32 chip : chipsOf(row)) {
-    const GoldenField::Place place = {valueOf(row.at("offset"), port), number(row.at("width"))};
-    addOnce(field->places, chip, place, golden.name + "::" + accessor);
-  }
+  if (row.at("chip") == nothing) return;
+  keep(field->places, row, {valueOf(row.at("offset"), port), number(row.at("width"))});
 }
 
 std::vector<GoldenClass> readClasses() {
@@ -111,7 +106,7 @@ std::vector<GoldenClass> readClasses() {
                               cell("access_type"),
                               cell("block"),
                               cell("raw_bytes_needed")};
-    for (const U32 chip : chipsOf(row)) addOnce(classOf(name)->chips, chip, facts, name);
+    keep(classOf(name)->chips, row, facts);
   }
   static const std::regex range(R"(.*\{(\d+)\.\.(\d+)\})");
   for (const Row& row : readRows("fields.tsv")) {
