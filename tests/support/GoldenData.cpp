@@ -48,7 +48,9 @@ U32 valueOf(const std::string& rule, U32 port) {
   static const std::regex form(R"((?:(\d+)\+)?(\d*)(?:n|\(n-(\d+)\)))");
   std::smatch parts;
   if (!std::regex_match(rule, parts, form)) return number(rule);
-  const auto part = [&](int i, U32 other) { return parts[i].length() ? number(parts[i]) : other; };
+  const auto part = [&](std::size_t i, U32 other) {
+    return parts[i].length() ? number(parts[i]) : other;
+  };
   return part(1, 0) + part(2, 1) * (port - part(3, 0));
 }
 
