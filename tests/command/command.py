@@ -3,6 +3,7 @@
 import collections
 import csv
 import os
+import re
 import subprocess
 import sys
 
@@ -11,7 +12,7 @@ program = os.path.join(build, "bin", "velmar")
 failures = []
 checks = 0
 
-Field = collections.namedtuple("Field", "name type offset width")
+Field = collections.namedtuple("Field", "name hardware_name id type offset width")
 Table = collections.namedtuple("Table", "name chip entry_bytes count base access block fields")
 
 
@@ -35,9 +36,23 @@ def finish():
     sys.exit(1 if failures else 0)
 
 
+def number(rule, port):
+    """The value of a rule such as 2, 2n, 244+n or 2(n-136) for port n."""
+    plus, times, minus = re.fullmatch(r"(?:(\d+)\+)?(\d*)(?:n|\(n-(\d+)\))", rule).groups("")
+    return int(plus or 0) + int(times or 1) * (port - int(minus or 0))
+
+
 def rows(name):
+    """The rows of a golden file, one for each chip and port that a row stands for."""
     with open(os.path.join(source, "tests", "golden", name), encoding="utf-8") as file:
-        yield from csv.DictReader(file, delimiter="\t")
+        for row in csv.DictReader((line for line in file if line[0] != "#"), delimiter="\t"):
+            ports = re.search(r"{(\d+)\.\.(\d+)}", row.get("accessor", ""))
+            for port in range(int(ports[1]), int(ports[2]) + 1) if ports else [None]:
+                each = {title: re.sub(r"{.*}", str(port), cell) if "{" in cell else
+                        str(number(cell, port)) if ports and "n" in cell and title in ("id", "offset")
+                        else cell for title, cell in row.items()}
+                for chip in row["chip"].split(","):
+                    yield {**each, "chip": chip}
 
 
 def golden_tables():
@@ -47,7 +62,8 @@ def golden_tables():
         if row["offset"] == "-":  # the chip does not have the field
             continue
         fields[row["class"], row["chip"]].append(
-            Field(row["accessor"], row["type"], int(row["offset"]), int(row["width"])))
+            Field(row["accessor"], row["hardware_name"], int(row["id"]), row["type"],
+                  int(row["offset"]), int(row["width"])))
     for row in rows("tables.tsv"):
         count = int(row["entries"]) if row["kind"] == "table" else int(row["array_elements"])
         yield Table(row["class"], row["chip"], 4 * int(row["words"]), count, int(row["base"], 16),

@@ -49,23 +49,14 @@ for verb in verbs:
               f"{example}: exit {result.returncode}, {result.stderr!r}")
 
 tables = list(golden_tables())
-names = {table.name for table in tables}
-chips = {table.chip for table in tables}
-check(set(completions("decode", "")) == names, "completion of tables")
-check(set(completions("decode", "VlanEntry", "--chip", "")) == chips, "completion of chips")
-check(completions("decode", "vlan", "--chip", "5699")[0].startswith("BCM5699"), "chip by number")
-check(completions("decode", "VlanEntry", "") == [], "completion of a file is the shell's")
-check(completions("decode", "nothing", "--fields", "") == [], "completion of an unknown table")
+check(set(completions("decode", "")) == {table.name for table in tables}, "completion of tables")
 for table in tables[::9]:
     on_chip = {other.name for other in tables if other.chip == table.chip}
     check(set(completions("addr", "--chip", table.chip, "")) == on_chip, f"tables on {table.chip}")
     fields = {field.name for field in table.fields}
-    words = ("decode", table.name, "--chip", table.chip)
-    check(set(completions(*words, "--fields", "")) == fields, f"fields of {words}")
-    first = sorted(fields)[0]
-    check(f"{first}," + first in completions(*words, "--fields", f"{first},"), "a list of fields")
-    proposed = completions("encode", table.name, "--chip", table.chip, "")
-    check(set(proposed) == {name + "=" for name in fields}, f"assignments of {words}")
+    words = (table.name, "--chip", table.chip)
+    check(set(completions("decode", *words, "--fields", "")) == fields, f"fields of {words}")
+    check(set(completions("encode", *words, "")) == {name + "=" for name in fields}, f"{words}")
 
 # The installed script, as the shell calls it.
 script = os.path.join(source, "tools", "velmar", "completion.bash")

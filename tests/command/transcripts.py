@@ -7,6 +7,7 @@ usage: transcripts.py SOURCE_DIR BUILD_DIR [--refresh]"""
 import difflib
 import glob
 import os
+import re
 import subprocess
 import sys
 import tempfile
@@ -32,6 +33,9 @@ def session(text, directory):
             result += [line, *done.stdout.decode(errors="replace").splitlines()]
             if done.returncode != 0:
                 result.append(f"[exit {done.returncode}]")
+            if done.returncode == 2:
+                # A refusal is one line, with a remedy.
+                check(re.fullmatch(rb"velmar: .*; .*\n|Usage[\s\S]*", done.stdout), f"{line}: {done.stdout!r}")
             copying = False
         elif line.startswith("# "):
             # A comment begins a new block, with an empty line before it.

@@ -1,30 +1,18 @@
 // S-channel addresses over all classes and chips: the rule, the order of the checks with their
-// texts, what is written when a check fails, and the path that only returns false.
+// texts, what is written when a check fails, and unknown chips.
 
-#include <gtest/gtest.h>
-
-#include "support/AssertionFailed.h"
-#include "support/ClassProbes.h"
-#include "support/GoldenData.h"
-#include "support/Records.h"
+#include "support/Sweep.h"
 
 namespace VelmarTest {
 namespace {
 
 constexpr U32 untouched = 0xdeadbeef;
+constexpr SchanTriple nothing = {untouched, untouched, untouched};
 
-struct Look {
-  bool found = false;
-  SchanTriple out = {untouched, untouched, untouched};
-  AssertionFailed failure;
-};
-
-Look look(const ClassProbe& probe, U32 chip, U8 variant, U16 identifier, U32 entry, U16 element) {
-  Look result;
-  result.failure = assertionOf([&] {
-    result.found = probe.getSchanAddress(chip, variant, result.out, identifier, entry, element);
-  });
-  return result;
+void expectOutputs(const SchanTriple& out, const SchanTriple& expected) {
+  EXPECT_EQ(out.address, expected.address);
+  EXPECT_EQ(out.accessType, expected.accessType);
+  EXPECT_EQ(out.block, expected.block);
 }
 
 std::string signatureOf(const ClassProbe& probe) {
@@ -33,111 +21,81 @@ std::string signatureOf(const ClassProbe& probe) {
 }
 
 TEST(Addressing, everyEntryFollowsTheRule) {
-  for (const ClassProbe& probe : classProbes()) {
-    for (const auto& [chip, facts] : goldenClass(probe.name).chips) {
-      SCOPED_TRACE(probe.name + " chip " + std::to_string(chip));
-      const U32 count = probe.isTable ? *facts.entries : facts.arrayElements;
-      const U32 step = probe.isTable ? 1 : chip < 33 ? 256 : 1024;
-      for (U32 index = 0; index < count; ++index) {
-        const Look result = probe.isTable ? look(probe, chip, 0, 0, index, 0)
-                                          : look(probe, chip, 0, 0, 0, static_cast<U16>(index));
-        ASSERT_TRUE(result.found);
-        ASSERT_EQ(result.out.address, facts.base + index * step);
-        ASSERT_EQ(result.out.accessType, facts.accessType);
-        ASSERT_EQ(result.out.block, facts.block);
+  onEveryChip([](const ClassProbe& probe, const GoldenClass& golden, U32 chip) {
+    const GoldenChip& facts = golden.chips.at(chip);
+    const U32 step = probe.isTable ? 1 : isLate(chip) ? 1024 : 256;
+    const U16 identifiers = probe.isTable || isLate(chip) ? 1 : 2;
+    for (U16 id = 0; id < identifiers; ++id) {
+      for (U32 index = 0; index < facts.entries.value_or(facts.arrayElements); ++index) {
+        const U32 entry = probe.isTable ? index : 0;
+        SchanTriple out = nothing;
+        ASSERT_TRUE(
+            probe.getSchanAddress(chip, 0, out, id, entry, static_cast<U16>(index - entry)));
+        expectOutputs(out, {facts.base + index * step, facts.accessType, facts.block});
       }
     }
-  }
+  });
 }
 
 TEST(Addressing, checksInOrder) {
-  for (const ClassProbe& probe : classProbes()) {
-    for (const auto& [chip, facts] : goldenClass(probe.name).chips) {
-      SCOPED_TRACE(probe.name + " chip " + std::to_string(chip));
-      const auto expect = [&](const Look& result, const std::string& text, U32 address) {
-        EXPECT_EQ(result.failure.expression, text);
-        EXPECT_EQ(result.failure.function, signatureOf(probe));
-        EXPECT_EQ(result.failure.file, "VelmarMetaInfo");
-        EXPECT_EQ(result.out.address, address);
-        EXPECT_EQ(result.out.accessType, untouched);
-        EXPECT_EQ(result.out.block, untouched);
-      };
-      const std::string identifierText = "hasIdentifier( chipType, variant, identifier )";
-      const U16 badIdentifier = !probe.isTable && chip < 33 ? 2 : 1;
-      if (probe.isTable) {
-        const std::string bound = "tableEntry < " + std::to_string(*facts.entries);
-        expect(look(probe, chip, 0, 1, *facts.entries, 1), bound, untouched);
-        expect(look(probe, chip, 0, 1, 0xffffffff, 0), bound, untouched);
-        expect(look(probe, chip, 0, 1, *facts.entries - 1, 1), "arrayIndex == 0", untouched);
-        // The address is there before the identifier is refused, with its term on the late chips.
-        const U32 term = chip >= 33 ? 16384 : 0;
-        expect(look(probe, chip, 0, 1, 0, 0), identifierText, facts.base + term);
-        expect(look(probe, chip, 0, 3, *facts.entries - 1, 0), identifierText,
-               facts.base + 3 * term + *facts.entries - 1);
-      } else {
-        expect(look(probe, chip, 0, badIdentifier, 1, 64), "tableEntry == 0", untouched);
-        expect(look(probe, chip, 0, badIdentifier, 0, 64), "arrayIndex < 64", untouched);
-        const U32 stride = chip < 33 ? 256 : 1024;
-        expect(look(probe, chip, 0, badIdentifier, 0, 63), identifierText,
-               facts.base + 63 * stride);
-        if (chip >= 33) continue;
-        const Look second = look(probe, chip, 0, 1, 0, 5);
-        EXPECT_TRUE(second.found);
-        EXPECT_EQ(second.out.address, facts.base + 5 * stride);
-      }
+  onEveryChip([](const ClassProbe& probe, const GoldenClass& golden, U32 chip) {
+    const GoldenChip& facts = golden.chips.at(chip);
+    const auto expect = [&](U16 identifier, U32 entry, U16 element, const std::string& text,
+                            U32 address) {
+      SchanTriple out = nothing;
+      expectFailure([&] { probe.getSchanAddress(chip, 0, out, identifier, entry, element); }, text,
+                    signatureOf(probe));
+      expectOutputs(out, {address, untouched, untouched});
+    };
+    // The address is written before the identifier is refused.
+    const std::string refused = "hasIdentifier( chipType, variant, identifier )";
+    if (probe.isTable) {
+      const U32 entries = *facts.entries;
+      const std::string bound = "tableEntry < " + std::to_string(entries);
+      const U32 term = isLate(chip) ? 16384 : 0;
+      expect(1, entries, 1, bound, untouched);
+      expect(1, 0xffffffff, 0, bound, untouched);
+      expect(1, entries - 1, 1, "arrayIndex == 0", untouched);
+      expect(1, 0, 0, refused, facts.base + term);
+      expect(3, entries - 1, 0, refused, facts.base + 3 * term + entries - 1);
+    } else {
+      const U16 elements = static_cast<U16>(facts.arrayElements);
+      const U32 last = (elements - 1U) * (isLate(chip) ? 1024 : 256);
+      expect(2, 1, elements, "tableEntry == 0", untouched);
+      expect(2, 0, elements, "arrayIndex < " + std::to_string(elements), untouched);
+      expect(2, 0, static_cast<U16>(elements - 1), refused, facts.base + last);
     }
-  }
+  });
 }
 
 TEST(Addressing, unknownChipsAndVariantsReturnFalse) {
-  for (const ClassProbe& probe : classProbes()) {
-    const GoldenClass& golden = goldenClass(probe.name);
-    std::vector<U32> chips = {0, 5, 38, 255, 289, 0x10006, 0xffffffff};
-    for (const auto& [chip, name] : chipNames()) chips.push_back(chip);
-    for (const U32 chip : chips) {
-      const auto found = golden.chips.find(chip);
-      for (const U8 variant : {U8{0}, U8{1}, U8{9}}) {
-        const bool known = found != golden.chips.end() && knowsVariant(found->second, variant);
-        Records records;
-        // Bad indices do not matter where the chip is unknown.
-        const U32 entry = known ? 0 : 0xffffffff;
-        const Look result = look(probe, chip, variant, 0, entry, 0);
-        SCOPED_TRACE(probe.name + " chip " + std::to_string(chip));
-        ASSERT_EQ(result.failure.expression, "");
-        ASSERT_EQ(result.found, known);
-        ASSERT_EQ(records.lines.size(), known ? 0U : 1U);
-        if (known) continue;
-        EXPECT_EQ(result.out.address, untouched);
-        EXPECT_EQ(result.out.accessType, untouched);
-        EXPECT_EQ(result.out.block, untouched);
-        EXPECT_EQ(records.lines[0].level, 0U);
-        EXPECT_EQ(records.lines[0].function, "getSchanAddress");
-        EXPECT_EQ(records.lines[0].text, signatureOf(probe) + " chipType: " + std::to_string(chip) +
-                                             " variant: " + std::to_string(variant) + " failed.");
-      }
-    }
-  }
-}
-
-TEST(Addressing, viewsAskForTheirOwnChipAndVariant) {
-  const Records quiet;
-  for (const ClassProbe& probe : classProbes()) {
-    for (const auto& [chip, facts] : goldenClass(probe.name).chips) {
-      const auto view = probe.open(chip, nullptr, 0, 1);
-      Look result;
-      result.failure = assertionOf([&] {
-        result.found = view->getSchanAddress(result.out.address, result.out.accessType,
-                                             result.out.block, 0, 0, 0);
-      });
-      EXPECT_EQ(result.found, facts.anyVariant) << probe.name << " chip " << chip;
-      const auto first = probe.make(chip, nullptr, 0, 0);
-      const AssertionFailed failure = assertionOf([&] {
-        U32 out = 0;
-        first->getSchanAddress(out, out, out, 7, 0, 0);
-      });
-      EXPECT_EQ(failure.function, signatureOf(probe));
-    }
-  }
+  everywhere([](const ClassProbe& probe, const GoldenClass& golden, U32 chip, U8 variant,
+                Records::EntryLines entryLines) {
+    const bool isKnown = knowsVariant(golden, chip, variant);
+    const std::string line = signatureOf(probe) + textOf(chip, variant);
+    std::vector<std::string> lines;
+    if (entryLines == Records::EntryLines::on) lines.push_back(line);
+    if (!isKnown) lines.push_back(line + " failed.");
+    const auto expect = [&](Records& records, bool found, const SchanTriple& out) {
+      EXPECT_EQ(found, isKnown);
+      if (!isKnown) expectOutputs(out, nothing);
+      if (!isKnown) EXPECT_EQ(records.lines.back().level, 0U);
+      if (!isKnown) EXPECT_EQ(records.lines.back().function, "getSchanAddress");
+      std::vector<std::string> texts = records.takeTexts();
+      if (isKnown && !lines.empty()) texts.resize(1);  // hasIdentifier writes the second
+      EXPECT_EQ(texts, lines);
+    };
+    // Bad indices do not matter where the chip is unknown.
+    const U32 entry = isKnown ? 0 : 0xffffffff;
+    SchanTriple out = nothing;
+    const auto view = probe.open(chip, nullptr, 0, variant);
+    Records records(entryLines);
+    expect(records, probe.getSchanAddress(chip, variant, out, 0, entry, 0), out);
+    if (chip > 255) return;
+    out = nothing;
+    const bool found = view->getSchanAddress(out.address, out.accessType, out.block, 0, entry, 0);
+    expect(records, found, out);
+  });
 }
 
 }  // namespace

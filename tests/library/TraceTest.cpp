@@ -1,20 +1,14 @@
-// The lines that members write on entry: which members write, in which order, and the record.
-
-#include <gtest/gtest.h>
+// The lines that members write on entry: which members write, in which order, and the record. The
+// static members are in GeometryTest.
 
 #include <atomic>
 #include <thread>
 
 #include "Kiv/Trace.h"
-#include "support/AssertionFailed.h"
-#include "support/ClassProbes.h"
-#include "support/GoldenData.h"
-#include "support/Records.h"
+#include "support/Sweep.h"
 
 namespace VelmarTest {
 namespace {
-
-using Texts = std::vector<std::string>;
 
 // Runs first and in its own process (one process for each test): the handle does not exist yet.
 TEST(Trace, firstUseFromManyThreads) {
@@ -42,140 +36,93 @@ TEST(Trace, firstUseFromManyThreads) {
   Kiv::TraceFacility::sinkIs(nullptr, nullptr);
 }
 
-TEST(Trace, quintetOfEveryField) {
+/// Calls `action`, which writes these lines, one for each signature.
+template <class Action>
+void expectLines(Records& records, U32 chip, const Action& action,
+                 const std::vector<std::string>& signatures) {
+  records.lines.clear();
+  action();
+  ASSERT_EQ(records.lines.size(), signatures.size());
+  for (std::size_t i = 0; i < signatures.size(); ++i) {
+    const TraceLine& line = records.lines[i];
+    const std::string head = signatures[i].substr(0, signatures[i].find('('));
+    EXPECT_EQ(line.text.substr(0, line.text.find(" identifier")), signatures[i] + textOf(chip, 0));
+    EXPECT_EQ(line.function, head.substr(head.rfind(':') + 1));
+    EXPECT_EQ(line.handle, traceHandleName);
+    EXPECT_EQ(line.level, 8U);
+    EXPECT_EQ(line.file, "VelmarMetaInfo");
+    EXPECT_NE(line.line, 0U);
+  }
+}
+
+TEST(Trace, everyFieldOfEveryClass) {
   for (const ClassProbe& probe : classProbes()) {
-    const GoldenClass& golden = goldenClass(probe.name);
-    for (const GoldenField& expected : golden.fields) {
-      const FieldProbe& field = probe.field(expected.accessor);
-      // A field that no chip has still traces; only what follows the trace fails.
-      if (expected.places.empty()) continue;
-      const U32 chip = expected.places.begin()->first;
+    const std::string scope = " Velmar::" + probe.name + "::";
+    const std::string width = "virtual U16" + scope + "fieldWidth(U32) const";
+    const std::string isValid = "virtual bool" + scope + "isFieldValid(U32) const";
+    const std::string offset = "virtual U16" + scope + "fieldOffset(U32) const";
+    const std::string set = "virtual void" + scope + "setField64(U32, U64)";
+    for (const GoldenField& golden : goldenClass(probe.name).fields) {
+      if (golden.places.empty()) continue;
+      const FieldProbe& field = probe.field(golden.accessor);
+      const U32 chip = golden.places.begin()->first;
+      SCOPED_TRACE(probe.name + " " + field.accessor);
       std::vector<U8> buffer(128, 0);
       const auto view = probe.make(chip, buffer.data(), 128, 0);
-      const std::string where = " chipType: " + std::to_string(chip) + " variant: 0";
+      const std::string setter = field.setterSignature(probe.name);
+      const std::string length = field.lengthSignature(probe.name);
+      const std::string place = field.offsetSignature(probe.name);
+      const std::string validity = field.validitySignature(probe.name);
       Records records(Records::EntryLines::on);
-      const Words value = field.get(*view);
-      field.set(*view, value);
-      ((*view).*field.length)();
-      ((*view).*field.offset)();
-      ((*view).*field.isValid)();
-      ASSERT_EQ(records.lines.size(), 5U);
-      EXPECT_EQ(records.lines[0].function, field.accessor);
-      EXPECT_EQ(records.lines[4].function, std::string("is") + field.capitalised + "Valid");
-      EXPECT_EQ(records.takeTexts(), (Texts{field.getterSignature(probe.name) + where,
-                                            field.setterSignature(probe.name) + where,
-                                            field.lengthSignature(probe.name) + where,
-                                            field.offsetSignature(probe.name) + where,
-                                            field.validitySignature(probe.name) + where}));
+      const auto expect = [&](const auto& action, const std::vector<std::string>& signatures) {
+        expectLines(records, chip, action, signatures);
+      };
+      Words value;
+      expect([&] { value = field.get(*view); }, {field.getterSignature(probe.name)});
+      expect([&] { field.set(*view, value); }, {setter});
+      expect([&] { ((*view).*field.length)(); }, {length});
+      expect([&] { ((*view).*field.offset)(); }, {place});
+      expect([&] { ((*view).*field.isValid)(); }, {validity});
+      // Every forwarding step writes its own line.
+      expect([&] { view->fieldWidth(field.id); }, {width, isValid, validity, length});
+      expect([&] { view->fieldOffset(field.id); }, {offset, place});
+      if (field.isScalar()) expect([&] { view->setField64(field.id, 0); }, {set, setter});
+      if (isOver()) return;
     }
   }
 }
 
-TEST(Trace, everyForwardingStepWritesItsOwnLine) {
+TEST(Trace, entriesAndAddresses) {
   for (const ClassProbe& probe : classProbes()) {
-    const GoldenField& golden = goldenClass(probe.name).fields.front();
-    const FieldProbe& field = probe.field(golden.accessor);
-    const U32 chip = golden.places.begin()->first;
+    const std::string scope = " Velmar::" + probe.name + "::";
+    const U32 chip = anyChipOf(probe);
     std::vector<U8> buffer(128, 0);
     const auto view = probe.make(chip, buffer.data(), 128, 0);
-    const std::string where = " chipType: " + std::to_string(chip) + " variant: 0";
-    const std::string scope = " Velmar::" + probe.name + "::";
-    const auto line = [&](const std::string& signature) { return signature + where; };
     Records records(Records::EntryLines::on);
-
-    view->fieldWidth(field.id);
-    EXPECT_EQ(records.takeTexts(), (Texts{line("virtual U16" + scope + "fieldWidth(U32) const"),
-                                          line("virtual bool" + scope + "isFieldValid(U32) const"),
-                                          line(field.validitySignature(probe.name)),
-                                          line(field.lengthSignature(probe.name))}));
-    view->fieldOffset(field.id);
-    EXPECT_EQ(records.takeTexts(), (Texts{line("virtual U16" + scope + "fieldOffset(U32) const"),
-                                          line(field.offsetSignature(probe.name))}));
-    if (field.isScalar()) {
-      view->setField64(field.id, 0);
-      EXPECT_EQ(records.takeTexts(), (Texts{line("virtual void" + scope + "setField64(U32, U64)"),
-                                            line(field.setterSignature(probe.name))}));
-    }
-    probe.getAllFields(*view);
-    EXPECT_EQ(records.takeTexts(), Texts{line(probe.rawName + scope + "getAllFields() const")});
+    expectLines(records, chip, [&] { probe.getAllFields(*view); },
+                {probe.rawName + scope + "getAllFields() const"});
     U32 out = 0;
-    view->getSchanAddress(out, out, out, 0, 0, 0);
-    EXPECT_EQ(
-        records.takeTexts(),
-        (Texts{line("static bool" + scope +
-                    "getSchanAddress(U32, U8, U32&, U32&, U32&, U16, U32, U16)"),
-               line("static bool" + scope + "hasIdentifier(U32, U8, U32)") + " identifier: 0"}));
-    view->hasIdentifier(3);
-    EXPECT_EQ(
-        records.takeTexts(),
-        Texts{line("static bool" + scope + "hasIdentifier(U32, U8, U32)") + " identifier: 3"});
-    if (probe.isTable) {
-      view->entrySpans();
-      EXPECT_EQ(records.takeTexts(), Texts{line("static Velmar::" + probe.name + "::EntrySpans" +
-                                                scope + "entrySpans(U32, U8)")});
-    }
-  }
-}
-
-TEST(Trace, onlyTheTracedStaticsWrite) {
-  for (const ClassProbe& probe : classProbes()) {
-    const U32 chip = anyChipOf(probe);
-    const auto view = probe.make(chip, nullptr, 0, 0);
-    Records records(Records::EntryLines::on);
-    for (const GeometryProbe& geometry : probe.geometry) {
-      geometry.ofChip(chip, 0);
-      geometry.ofView(*view);
-      const std::string line = "static " + geometry.type + " Velmar::" + probe.name +
-                               "::" + geometry.name +
-                               "(U32, U8) chipType: " + std::to_string(chip) + " variant: 0";
-      EXPECT_EQ(records.takeTexts(), geometry.isTraced ? (Texts{line, line}) : Texts{});
-    }
-    probe.allFieldsMask(chip, 0);
-    view->allFieldsMask();
-    probe.chipTypeVariantValid(static_cast<ChipType_>(chip), 0);
-    if (probe.isTable) probe.tableVariantCount(chip);
-    EXPECT_EQ(records.takeTexts(), Texts{});
+    expectLines(
+        records, chip, [&] { view->getSchanAddress(out, out, out, 0, 0, 0); },
+        {"static bool" + scope + "getSchanAddress(U32, U8, U32&, U32&, U32&, U16, U32, U16)",
+         "static bool" + scope + "hasIdentifier(U32, U8, U32)"});
   }
 }
 
 TEST(Trace, linesComeBeforeTheChecks) {
+  const auto view = classProbes().front().open(5, nullptr, 0, 0);
   Records records(Records::EntryLines::on);
-  const auto view = classProbe("VlanEntry").open(5, nullptr, 0, 3);
-  records.takeTexts();
-  assertionOf([&] { view->fieldOffset(Velmar::FieldId::VALID); });
-  EXPECT_EQ(records.takeTexts(),
-            (Texts{"virtual U16 Velmar::VlanEntry::fieldOffset(U32) const chipType: 5 variant: 3",
-                   "U16 Velmar::VlanEntry::validOffset() const chipType: 5 variant: 3"}));
-  // A failed look-up writes its level-8 line, then its level-0 line.
-  U32 out = 0;
-  Velmar::VlanEntry::getSchanAddress(300, 0, out, out, out, 0, 0, 0);
-  ASSERT_EQ(records.lines.size(), 2U);
-  EXPECT_EQ(records.lines[0].level, 8U);
-  EXPECT_EQ(records.lines[1].level, 0U);
-  EXPECT_EQ(records.lines[1].text, records.lines[0].text + " failed.");
-  records.lines.clear();
-  // Each only if its level is on.
+  expectLines(records, 5, [&] { assertionOf([&] { view->fieldOffset(Velmar::FieldId::VALID); }); },
+              {"virtual U16 Velmar::VlanEntry::fieldOffset(U32) const",
+               "U16 Velmar::VlanEntry::validOffset() const"});
+  // The line of a failure has a level of its own.
   Kiv::TraceFacility::levelIs(traceHandleName, 0, false);
-  Velmar::VlanEntry::getSchanAddress(300, 0, out, out, out, 0, 0, 0);
-  ASSERT_EQ(records.lines.size(), 1U);
-  EXPECT_EQ(records.lines[0].level, 8U);
+  U32 out = 0;
+  expectLines(records, 300,
+              [&] { Velmar::VlanEntry::getSchanAddress(300, 0, out, out, out, 0, 0, 0); },
+              {"static bool Velmar::VlanEntry::getSchanAddress(U32, U8, U32&, U32&, U32&, U16, "
+               "U32, U16)"});
   Kiv::TraceFacility::levelIs(traceHandleName, 0, true);
-}
-
-TEST(Trace, theRecord) {
-  U8 buffer[16] = {};
-  Velmar::VlanEntry entry(BCM56990_B0, buffer, 16, false, 0);
-  Records records(Records::EntryLines::on);
-  entry.validIs(1);
-  ASSERT_EQ(records.lines.size(), 1U);
-  const TraceLine& line = records.lines[0];
-  EXPECT_EQ(line.handle, "AsicUtilsVelmarMetaInfo");
-  EXPECT_EQ(line.level, 8U);
-  EXPECT_EQ(line.file, "VelmarMetaInfo");
-  EXPECT_NE(line.line, 0U);
-  EXPECT_EQ(line.function, "validIs");
-  EXPECT_EQ(line.text, "void Velmar::VlanEntry::validIs(U8) chipType: 33 variant: 0");
-  EXPECT_EQ(buffer[8], 4);
 }
 
 }  // namespace

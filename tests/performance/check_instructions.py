@@ -2,9 +2,9 @@
 
 The same binary on the same inputs gives the same counts, so the limit can be narrow. Where a change
 is meant, refresh the committed counts and let the review see them.
-"""
 
-import argparse
+usage: check_instructions.py [--refresh] PROGRAM COMMITTED"""
+
 import os
 import pathlib
 import re
@@ -32,36 +32,22 @@ def measure(program):
     return {name: int(count.replace(",", "")) / CALLS for count, name in counts}
 
 
-def main():
-    parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("program", type=pathlib.Path)
-    parser.add_argument("committed", type=pathlib.Path)
-    parser.add_argument("--refresh", action="store_true", help="write the committed counts anew")
-    options = parser.parse_args()
-
-    if not shutil.which("valgrind"):
-        print("skipped: valgrind is not installed")
-        return SKIPPED
-    measured = measure(options.program)
-    if options.refresh:
-        lines = [f"{name}\t{count:.1f}\n" for name, count in sorted(measured.items())]
-        options.committed.write_text("".join(lines))
-        return 0
-
-    rows = [line.split("\t") for line in options.committed.read_text().splitlines()]
-    committed = {name: float(count) for name, count in rows}
-    failed = sorted(committed.keys() ^ measured.keys())
-    for name in failed:
-        print(f"{name}: only {'committed' if name in committed else 'measured'}")
-    for name in sorted(committed.keys() & measured.keys()):
-        grown = measured[name] > LIMIT * committed[name]
-        failed += [name] * grown
-        print(f"{name:16} {committed[name]:7.1f} -> {measured[name]:7.1f} {'too many' * grown}")
-    if not failed:
-        return 0
+program, committed_file = sys.argv[-2], pathlib.Path(sys.argv[-1])
+if not shutil.which("valgrind"):
+    print("skipped: valgrind is not installed")
+    sys.exit(SKIPPED)
+measured = measure(program)
+if "--refresh" in sys.argv:
+    committed_file.write_text("".join(f"{name}\t{count:.1f}\n" for name, count in sorted(measured.items())))
+    sys.exit(0)
+committed = {name: float(count) for name, count in
+             (line.split("\t") for line in committed_file.read_text().splitlines())}
+failed = False
+for name in sorted(committed.keys() | measured.keys()):
+    before, now = committed.get(name, 0), measured.get(name, 0)
+    is_wrong = not before or not now or now > LIMIT * before
+    failed |= is_wrong
+    print(f"{name:16} {before:7.1f} -> {now:7.1f} {'not the committed count' * is_wrong}")
+if failed:
     print(f"Where this is meant, refresh the counts and commit them:\n  {REFRESH}")
-    return 1
-
-
-if __name__ == "__main__":
-    sys.exit(main())
+sys.exit(failed)

@@ -40,19 +40,12 @@ TEST(PerUnitBitmap, wordList) {
   EXPECT_EQ(portsOf(bitmap), (std::vector<U32>{64, 95}));
   bitmap.bitListIs(0, 1);
   EXPECT_EQ(bitmap.wordCount(), 3U);
-  try {
-    bitmap.word(3);
-    FAIL();
-  } catch (const Morvo::VectorOutOfRangeException& exception) {
-    EXPECT_EQ(exception.index(), 3U);
-    EXPECT_EQ(exception.count(), 3U);
-  }
+  EXPECT_THROW(bitmap.word(3), Morvo::VectorOutOfRangeException);
 }
 
 TEST(PerUnitBitmap, sizedForPorts) {
-  for (const auto& [ports, words] : std::vector<std::pair<U32, U32>>{
-           {0, 0}, {1, 1}, {32, 1}, {33, 2}, {272, 9}, {288, 9}, {289, 10}, {4096, 128}}) {
-    EXPECT_EQ(PerUnitBitmap(ports).wordCount(), words) << ports;
+  for (const U32 ports : {0U, 1U, 32U, 33U, 288U, 289U, 4096U}) {
+    EXPECT_EQ(PerUnitBitmap(ports).wordCount(), (ports + 31) / 32) << ports;
     EXPECT_TRUE(portsOf(PerUnitBitmap(ports)).empty());
   }
 }
@@ -102,17 +95,13 @@ TEST(PerUnitBitmap, againstASet) {
   }
 }
 
-TEST(PerUnitBitmap, equalityIsOfPorts) {
-  PerUnitBitmap a(32);
-  PerUnitBitmap b(320);
-  EXPECT_EQ(a, b);
-  b.set(319);
-  EXPECT_NE(a, b);
-  EXPECT_NE(b, a);
-}
-
-TEST(PerUnitBitmap, ranges) {
-  PerUnitBitmap bitmap;
+TEST(PerUnitBitmap, equalityAndRangesAreOfPorts) {
+  PerUnitBitmap bitmap(32);
+  PerUnitBitmap longer(320);
+  EXPECT_EQ(bitmap, longer);
+  longer.set(319);
+  EXPECT_NE(bitmap, longer);
+  EXPECT_NE(longer, bitmap);
   EXPECT_STREQ(bitmap.ranges().c_str(), "");
   for (const U32 port : {0U, 1U, 2U, 3U, 17U, 31U, 32U, 300U}) bitmap.set(port);
   EXPECT_STREQ(bitmap.ranges().c_str(), "0-3,17,31-32,300");

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "support/Files.h"
+#include "support/GoldenData.h"
 
 namespace {
 
@@ -73,35 +74,18 @@ std::set<std::string> wordsOf(const std::string& text) {
   return words;
 }
 
-/// Class and accessor names, independent of the rows that the pages are made from.
-std::map<std::string, std::set<std::string>> accessorsByClass() {
-  std::map<std::string, std::set<std::string>> accessors;
-  std::ifstream file(ROOT_DIR "/tests/golden/fields.tsv");
-  std::string line;
-  std::getline(file, line);
-  while (std::getline(file, line)) {
-    std::istringstream cells(line);
-    std::string className;
-    std::string accessor;
-    cells >> className >> accessor;
-    accessors[className].insert(accessor);
-  }
-  return accessors;
-}
-
 TEST(Reference, HasEveryAccessorOnThePageOfItsClass) {
-  const auto accessors = accessorsByClass();
-  ASSERT_FALSE(accessors.empty());
-  EXPECT_EQ(accessors.size() + 1, pages().size());
-  for (const auto& [className, names] : accessors) {
-    ASSERT_EQ(1U, pages().count(className + ".md")) << className;
-    const std::set<std::string> words = wordsOf(pages().at(className + ".md"));
-    for (const std::string& name : names) {
+  EXPECT_EQ(goldenClasses().size() + 1, pages().size());
+  for (const GoldenClass& golden : goldenClasses()) {
+    ASSERT_EQ(1U, pages().count(golden.name + ".md")) << golden.name;
+    const std::set<std::string> words = wordsOf(pages().at(golden.name + ".md"));
+    for (const GoldenField& field : golden.fields) {
+      const std::string& name = field.accessor;
       std::string capitalised = name;
       capitalised[0] = static_cast<char>(std::toupper(name[0]));
       for (const std::string& accessor :
            {name, name + "Is", name + "Len", name + "Offset", "is" + capitalised + "Valid"}) {
-        EXPECT_EQ(1U, words.count(accessor)) << className << " lacks " << accessor;
+        EXPECT_EQ(1U, words.count(accessor)) << golden.name << " lacks " << accessor;
       }
     }
   }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <string>
 
 namespace VelmarTest {
@@ -15,13 +17,24 @@ struct AssertionFailed {
 
 /// Calls `action` and returns the assertion that it failed; one with empty texts if it failed none.
 template <class Action>
-AssertionFailed assertionOf(Action action) {
+AssertionFailed assertionOf(const Action& action) {
   try {
     action();
   } catch (const AssertionFailed& failure) {
     return failure;
   }
   return {"", "", 0, ""};
+}
+
+/// Expects that `action` fails this assertion; none where the text is empty.
+template <class Action>
+void expectFailure(const Action& action, const std::string& text, const std::string& function,
+                   const std::string& file = "VelmarMetaInfo") {
+  const AssertionFailed failure = assertionOf(action);
+  EXPECT_EQ(failure.expression, text);
+  EXPECT_EQ(failure.function, text.empty() ? "" : function);
+  EXPECT_EQ(failure.file, text.empty() ? "" : file);
+  EXPECT_EQ(failure.line != 0, !text.empty());
 }
 
 }  // namespace VelmarTest

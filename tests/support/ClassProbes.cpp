@@ -76,6 +76,14 @@ class Opened : public View {
   }
 };
 
+/// The first chip on which a class exists.
+U32 firstChip(bool (*chipTypeVariantValid)(ChipType_, U8)) {
+  for (const auto& [chip, name] : chipNames()) {
+    if (chipTypeVariantValid(static_cast<ChipType_>(chip), 0)) return chip;
+  }
+  throw std::runtime_error("a class is on none of the chips");
+}
+
 template <class View, class = void>
 constexpr bool isTableView = false;
 template <class View>
@@ -116,8 +124,8 @@ ClassProbe makeClass(const char* name, const char* rawName, std::vector<FieldPro
   probe.make = [](U32 chipType, U8* buf, U16 len, U8 variant) -> std::unique_ptr<Base> {
     return std::make_unique<View>(static_cast<ChipType_>(chipType), buf, len, false, variant);
   };
-  const U32 goodChip = goldenClass(name).chips.begin()->first;
-  probe.open = [goodChip](U32 chipType, U8* buf, U16 len, U8 variant) -> std::unique_ptr<Base> {
+  probe.open = [](U32 chipType, U8* buf, U16 len, U8 variant) -> std::unique_ptr<Base> {
+    static const U32 goodChip = firstChip(&View::chipTypeVariantValid);
     return std::make_unique<Opened<View>>(goodChip, chipType, buf, len, variant);
   };
   probe.chipTypeVariantValid = &View::chipTypeVariantValid;
@@ -217,11 +225,11 @@ std::string FieldProbe::validitySignature(const std::string& view) const {
   return "bool Velmar::" + view + "::is" + capitalised + "Valid() const";
 }
 
-const FieldProbe& ClassProbe::field(const std::string& accessor) const {
+const FieldProbe* ClassProbe::find(const std::string& accessor) const {
   for (const FieldProbe& probe : fields) {
-    if (probe.accessor == accessor) return probe;
+    if (probe.accessor == accessor) return &probe;
   }
-  throw std::runtime_error(name + " has no field " + accessor);
+  return nullptr;
 }
 
 const std::vector<ClassProbe>& classProbes() {
@@ -233,13 +241,6 @@ const std::vector<ClassProbe>& classProbes() {
   return probes;
 }
 
-const ClassProbe& classProbe(const std::string& name) {
-  for (const ClassProbe& probe : classProbes()) {
-    if (probe.name == name) return probe;
-  }
-  throw std::runtime_error("no class " + name);
-}
-
-U32 anyChipOf(const ClassProbe& probe) { return goldenClass(probe.name).chips.begin()->first; }
+U32 anyChipOf(const ClassProbe& probe) { return firstChip(probe.chipTypeVariantValid); }
 
 }  // namespace VelmarTest

@@ -90,11 +90,12 @@ struct ClassProbe {
   U32 (*tableVariantCount)(U32);
   std::vector<const AsicUtils::EntrySpan*> spanMembers;
 
-  const FieldProbe& field(const std::string& accessor) const;
+  /// The field of an accessor; null where the class has none.
+  const FieldProbe* find(const std::string& accessor) const;
+  const FieldProbe& field(const std::string& accessor) const { return *find(accessor); }
 };
 
 const std::vector<ClassProbe>& classProbes();
-const ClassProbe& classProbe(const std::string& name);
 
 /// A chip on which the class exists.
 U32 anyChipOf(const ClassProbe& probe);

@@ -14,7 +14,7 @@ struct GoldenField {
   std::string accessor;
   std::string hardwareName;
   U32 id;
-  std::string type;  ///< U8 to U64, Raw128 or PerUnitBitmap
+  std::string type;  ///< U8 to U64, raw128 or bitmap
   struct Place {
     U32 offset;
     U32 width;
@@ -38,24 +38,18 @@ struct GoldenClass {
   bool isTable;
   std::map<U32, GoldenChip> chips;
   std::vector<GoldenField> fields;
+
+  /// The field of an accessor; null where the class has none.
+  const GoldenField* find(const std::string& accessor) const;
 };
 
 const std::vector<GoldenClass>& goldenClasses();
 const GoldenClass& goldenClass(const std::string& name);
 
-/// Number of rows in each golden file, for the tests that must meet them all.
-struct GoldenRows {
-  U32 places;   ///< fields on chips
-  U32 nowhere;  ///< fields that no chip of their class has
-  U32 tables;
-};
-GoldenRows goldenRows();
-
 /// Whether a class on a chip knows a variant.
-bool knowsVariant(const GoldenChip& chip, U8 variant);
+bool knowsVariant(const GoldenClass& golden, U32 chip, U8 variant);
 
-/// The chips by number, from the golden files' names and the enumeration.
-U32 chipNumber(const std::string& name);
+/// The chips by number, from the enumeration.
 const std::map<U32, std::string>& chipNames();
 
 }  // namespace VelmarTest

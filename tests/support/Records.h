@@ -1,9 +1,11 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "AsicUtils/Types.h"
+#include "Kiv/SassertHelper.h"
+#include "Kiv/Trace.h"
 
 namespace VelmarTest {
 
@@ -21,8 +23,6 @@ struct TraceLine {
 struct SoftAssertion {
   std::string expression;
   std::string file;
-  U32 line;
-  std::string function;
   std::string text;
 };
 
@@ -31,8 +31,26 @@ class Records {
  public:
   enum class EntryLines { off, on };
 
-  explicit Records(EntryLines entryLines = EntryLines::off);
-  ~Records();
+  explicit Records(EntryLines entryLines = EntryLines::off) {
+    Kiv::TraceFacility::sinkIs(
+        [](const Kiv::TraceRecord& each, void* context) {
+          static_cast<Records*>(context)->lines.push_back(
+              {each.handle, each.level, each.file, each.line, each.function, each.text});
+        },
+        this);
+    Kiv::SassertHelper::sinkIs(
+        [](const Kiv::SassertRecord& each, void* context) {
+          static_cast<Records*>(context)->softAssertions.push_back(
+              {each.expression, each.file, each.text});
+        },
+        this);
+    Kiv::TraceFacility::levelIs(traceHandleName, 8, entryLines == EntryLines::on);
+  }
+  ~Records() {
+    Kiv::TraceFacility::levelIs(traceHandleName, 8, false);
+    Kiv::TraceFacility::sinkIs(nullptr, nullptr);
+    Kiv::SassertHelper::sinkIs(nullptr, nullptr);
+  }
   Records(const Records&) = delete;
   Records& operator=(const Records&) = delete;
 
@@ -40,7 +58,11 @@ class Records {
   std::vector<SoftAssertion> softAssertions;
 
   /// The texts of the lines so far, which are then forgotten.
-  std::vector<std::string> takeTexts();
+  std::vector<std::string> takeTexts() {
+    std::vector<std::string> texts;
+    for (const TraceLine& line : std::exchange(lines, {})) texts.push_back(line.text);
+    return texts;
+  }
 };
 
 }  // namespace VelmarTest
