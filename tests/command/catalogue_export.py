@@ -41,14 +41,25 @@ spelling = {"raw128": "Raw128", "bitmap": "Oru::PerUnitBitmap"}
 golden = {(table.name, table.chip): {
     (field.name, field.hardware_name, field.id, spelling.get(field.type, field.type), field.offset,
      field.width) for field in table.fields} for table in golden_tables()}
+shared = {(table.name, table.chip, one.name): {
+    other.name for other in table.fields if other != one and
+    one.offset < other.offset + other.width and other.offset < one.offset + one.width}
+    for table in golden_tables() for one in table.fields}
 layouts = {}
 for table in exported()["tables"]:
+    for field in table["fields"]:
+        check(field["overlaps"] == any(
+            shared.get((table["name"], layout["chip"], field["accessor"]))
+            for layout in table["layouts"]), f"{table['name']} {field['accessor']}: overlaps")
     about = {field["accessor"]: (field["accessor"], field["hardwareName"], field["id"], field["type"])
              for field in table["fields"]}
     for layout in table["layouts"]:
         layouts[table["name"], layout["chip"]] = {
             (*about[name], place["offset"], place["width"])
             for name, place in layout["fields"].items()}
+        for name, place in layout["fields"].items():
+            others = shared[table["name"], layout["chip"], name]
+            check(set(place.get("sharesBitsWith", [])) == others, f"{table['name']} {name}: {others}")
 check(layouts == golden, "other tables, chips or fields than the golden ones")
 one = exported("vlan", "--chip", "33")
 check([table["name"] for table in one["tables"]] == ["VlanEntry"] and

@@ -93,23 +93,5 @@ TEST(Catalogue, agreesWithTheClasses) {
   });
 }
 
-TEST(Catalogue, overlapsAreThoseThatShareBits) {
-  for (U32 t = 0; t < Catalogue::tableCount(); ++t) {
-    const Catalogue::Table table = Catalogue::table(t);
-    for (U32 f = 0; f < table.fieldCount(); ++f) {
-      bool shares = false;
-      for (U32 other = 0; other < table.fieldCount(); ++other) {
-        for (U32 c = 0; c < Catalogue::chipCount() && other != f; ++c) {
-          const Catalogue::BitRange a = table.range(f, Catalogue::chip(c).number);
-          const Catalogue::BitRange b = table.range(other, Catalogue::chip(c).number);
-          shares |= a.width != 0 && b.width != 0 && a.offset < b.offset + b.width &&
-                    b.offset < a.offset + a.width;
-        }
-      }
-      if (table.field(f).overlaps) EXPECT_TRUE(shares) << table.name() << table.field(f).accessor;
-    }
-  }
-}
-
 }  // namespace
 }  // namespace VelmarTest

@@ -119,11 +119,11 @@ int run(const std::string& task, const fs::path& place) {
   const Files headers = derivedHeaders(classes, present);
   const std::vector<std::string> stale = staleHeaders(headers, present);
   if (task == "check" && !stale.empty()) {
-    fail("include/Velmar/" + stale.front() +
-         (stale.size() > 1 ? " and " + std::to_string(stale.size() - 1) + " other headers are"
-                           : " is") +
-         " stale: tables/ says something else. To refresh: cmake --build --preset release "
-         "--target refresh");
+    const std::string others =
+        stale.size() > 1 ? " (and " + std::to_string(stale.size() - 1) + " more)" : "";
+    fail("include/Velmar/" + stale.front() + " is stale" + others +
+         ": tables/ says something else. To refresh: cmake --build --preset release --target "
+         "refresh");
   }
   for (const std::string& name : stale) {
     std::printf("%s\n", name.c_str());

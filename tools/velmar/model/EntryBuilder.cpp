@@ -18,8 +18,7 @@ void EntryBuilder::startFromZero() {
 void EntryBuilder::set(const Assignment& assignment) {
   const FieldPlace& place = assignment.place;
   for (const FieldPlace& earlier : set_) {
-    const bool meets = earlier.offset <= place.lastBit() && place.offset <= earlier.lastBit();
-    if (meets) checkAgainst(earlier, assignment);
+    if (earlier.sharesBitsWith(place)) checkAgainst(earlier, assignment);
   }
   assignment.value.write(place, bytes_.data(), layout_.entryBytes());
   set_.push_back(place);

@@ -29,6 +29,16 @@ Layout::Layout(const Catalogue::Table& table, const Catalogue::Chip& chip, U8 va
   }
 }
 
+std::vector<std::string> Layout::overlapsOf(const FieldPlace& place) const {
+  std::vector<std::string> names;
+  for (const FieldPlace& other : fields_) {
+    if (other.field.id != place.field.id && other.sharesBitsWith(place)) {
+      names.emplace_back(other.name());
+    }
+  }
+  return names;
+}
+
 Address Layout::addressOf(U32 index, U32 identifier) const {
   const U32 address = isRegisterArray() ? geometry_.addressOf(0, index, identifier)
                                         : geometry_.addressOf(index, 0, identifier);

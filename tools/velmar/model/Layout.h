@@ -18,6 +18,9 @@ struct FieldPlace {
   bool isBitmap() const { return field.type == Catalogue::ValueType::bitmap; }
   bool isScalar() const { return width <= 64 && !isBitmap(); }
   U32 lastBit() const { return offset + width - 1; }
+  bool sharesBitsWith(const FieldPlace& other) const {
+    return offset <= other.lastBit() && other.offset <= lastBit();
+  }
   /// As data sheets write it: "47:42", or "66" for one bit.
   std::string bits() const;
 };
@@ -42,6 +45,9 @@ class Layout {
   const Catalogue::Geometry& geometry() const { return geometry_; }
   /// The fields that the chip has, in declaration order.
   const std::vector<FieldPlace>& fields() const { return fields_; }
+
+  /// The names of the fields that share bits with a field of this layout.
+  std::vector<std::string> overlapsOf(const FieldPlace& place) const;
 
   bool isRegisterArray() const { return table_.kind() == Catalogue::Kind::registerArray; }
   U32 entryBytes() const { return 4U * geometry_.words; }

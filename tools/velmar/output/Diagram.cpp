@@ -26,7 +26,7 @@ std::vector<std::vector<const FieldPlace*>> lanesOf(const Layout& layout) {
   std::vector<std::vector<const FieldPlace*>> lanes(1);
   for (const FieldPlace* place : places) {
     const auto collides = [place](const FieldPlace* other) {
-      return place->offset <= other->lastBit() && other->offset <= place->lastBit();
+      return other->sharesBitsWith(*place);
     };
     const auto isFree = [&collides](const std::vector<const FieldPlace*>& lane) {
       return std::none_of(lane.begin(), lane.end(), collides);

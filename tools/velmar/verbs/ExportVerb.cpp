@@ -20,15 +20,15 @@ Json fieldAsJson(const Catalogue::Field& field) {
           {"meaning", field.meaning}};
 }
 
-Json layoutAsJson(const Catalogue::Table& table, const Catalogue::Chip& chip) {
-  const Catalogue::Geometry geometry = table.geometry(chip.number);
+Json layoutAsJson(const Layout& layout) {
+  const Catalogue::Geometry& geometry = layout.geometry();
   Json fields = Json::object();
-  for (U32 i = 0; i < table.fieldCount(); ++i) {
-    const Catalogue::BitRange range = table.range(i, chip.number);
-    if (range.width == 0) continue;
-    fields[table.field(i).accessor] = {{"offset", range.offset}, {"width", range.width}};
+  for (const FieldPlace& place : layout.fields()) {
+    Json& bits = fields[place.name()] = {{"offset", place.offset}, {"width", place.width}};
+    const std::vector<std::string> others = layout.overlapsOf(place);
+    if (!others.empty()) bits["sharesBitsWith"] = others;
   }
-  return {{"chip", chip.name},
+  return {{"chip", layout.chip().name},
           {"variants", geometry.variants == Catalogue::Variants::any ? "any" : "zeroOnly"},
           {"entryBytes", 4U * geometry.words},
           {"entries", geometry.entries},
@@ -48,7 +48,8 @@ Json tableAsJson(const Catalogue::Table& table, const std::vector<Catalogue::Chi
   for (U32 i = 0; i < table.fieldCount(); ++i) fields.push_back(fieldAsJson(table.field(i)));
   Json layouts = Json::array();
   for (const Catalogue::Chip& chip : chips) {
-    if (table.isOn(chip.number, variant)) layouts.push_back(layoutAsJson(table, chip));
+    if (table.isOn(chip.number, variant))
+      layouts.push_back(layoutAsJson(Layout(table, chip, variant)));
   }
   return {{"name", table.name()},
           {"purpose", table.purpose()},

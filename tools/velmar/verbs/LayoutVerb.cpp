@@ -9,18 +9,34 @@
 namespace Tool {
 namespace {
 
-Listing fieldListing(const Layout& layout) {
+/// The fields in the order of their bits. The names of the fields that share bits with them stand in
+/// a column of their own, for people only where there are any.
+Listing fieldListing(const Layout& layout, bool isForPeople) {
   std::vector<FieldPlace> places = layout.fields();
   std::stable_sort(places.begin(), places.end(),
                    [](const FieldPlace& a, const FieldPlace& b) { return a.offset < b.offset; });
-  Listing listing(
-      {"field", "bits", "offset", "width", "type", "hardwareName", "id", "overlaps", "meaning"});
+  std::vector<std::string> columns = {"field",        "bits", "offset",   "width",  "type",
+                                      "hardwareName", "id",   "overlaps", "meaning"};
+  const bool namesOverlaps =
+      !isForPeople || std::any_of(places.begin(), places.end(), [&layout](const FieldPlace& place) {
+        return !layout.overlapsOf(place).empty();
+      });
+  if (namesOverlaps) columns.emplace_back("sharesBitsWith");
+  Listing listing(columns);
   for (const FieldPlace& place : places) {
-    const bool overlaps = place.field.overlaps;
-    listing.add({place.name(), place.bits(), place.offset, place.width,
-                 Catalogue::valueTypeName(place.field.type), place.field.hardwareName,
-                 place.field.id, Cell(overlaps).shownAs(overlaps ? "yes" : ""),
-                 place.field.meaning});
+    const std::vector<std::string> others = layout.overlapsOf(place);
+    const bool overlaps = !others.empty();
+    Row row = {place.name(),
+               place.bits(),
+               place.offset,
+               place.width,
+               Catalogue::valueTypeName(place.field.type),
+               place.field.hardwareName,
+               place.field.id,
+               Cell(overlaps).shownAs(overlaps ? "yes" : ""),
+               place.field.meaning};
+    if (namesOverlaps) row.emplace_back(others);
+    listing.add(std::move(row));
   }
   return listing;
 }
@@ -79,7 +95,7 @@ int run(const Arguments& arguments) {
   } else {
     const std::string head =
         formatText("{{\"geometry\": {},\n \"fields\": [", geometryJson(layout));
-    fieldListing(layout).print(output, format, {head, "]}"});
+    fieldListing(layout, format == Format::table).print(output, format, {head, "]}"});
   }
   output.finish();
   return exitSuccess;
