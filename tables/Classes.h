@@ -31,4 +31,8 @@
   CLASS(EgrVpVlanMembershipHashControl) \
   CLASS(IgmpMldPktControl) \
   CLASS(ProtocolPktControl)
+
+// Pairs of classes that view one memory, so that they share its addresses: PAIR(class, other).
+#define VELMAR_SHARED_MEMORIES(PAIR) \
+  PAIR(VlanProfile2Entry, VfiProfile2Entry)
 // clang-format on

@@ -32,8 +32,9 @@ enum Id : U32 {
   constexpr FieldName names[] = {FIELDS(VELMAR_FIELD_NAME)};                                      \
   constexpr SpanMember spans[] = {SPANS(VELMAR_READ_SPAN_MEMBER){ChipType_{}, nullptr}};          \
   VELMAR_CHECK_ROWS(CLASS, KIND, sizeof(RAW) / 4, names, spans, about, layout, chips, chipFacts)  \
-  [[maybe_unused]] const bool isRead = ::Headers::add(::Headers::withFields(                                        \
-      {#CLASS, #RAW, KIND, about, {SPANS(VELMAR_READ_SPAN_NAME)}, {}, {}}, names, layout, chips)); \
+  [[maybe_unused]] const bool isRead = ::Headers::add(::Headers::completed(                       \
+      {#CLASS, #RAW, KIND, about, {SPANS(VELMAR_READ_SPAN_NAME)}, {}, {}, {}}, names, layout,     \
+      chips, chipFacts));                                                                         \
   }
 #define VELMAR_DEFINE_TABLE(CLASS, RAW, FIELDS, SPANS, about, layout, chips, chipFacts) \
   VELMAR_READ(CLASS, Kind::table, RAW, FIELDS, SPANS, about, layout, chips, chipFacts)

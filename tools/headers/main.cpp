@@ -78,6 +78,30 @@ void checkChips(const std::vector<ClassRows>& classes) {
 
 bool isDerived(const std::string& text) { return text.rfind("// Derived from ", 0) == 0; }
 
+/// Whether two classes may share addresses.
+bool mayShare(const std::string& a, const std::string& b) {
+#define VELMAR_IS_PAIR(one, other) (a == #one && b == #other) || (a == #other && b == #one) ||
+  return VELMAR_SHARED_MEMORIES(VELMAR_IS_PAIR) false;
+#undef VELMAR_IS_PAIR
+}
+
+/// Two tables whose addresses meet on a chip: one of the addresses, or a size, is wrong.
+void checkAddresses(const ClassRows& rows, const ClassRows& other) {
+  if (mayShare(rows.name, other.name)) return;
+  for (std::size_t i = 0; i < rows.chips.size(); ++i) {
+    for (std::size_t j = 0; j < other.chips.size(); ++j) {
+      const AddressRange a = rows.addresses[i];
+      const AddressRange b = other.addresses[j];
+      if (rows.chips[i] != other.chips[j] || a.first > b.last || b.first > a.last) continue;
+      char text[80];
+      std::snprintf(text, sizeof(text), "0x%08x to 0x%08x and 0x%08x to 0x%08x", a.first, a.last,
+                    b.first, b.last);
+      fail(rows.name + " and " + other.name + " share addresses on " + rows.chips[i] + ": " + text +
+           "; correct one of them, or name the pair in tables/Classes.h");
+    }
+  }
+}
+
 /// The derived headers as they should be.
 Files derivedHeaders(const std::vector<ClassRows>& classes, const Files& present) {
   Files headers;
@@ -107,6 +131,9 @@ std::vector<std::string> staleHeaders(const Files& headers, const Files& present
 int run(const std::string& task, const fs::path& place) {
   const std::vector<ClassRows> classes = allClasses();
   checkChips(classes);
+  for (std::size_t i = 0; i < classes.size(); ++i) {
+    for (std::size_t j = 0; j < i; ++j) checkAddresses(classes[j], classes[i]);
+  }
   if (task == "lists") {
     const std::string lists = fieldLists(classes);
     if (readFile(place) != lists) writeFile(place, lists);
