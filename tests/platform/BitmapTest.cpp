@@ -7,6 +7,7 @@
 #include <new>
 #include <random>
 #include <set>
+#include <stdexcept>
 #include <vector>
 
 #include "Morvo/VectorOutOfRange.h"
@@ -48,6 +49,12 @@ TEST(PerUnitBitmap, sizedForPorts) {
     EXPECT_EQ(PerUnitBitmap(ports).wordCount(), (ports + 31) / 32) << ports;
     EXPECT_TRUE(portsOf(PerUnitBitmap(ports)).empty());
   }
+}
+
+TEST(PerUnitBitmap, refusesAnIndexWithoutACount) {
+  PerUnitBitmap bitmap(32);
+  EXPECT_THROW(bitmap.bitListIs(0xffffffff, 1), std::length_error);
+  EXPECT_EQ(bitmap.wordCount(), 1U);
 }
 
 TEST(PerUnitBitmap, upTo288PortsWithoutAllocating) {
