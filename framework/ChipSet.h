@@ -50,7 +50,7 @@ constexpr bool chipsAscend() {
   }
   return true;
 }
-static_assert(chipsAscend(), "chips: the numbers do not ascend, or a number stands twice");
+static_assert(chipsAscend(), "chips: the numbers do not ascend, or a number is listed twice");
 static_assert(chipNames[chipCount - 1].number < ChipSet::end,
               "chips: numbers above 63 do not fit ChipSet; give it more bits");
 

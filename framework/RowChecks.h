@@ -270,7 +270,7 @@ struct ColumnsAreUsed {
 
 template <class Class, bool isSound, auto field, auto chip>
 struct ChipsAreOnce {
-  static_assert(isSound, "a chip stands in two rows, or a row has no chip");
+  static_assert(isSound, "a chip is in two rows, or a row has no chip");
 };
 
 template <class Class, bool isSound, auto field, auto chip>

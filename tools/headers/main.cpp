@@ -122,7 +122,7 @@ int run(const std::string& task, const fs::path& place) {
     const std::string others =
         stale.size() > 1 ? " (and " + std::to_string(stale.size() - 1) + " more)" : "";
     fail("include/Velmar/" + stale.front() + " is stale" + others +
-         ": tables/ says something else. To refresh: cmake --build --preset release --target "
+         ": tables/ has changed. To refresh: cmake --build --preset release --target "
          "refresh");
   }
   for (const std::string& name : stale) {
