@@ -26,7 +26,7 @@ const char* chipName(U32 chipType);
 /// A set of chips, each named.
 class ChipSet {
  public:
-  /// Chips are numbered below this, so that a set is one number.
+  /// Chip numbers are below this, so that a set fits one number.
   static constexpr U32 end = 64;
 
   constexpr ChipSet(std::initializer_list<ChipType_> chips) : bits_(0) {
