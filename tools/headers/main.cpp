@@ -44,7 +44,7 @@ void writeFile(const fs::path& path, const std::string& text) {
   if (!file) fail(path.string() + ": cannot be written");
 }
 
-/// The classes in the order of their list. List and sources must agree.
+/// The classes in the order of tables/Classes.h. List and sources must agree.
 std::vector<ClassRows> allClasses() {
   std::vector<ClassRows> classes;
   std::vector<ClassRows> read = classesRead();
@@ -66,7 +66,7 @@ std::vector<ClassRows> allClasses() {
   return classes;
 }
 
-/// A chip that no class has would exist for nothing but the list of chips.
+/// Refuses a chip that no class has: it would only be in the list of chips.
 void checkChips(const std::vector<ClassRows>& classes) {
   for (const ChipName& chip : chipNames) {
     const bool isUsed = std::any_of(classes.begin(), classes.end(), [&](const ClassRows& rows) {
@@ -78,7 +78,7 @@ void checkChips(const std::vector<ClassRows>& classes) {
 
 bool isDerived(const std::string& text) { return text.rfind("// Derived from ", 0) == 0; }
 
-/// The derived headers as they should be.
+/// The expected derived headers.
 Files derivedHeaders(const std::vector<ClassRows>& classes, const Files& present) {
   Files headers;
   for (const ClassRows& rows : classes) headers[rows.name + ".h"] = classHeader(rows);
@@ -92,7 +92,7 @@ Files derivedHeaders(const std::vector<ClassRows>& classes, const Files& present
   return headers;
 }
 
-/// The names of the derived headers that are not as they should be.
+/// The names of the derived headers that differ from the expected ones.
 std::vector<std::string> staleHeaders(const Files& headers, const Files& present) {
   std::vector<std::string> names;
   for (const auto& [name, text] : headers) {
@@ -122,7 +122,7 @@ int run(const std::string& task, const fs::path& place) {
     const std::string others =
         stale.size() > 1 ? " (and " + std::to_string(stale.size() - 1) + " more)" : "";
     fail("include/Velmar/" + stale.front() + " is stale" + others +
-         ": tables/ has changed. To refresh: cmake --build --preset release --target "
+         ": it does not match tables/. To refresh: cmake --build --preset release --target "
          "refresh");
   }
   for (const std::string& name : stale) {
