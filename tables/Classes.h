@@ -1,7 +1,8 @@
 #pragma once
 
 // Every class of tables/, in the order of the catalogue: CLASS(name). All other lists of classes
-// are made from this one. clang-format off
+// are made from this one.
+// clang-format off
 #define VELMAR_CLASSES(CLASS) \
   CLASS(VlanEntry) \
   CLASS(Vlan2Entry) \
