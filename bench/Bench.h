@@ -13,10 +13,10 @@
 
 namespace Bench {
 
-/// Items that one round of a benchmark walks: few enough for the first-level cache.
+/// Items in one round of a benchmark: few enough for the L1 cache.
 constexpr std::size_t itemCount = 256;
 
-/// The figure of a benchmark is the time for one of its items.
+/// Makes a benchmark report the time for one item.
 inline void countItems(benchmark::State& state, std::size_t perRound) {
   state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(perRound));
 }
@@ -33,8 +33,8 @@ void add(const std::string& name, std::shared_ptr<Items> items, Call call) {
   });
 }
 
-/// Views of one class over buffers of `bytes` bytes, each on a cache line of its own and on one of
-/// `chips`, with random contents.
+/// Views of one class over buffers of `bytes` bytes with random contents, each in a cache line of
+/// its own and for one of `chips`.
 template <class View>
 class Views {
  public:

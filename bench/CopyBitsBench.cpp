@@ -6,7 +6,7 @@ namespace {
 
 using namespace Bench;
 
-/// Where one copy starts: odd offsets, so that nothing is aligned.
+/// The start of one copy: odd offsets, so that nothing is aligned.
 struct Offsets {
   int dst;
   int src;

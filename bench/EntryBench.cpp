@@ -18,7 +18,7 @@ struct FloorBitmap : Floors::Bitmaps {
   FloorBitmap(ChipType_, U8* buf, U16, bool, U8) : Bitmaps(buf) {}
 };
 
-/// The question that a caller asks of an address: chip and entry differ from call to call.
+/// The arguments of an address look-up: chip and entry differ from call to call.
 struct Question {
   U32 chipType;
   U32 tableEntry;

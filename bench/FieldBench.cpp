@@ -1,4 +1,4 @@
-// Scalar fields: getters, setters and the questions about a field.
+// Scalar fields: getters, setters, offset, width and presence.
 
 #include "Bench.h"
 #include "Kiv/Trace.h"
@@ -27,7 +27,7 @@ void addStgAccessors(const std::string& name, std::shared_ptr<Views<VlanStgEntry
 
 void discard(const Kiv::TraceRecord&, void*) {}
 
-/// One line on each call: the level is on while this one runs.
+/// Each call writes one line: the level is on while this benchmark runs.
 void tracedGetter(benchmark::State& state) {
   U8 entry[roomy] = {};
   const VlanEntry view(BCM56990_B0, entry, roomy, false, 0);

@@ -21,7 +21,7 @@ void store(U8* into, T value) {
   std::memcpy(into, &value, sizeof(value));
 }
 
-/// First byte of eight that hold a field of a VLAN entry, on a multiple of 8 where they can be.
+/// The first of eight bytes that hold a field of a VLAN entry: a multiple of 8 if possible.
 constexpr U32 windowOf(U32 offset, U32 width) {
   if (offset / 64 == (offset + width - 1) / 64) return offset / 64 * 8;
   const U32 own = offset / 8;

@@ -5,12 +5,11 @@
 
 #define FLOORS_EXPORT __attribute__((visibility("default")))
 
-/// The least that could do the library's work: one layout known when compiled, no chip, no check,
-/// no trace. Exported members of a shared object, called as the library's are.
+/// Minimal implementations of the library's operations: one layout fixed at compile time, no chip,
+/// check or trace. They are exported members of a shared object, called like the library's.
 namespace Floors {
 
-/// The fields of the VLAN table on the BCM5699x chips that are numbers: FIELD(name, type, offset,
-/// width).
+/// The scalar fields of the VLAN table on the BCM5699x chips: FIELD(name, type, offset, width).
 #define FLOORS_VLAN_FIELDS(FIELD)          \
   FIELD(valid, U8, 66, 1)                  \
   FIELD(fidId, U16, 10, 13)                \
@@ -28,7 +27,7 @@ namespace Floors {
   FIELD(umcIdx, U16, 48, 9)                \
   FIELD(bcIdx, U16, 0, 9)
 
-/// A view of a 16-byte VLAN entry. Its virtual members answer for any identifier at once.
+/// A view of a 16-byte VLAN entry. Its virtual members return at once for any identifier.
 class FLOORS_EXPORT Vlan : public AsicUtils::BcmAsicBase {
  public:
   Vlan(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
@@ -71,8 +70,8 @@ class FLOORS_EXPORT Bitmaps {
   U8* buf_;
 };
 
-/// The arguments of Detail::copyBits. `copyRoutine` is that routine, behind a call that nothing
-/// sees through; the others stand beside it.
+/// The arguments of Detail::copyBits. `copyRoutine` is that routine behind an opaque call; the
+/// others are compared with it.
 using Copy = void (*)(U8* dst, int dstLen, const U8* src, int srcLen, int bits, int dstOffset,
                       int srcOffset);
 #define FLOORS_COPY(name)                                                                          \

@@ -1,4 +1,4 @@
-// Whole tables: 8192 VLAN entries field by field, and the walk of a caller that knows no class.
+// Whole tables: 8192 VLAN entries field by field, and a walk through the virtual interface.
 
 #include <cstring>
 
@@ -55,14 +55,14 @@ void encode(View& view, U32 i) {
 #undef BENCH_SET
 }
 
-/// What an agent does that programs and verifies: each entry is read back at once.
+/// An agent that programs and verifies: each entry is read back at once.
 template <class View>
 void readBack(View& view, U32 i) {
   encode(view, i);
   decode(view, i);
 }
 
-/// All that a caller without the class can do: every identifier of the class through the base.
+/// A caller that does not know the class: every identifier of the class, through the base class.
 void walk(const AsicUtils::AsicBase& view, const U8* entry) {
   U64 sum = 0;
   for (const U32 id :

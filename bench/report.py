@@ -1,4 +1,4 @@
-"""Runs the benchmarks and prints, for each figure, what was measured, its goal and pass or miss."""
+"""Runs the benchmarks and prints each figure with its goal and pass or miss."""
 
 import argparse
 import json
@@ -8,7 +8,7 @@ import subprocess
 import sys
 import tempfile
 
-# Benchmark, its floor, the most that the ratio may be.
+# Benchmark, its floor, the largest ratio allowed.
 RATIOS = [
     ("getter/one chip", "getter/floor", 1.75),
     ("getter/mixed chips", "getter/floor", 1.75),
@@ -53,7 +53,7 @@ MEGABYTE = 1e6
 
 
 def run_benchmarks(build, repetitions):
-    """The best time of one item, in nanoseconds, by benchmark; the best of several repetitions."""
+    """The time of one item in nanoseconds, by benchmark; the best of several repetitions."""
     command = [build / "bin/velmar-bench", "--benchmark_enable_random_interleaving=true",
                f"--benchmark_repetitions={repetitions}", "--benchmark_min_time=0.01",
                "--benchmark_format=json"]
@@ -75,7 +75,7 @@ def stripped_size(library):
 
 
 def parse_times(sources, repetitions=12):
-    """The least processor time, in milliseconds, that the compiler takes for each source."""
+    """The least CPU time, in milliseconds, that the compiler takes for each source."""
     best = [float("inf")] * len(sources)
     with tempfile.TemporaryDirectory() as folder:
         source = pathlib.Path(folder) / "source.cpp"

@@ -1,4 +1,4 @@
-# What all targets of the project are compiled with.
+# Compiler options of all targets of the project.
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -23,14 +23,14 @@ if(VELMAR_SANITIZE)
   add_link_options(-fsanitize=${VELMAR_SANITIZE})
 endif()
 
-# With clang: the fuzz targets search for inputs of their own, and all code tells them its coverage.
+# With clang: the fuzz targets generate their own inputs, and all code is instrumented for coverage.
 option(VELMAR_FUZZ "build the fuzz targets with libFuzzer" OFF)
 if(VELMAR_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link -fno-sanitize-coverage=trace-cmp)
 endif()
 
-# What the sources of tables/ need of a compiler: the row checks of the port families take more steps
-# than clang allows by default.
+# Compiler options for tables/: the row checks of the port families take more constexpr steps than
+# clang allows by default.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   set(VELMAR_ONE_ERROR -fmax-errors=1)
 else()
@@ -41,8 +41,8 @@ endif()
 include(CheckLinkerFlag)
 check_linker_flag(CXX "LINKER:-z,pack-relative-relocs" VELMAR_HAS_PACKED_RELOCATIONS)
 
-# A shared library of the project: versions, no undefined symbols, and calls between its own members
-# that do not go through the symbol table.
+# A shared library of the project: versioned, no undefined symbols, and direct calls between its own
+# members.
 function(velmar_shared_library target)
   set_target_properties(${target} PROPERTIES
     VERSION ${PROJECT_VERSION}
@@ -54,7 +54,7 @@ function(velmar_shared_library target)
   endif()
   target_compile_options(${target} PRIVATE ${VELMAR_CONSTEXPR_OPTIONS})
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
-    # The thousands of signature texts need no 32-byte alignment.
+    # The thousands of signature texts do not need 32-byte alignment.
     target_compile_options(${target} PRIVATE -malign-data=abi)
   endif()
   target_link_options(${target} PRIVATE LINKER:-Bsymbolic-functions)

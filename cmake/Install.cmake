@@ -1,5 +1,5 @@
-# Installed: the library with its headers, the CMake package VelmarMetaInfo and a pkg-config file, and
-# the command where it is built. The platform installs itself.
+# Installs the library with its headers, the CMake package VelmarMetaInfo and a pkg-config file, and
+# the command if it is built. The platform has install rules of its own.
 
 include(CMakePackageConfigHelpers)
 

@@ -7,7 +7,7 @@
 namespace Examples {
 
 /// The first entries of a table, or elements of a register array, on one chip, as an agent holds
-/// them before it writes them to the chip: one buffer, all zero at the start.
+/// them before it writes them to the chip: one buffer, initially all zero.
 template <class View>
 class Dump {
  public:

@@ -21,7 +21,7 @@ bool writeBytes(const std::string& path, const std::vector<U8>& bytes) {
 }  // namespace
 
 bool writeFile(const char* program, const std::string& path, const std::vector<U8>& bytes) {
-  // The new file takes the old one's place, which a device or a pipe must not suffer.
+  // The new file replaces the old one, which must not happen to a device or a pipe.
   std::error_code ignored;
   if (std::filesystem::exists(path, ignored) && !std::filesystem::is_regular_file(path, ignored)) {
     std::fprintf(stderr, "%s: %s: not a regular file; name another\n", program, path.c_str());

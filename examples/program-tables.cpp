@@ -14,7 +14,7 @@ constexpr const char usage[] =
     "Programs a few entries of a table of each kind and writes each table to a file of its own\n"
     "in DIRECTORY: entries in order, raw, little-endian.\n";
 
-/// Ports `first` to `last`, in as many words as `ports` ports take.
+/// Ports `first` to `last`, in a bitmap for `ports` ports.
 Oru::PerUnitBitmap portRange(U32 ports, U32 first, U32 last) {
   Oru::PerUnitBitmap bitmap(ports);
   for (U32 port = first; port <= last; ++port) bitmap.set(port);
@@ -51,7 +51,7 @@ Bytes programSpanningTreeGroups() {
   for (U32 group = 1; group < 4; ++group) {
     Velmar::VlanStgEntry entry = table.entry(group);
     for (U32 port = 0; port < ports; ++port) {
-      // Most ports forward; each group blocks uplinks of its own, and one port is still learning.
+      // Most ports forward; each group blocks different uplinks, and one port is still learning.
       const bool isBlocked = port >= ports - 4 && port % 4 != group;
       const State state = isBlocked ? blocking : port == 10 * group ? learning : forwarding;
       entry.setField64(Velmar::FieldId::firstPort + port, state);
@@ -73,7 +73,7 @@ Bytes programVlanProfiles() {
     entry.l3Ipv4PfmIs(static_cast<U8>(profile % 3));
     entry.l3Ipv6PfmIs(static_cast<U8>(profile % 4));
   }
-  // A closed VLAN: nothing unknown passes, and the CPU sees what was tried.
+  // A closed VLAN: unknown traffic is dropped and copied to the CPU.
   Velmar::VlanProfileEntry closed = table.entry(1);
   closed.l2MissDropIs(1);
   closed.l2MissTocpuIs(1);
@@ -94,7 +94,7 @@ Examples::Dump<Velmar::IngVpVlanMembershipEntry> virtualPortMembers() {
     entry.vpIs(static_cast<U16>(0x1200 + slot));
     entry.spTreeIs(3);
   }
-  // Another kind of key names another pair over the same bits.
+  // A different key type has other fields over the same bits.
   Velmar::IngVpVlanMembershipEntry instance = table.entry(6);
   instance.keyTypeIs(1);
   instance.vfiIs(0x2abc);
@@ -121,7 +121,7 @@ Bytes programVirtualPortMembersEcc() {
       const U64 member = members.entry(2 * index + bit / half).getAllFields();
       if ((member >> bit % half & 1) == 0) continue;
       data.words[bit / 32] |= 1U << bit % 32;
-      check ^= bit + 1;  // a plain Hamming code: which code the chip computes, views do not know
+      check ^= bit + 1;  // a plain Hamming code; views do not know the code that the chip computes
       ++ones;
     }
     entry.eccDataIs(data);
@@ -131,7 +131,7 @@ Bytes programVirtualPortMembersEcc() {
   return table.bytes();
 }
 
-/// A register array: what the profiles' packet kinds do. Element n belongs to profile n.
+/// A register array: the actions of the profiles per packet kind. Element n belongs to profile n.
 Bytes programPacketControl() {
   enum Action : U8 { forward, drop, flood };
   Examples::Dump<Velmar::IgmpMldPktControl> elements(BCM56870_A0, 8);

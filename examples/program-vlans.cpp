@@ -1,5 +1,5 @@
-// Plays the switch agent: programs a set of VLANs into a buffer for the whole ingress VLAN table of
-// a BCM56990_B0, through views, and saves the buffer as the agent would.
+// Acts as the switch agent: programs a set of VLANs through views into a buffer for the whole
+// ingress VLAN table of a BCM56990_B0, and saves the buffer as the agent would.
 
 #include "CommandLine.h"
 #include "Dump.h"
@@ -18,12 +18,12 @@ constexpr unsigned snooping = 1;      ///< IGMP and MLD are snooped
 constexpr unsigned noLearning = 2;    ///< addresses are not learned
 constexpr unsigned virtualPorts = 4;  ///< some of its ports are virtual
 
-/// A run of VLANs that are set up alike. Identifiers and indices that are marked "first" rise by
-/// one from VLAN to VLAN.
+/// A range of VLANs with the same setup. Identifiers and indices whose names begin with "first"
+/// increase by one from VLAN to VLAN.
 struct VlanRange {
   U32 first;
   U32 count;
-  U16 firstForwardingId;  ///< VLANs with the same one share their addresses
+  U16 firstForwardingId;  ///< VLANs with the same id share their addresses
   U16 treeGroup;
   U8 profile;
   U16 vlanClass;
@@ -41,7 +41,7 @@ constexpr VlanRange vlans[] = {
   {    10,    1,   10,     1,     1,   10,     1,    1,    3,    1, noLearning},            // management
   {    20,    1,   20,     2,     2,   20,     2,    2,    6,    2, snooping},              // voice
   {    30,    1,   30,     2,     3,   20,     3,    3,    9,    2, snooping},              // video, multicast
-  {    99,    1,   99,     1,     4,   99,     4,    4,   12,    0, noLearning},            // unused ports are parked here
+  {    99,    1,   99,     1,     4,   99,     4,    4,   12,    0, noLearning},            // for unused ports
   {   200,    4,  200,     3,     5,  200,    16,    5,   15,    3, 0},                     // customer A
   {   300,    4,  300,     4,     5,  300,    20,    6,   27,    3, 0},                     // customer B
   {   666,    1,   10,     1,     6,  666,     5,    7,   39,    0, noLearning},            // isolated; shares the addresses of VLAN 10

@@ -13,7 +13,7 @@ struct SchanOutputs {
   U32& block;
 };
 
-/// The three inputs of an address look-up beside chip and variant.
+/// The inputs of an address look-up besides chip and variant.
 struct SchanInputs {
   U16 identifier;
   U32 tableEntry;
@@ -23,7 +23,7 @@ struct SchanInputs {
 using HasIdentifier = bool (*)(U32 chipType, U8 variant, U32 identifier);
 
 /// The slow path of a look-up: trace, checks in their order, address, identifier. `hasIdentifier` is the
-/// class's own, which traces its own line.
+/// class's member, which traces a line of its own.
 [[gnu::cold]] bool lookUpAddress(const ClassData& data, U32 chipType, U8 variant,
                                  SchanOutputs outputs, SchanInputs inputs,
                                  HasIdentifier hasIdentifier, Site site);

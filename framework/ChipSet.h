@@ -26,7 +26,7 @@ const char* chipName(U32 chipType);
 /// A set of chips, each named.
 class ChipSet {
  public:
-  /// Chips are numbered below this, so that a set is one number.
+  /// Chip numbers are below this, so that a set fits one number.
   static constexpr U32 end = 64;
 
   constexpr ChipSet(std::initializer_list<ChipType_> chips) : bits_(0) {
@@ -50,7 +50,7 @@ constexpr bool chipsAscend() {
   }
   return true;
 }
-static_assert(chipsAscend(), "chips: the numbers do not ascend, or a number stands twice");
+static_assert(chipsAscend(), "chips: the numbers do not ascend, or a number is listed twice");
 static_assert(chipNames[chipCount - 1].number < ChipSet::end,
               "chips: numbers above 63 do not fit ChipSet; give it more bits");
 

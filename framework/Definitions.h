@@ -6,14 +6,14 @@
 #include "framework/Geometry.h"
 #include "framework/RowChecks.h"
 
-// What the rows of a class become: VELMAR_DEFINE_TABLE and VELMAR_DEFINE_REGISTER, at the end, check
-// them and define every member that the class's header declares. A member is one call of the engine.
-// The parts use names that the first of them, VELMAR_DEFINE_DATA, makes: View, Index, ViewData,
-// ViewFields. `scripts/expand <Class>` prints what all of it makes of a class.
+// VELMAR_DEFINE_TABLE and VELMAR_DEFINE_REGISTER, at the end, check the rows of a class and define
+// every member that the class's header declares. A member is one call into the engine. All macros
+// rely on names that VELMAR_DEFINE_DATA defines: View, Index, ViewData, ViewFields.
+// `scripts/expand <Class>` prints the expansion for a class.
 
 // clang-format off
 
-/// The member that stands here.
+/// The call site of the enclosing member.
 #define VELMAR_SITE (::Velmar::Framework::Site{__PRETTY_FUNCTION__, __LINE__})
 
 /// A field as an index into the class's rows of names.
@@ -99,7 +99,8 @@
   }                                                                                          \
   Raw8192 CLASS::allFieldsMask() const { return allFieldsMask(chipType_, variant_); }
 
-/// A geometry value, static and of the view; READ is facts, or tracedFacts where the member traces.
+/// A geometry value as a static and a view member; READ is facts, or tracedFacts if the member
+/// traces.
 #define VELMAR_DEFINE_GEOMETRY(CLASS, TYPE, member, fact, READ)                             \
   TYPE CLASS::member(U32 chipType, U8 variant) {                                            \
     return Framework::READ(classData_##CLASS, chipType, variant, VELMAR_SITE).fact;         \
@@ -126,7 +127,7 @@
                            tableEntry, arrayIndex);                                               \
   }
 
-/// What memories and registers have in common.
+/// Everything common to memories and register arrays.
 #define VELMAR_DEFINE_VIEW(CLASS, KIND, RAW, FIELDS, SPANS, about, layout, chips, chipFacts)    \
   VELMAR_DEFINE_DATA(CLASS, KIND, RAW, FIELDS, SPANS, about, layout, chips, chipFacts)          \
   VELMAR_DEFINE_CONSTRUCTION(CLASS, KIND)                                                       \

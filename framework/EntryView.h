@@ -9,9 +9,9 @@ namespace Framework {
 /// A view of any class.
 using EntryView = AsicUtils::AsicBase;
 
-/// Reads the protected members of a view. The accessors are functions outside the view's class, and
-/// the base class, which belongs to the base libraries, has no public way to ask for them. A derived
-/// class may name the members of its base; no object of this one is ever made.
+/// Reads the protected members of a view. The engine's functions are outside the view's class, and
+/// the base class, which belongs to the base libraries, has no public getters for them. A derived
+/// class may name the members of its base; this one is never instantiated.
 class ViewAccess : public EntryView {
  public:
   static U8* buf(const EntryView& view) { return view.*(&ViewAccess::buf_); }

@@ -6,7 +6,7 @@ namespace Velmar {
 namespace Framework {
 namespace {
 
-/// The field's slot, after the checks that getter, setter and offset share.
+/// The field's slot, after the checks common to getter, setter and offset.
 const FieldSlot& checkPresent(const EntryView& view, U32 field, const ClassData& data, Site site) {
   const FieldSlot& slot = data.slot(field, data.rowOfChip(ViewAccess::chipType(view)));
   if (slot.width == 0) fail("0", site);
@@ -25,7 +25,7 @@ const FieldSlot& checkPresent(const EntryView& view, U32 field, const ClassData&
   if (value > largestValue(slot)) failHexadecimal("value <= ", largestValue(slot), site);
 }
 
-/// Whether the view's buffer holds the field; false where the view does not have it.
+/// Whether the view has the field and its buffer holds it.
 bool isHeld(const EntryView& view, const FieldSlot& slot) {
   return slot.width != 0 && ViewAccess::len(view) >= bytesUpTo(slot);
 }
@@ -52,7 +52,7 @@ void read(const EntryView& view, const FieldSlot& slot, Oru::PerUnitBitmap& bitm
   for (U32 i = 0; i < wordsOf(slot); ++i) bitmap.bitListIs(i, words[i]);
 }
 
-/// Writes the words that the bitmap has, then throws where the field has more.
+/// Writes the words that the bitmap has, then throws if the field needs more.
 void write(const EntryView& view, const FieldSlot& slot, const Oru::PerUnitBitmap& bitmap) {
   const U32 given = std::min(wordsOf(slot), wordCountOf(bitmap));
   U32 words[mostBitmapWords];

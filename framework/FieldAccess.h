@@ -3,20 +3,20 @@
 #include "framework/PlatformAdapter.h"
 #include "framework/Reports.h"
 
-// The five members of a field. One comparison with the field's slot decides whether the fast path
-// holds. Where it does not, or where the trace may be on, a routine out of line takes the slow path:
-// trace, then the checks in their order, then the work.
+// The five members of a field. One comparison with the field's slot decides whether to take the
+// fast path. Otherwise, or if the trace may be on, an out-of-line routine takes the slow path:
+// trace, then the checks in order, then the work.
 
 namespace Velmar {
 namespace Framework {
 
-/// The whole operation, whatever the buffer's length, for any value type.
+/// The slow path of the operation, for a buffer of any length and any value type.
 template <class T>
 T wholeGet(const EntryView& view, const FieldSlot& slot, const ClassData& data);
 /// The same for scalar values.
 template <class T>
 void wholeSet(const EntryView& view, T value, const FieldSlot& slot, const ClassData& data);
-/// The same for values that are never too large.
+/// The same for values that are not range-checked.
 void setBitmap(const EntryView& view, const Oru::PerUnitBitmap& value, const FieldSlot& slot,
                const ClassData& data);
 void setRaw(const EntryView& view, const Raw128& value, const FieldSlot& slot,
@@ -29,8 +29,8 @@ void setRaw(const EntryView& view, const Raw128& value, const FieldSlot& slot,
 [[gnu::cold]] bool checkedIsValid(const EntryView& view, const FieldSlot& slot,
                                   const ClassData& data);
 
-/// The fields of one class. `Class` names its data twice: Class::arrays as the fast path reads them,
-/// and Class::data for everything else.
+/// The fields of one class. `Class` has its data twice: Class::arrays for the fast path,
+/// Class::data for everything else.
 template <class Class>
 class Fields {
  public:
@@ -85,8 +85,8 @@ class Fields {
  private:
   static constexpr const ClassData& data = Class::data;
 
-  /// In a class of many fields the accessors share one routine for each operation; in the others
-  /// each has its own copy. Port families have hundreds of accessors.
+  /// In a class of many fields the accessors share one routine for each operation, since port
+  /// families have hundreds of them; in the others each accessor has its own copy.
   static constexpr bool sharesRoutines = Class::arrays.fields > 64;
 
   static const FieldSlot& slotOf(const EntryView& view, U32 field) {
@@ -94,15 +94,15 @@ class Fields {
     return slotIn(Class::arrays, field, row);
   }
 
-  // What holds on the fast path, said for the compiler.
-  /// The layout rows are checked: the width lies within the value type.
+  // Facts of the fast path, stated for the optimiser.
+  /// The row checks guarantee that the width fits the value type.
   template <class T>
   static int checkedWidth(const FieldSlot& slot) {
     const int width = slot.width;
     if (width < 1 || width > static_cast<int>(8 * sizeof(T))) __builtin_unreachable();
     return width;
   }
-  /// The length was compared with the slot's: the buffer holds a whole window.
+  /// The comparison with the slot guarantees that the buffer holds a whole window.
   static int checkedLen(U16 len) {
     if (len < plainCopyBytes) __builtin_unreachable();
     return len;

@@ -4,15 +4,15 @@ namespace Velmar {
 namespace Framework {
 namespace {
 
-/// The slot of the field that an identifier names; that of an unknown one is absent.
+/// The slot of the field that an identifier names; an absent slot for an unknown identifier.
 const FieldSlot& slotOfId(const EntryView& view, U32 id, const ClassData& data) {
   return data.slot(data.fieldOfId(id), rowOf(view, data));
 }
 
-/// The value as the setter's parameter takes it: high bits that the type lacks are dropped.
+/// The value converted to the setter's parameter: high bits beyond the type are dropped.
 U64 narrowed(U64 value, ValueType type) { return value & (~U64{0} >> (64 - bitsOf(type))); }
 
-// The slow paths of the operations below: trace, checks, answer.
+// The slow paths of the operations below: trace, checks, result.
 
 [[gnu::cold, gnu::noinline]] U16 tracedOffset(const EntryView& view, U32 id, const ClassData& data,
                                               Site site) {

@@ -2,8 +2,8 @@
 
 #include "framework/FieldAccess.h"
 
-// Fields chosen by identifier. Each operation answers as the member of the field's quintet does;
-// where it traces, its own line comes first and the field member's line after it.
+// Fields chosen by identifier. Each operation gives the result of the corresponding field member;
+// if it traces, its own line comes first, then the field member's.
 
 namespace Velmar {
 namespace Framework {

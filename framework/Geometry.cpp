@@ -4,8 +4,8 @@ namespace Velmar {
 namespace Framework {
 namespace {
 
-/// The row of a chip and variant; fails where the class lacks them, with the variant's text as the
-/// caller names it.
+/// The row of a chip and variant; fails if the class lacks them, with the caller's text for the
+/// variant.
 U32 knownRow(const ClassData& data, U32 chipType, U8 variant, const char* variantText, Site site) {
   const U32 row = data.rowOf(chipType, variant);
   if (__builtin_expect(row == data.rows, false)) {

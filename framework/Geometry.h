@@ -3,8 +3,7 @@
 #include "framework/PlatformAdapter.h"
 #include "framework/Reports.h"
 
-// What a class says of a chip and variant without looking at an entry: construction, geometry and
-// masks.
+// What depends on chip and variant only: construction, geometry and masks; and whole entries.
 
 namespace Velmar {
 namespace Framework {
@@ -23,8 +22,8 @@ bool hasIdentifier(const ClassData& data, U32 chipType, U8 variant, U32 identifi
 
 Raw8192 allFieldsMask(const ClassData& data, U32 chipType, U8 variant, Site site);
 
-/// Fills `words` 32-bit words with the entry, zero at all bits that belong to no field. Words
-/// beyond those that the class needs of the buffer stay zero.
+/// Fills `words` 32-bit words with the entry, with the reserved bits zero. Words beyond those that
+/// the class needs in the buffer stay zero.
 void allFields(const ClassData& data, const EntryView& view, Site site, U32* entry, int words);
 
 /// getAllFields in the type that the class returns.
@@ -37,10 +36,10 @@ Raw allFieldsAs(const ClassData& data, const EntryView& view, Site site) {
   return entry;
 }
 
-/// Traces a construction, or fails it where the class lacks the chip or variant.
+/// Traces a construction, or fails it if the class lacks the chip or variant.
 [[gnu::cold]] void checkConstruction(const ClassData& data, U32 chipType, U8 variant, Site site);
 
-/// The constructor's work beyond its base.
+/// The body of a view's constructor.
 template <class Class>
 inline void construct(U32 chipType, U8 variant, Site site) {
   if (takesSlowPath(rowIn(Class::arrays, chipType, variant) == Class::arrays.rows)) {

@@ -2,12 +2,12 @@
 
 #include "framework/Names.h"
 
-// The field identifiers as rows, and what must hold of them.
+// The field identifiers as rows, and the checks on them.
 
 namespace Velmar {
 namespace Framework {
 
-/// A field identifier with its names. The names stand in the row: no pointers to relocate.
+/// A field identifier with its names, stored in the row: no pointers to relocate.
 struct IdRow {
   U16 id;
   char hardwareName[36];
@@ -38,7 +38,7 @@ constexpr bool namesAscend(const IdRow (&rows)[count], U32 sorted) {
   return true;
 }
 
-/// Whether no row from `sorted` on has the name of a row before it.
+/// Whether no row from `sorted` on repeats the name of an earlier row.
 template <U32 count>
 constexpr bool namesAreOnce(const IdRow (&rows)[count], U32 sorted) {
   for (U32 i = sorted; i < count; ++i) {

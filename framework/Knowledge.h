@@ -3,7 +3,7 @@
 #include "framework/IdRows.h"
 #include "framework/TableData.h"
 
-// What tables/ gives the engine beside the definitions of its classes.
+// What tables/ supplies to the engine besides the definitions of its classes.
 
 namespace Velmar {
 namespace Framework {

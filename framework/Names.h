@@ -15,7 +15,7 @@ constexpr bool sameText(const char* a, const char* b) {
 }
 
 /// Writes the accessor name of a hardware name: lower case, each underscore dropped and the
-/// character after it in upper case. `accessor` has room for `hardwareName` and a zero.
+/// character after it in upper case. `accessor` has room for `hardwareName` and its terminator.
 constexpr void writeAccessorName(char* accessor, const char* hardwareName) {
   bool afterUnderscore = false;
   for (; *hardwareName != '\0'; ++hardwareName) {
@@ -27,7 +27,7 @@ constexpr void writeAccessorName(char* accessor, const char* hardwareName) {
   *accessor = '\0';
 }
 
-/// Order of names in which a run of digits compares as a number.
+/// Natural order of names: a run of digits compares as a number.
 constexpr bool naturallyBefore(const char* a, const char* b) {
   while (*a != '\0' && *b != '\0') {
     if (isDigit(*a) && isDigit(*b)) {

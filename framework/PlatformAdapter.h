@@ -1,7 +1,7 @@
 #pragma once
 
-// All that the library uses of the base libraries beyond the interfaces of its own views. Whoever
-// builds against other base libraries changes this header and its source, and the CMake target
+// All that the library uses of the base libraries beyond the interfaces of its own views. To build
+// against other base libraries, change this header and its source, and the CMake target
 // Velmar::Platform.
 
 #include "AsicUtils/ChipType.h"
@@ -28,8 +28,8 @@ inline bool traceIsOn(U32 level) { return traceHandle.isEnabled(level); }
 inline U32 wordCountOf(const Oru::PerUnitBitmap& bitmap) { return bitmap.wordCount(); }
 inline U32 wordOf(const Oru::PerUnitBitmap& bitmap, U32 index) { return bitmap.word(index); }
 
-/// Length in bytes from which on the bit copy treats buffers alike. A matter of speed only:
-/// accessors leave shorter buffers to a routine out of line.
+/// Length in bytes from which the bit copy has one path for all buffers. A matter of speed only:
+/// accessors leave shorter buffers to the slow path.
 constexpr U32 plainCopyBytes = Detail::windowBytes;
 
 /// The bytes of a raw value or integer, lowest first.

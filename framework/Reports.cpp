@@ -11,8 +11,7 @@
 #include "framework/Names.h"
 #include "framework/PlatformAdapter.h"
 
-// Declared here and not taken from <cassert>: that declaration promises not to throw, and checks
-// must stay on in every build.
+// Not <cassert>: its declaration promises not to throw, and the checks must stay on in every build.
 extern "C" [[noreturn]] void __assert_fail(const char* expression, const char* file,
                                            unsigned int line, const char* function);
 
@@ -29,8 +28,8 @@ namespace {
 
 constexpr const char* sourceFile = "VelmarMetaInfo";
 
-/// The short function name in a signature: what stands between the last ':' or ' ' before the
-/// parameters and the parameters.
+/// The short function name in a signature: from after the last ':' or ' ' before the parameters up
+/// to the parameters.
 class ShortName {
  public:
   explicit ShortName(const char* signature) {
@@ -47,7 +46,7 @@ class ShortName {
   char text_[64];
 };
 
-/// Writes one line, unless its level is off: what is streamed in, under the member's name.
+/// Writes one line under the member's name, unless its level is off; `write` streams the text.
 template <class Write>
 void traceLine(U32 level, Site site, Write write) {
   if (!traceIsOn(level)) return;
@@ -66,7 +65,7 @@ template <class Write>
   fail("\"0\" == nullptr", site);
 }
 
-/// What follows the name in each member's signature.
+/// The text after the name in each member's signature.
 constexpr const char* suffixes[] = {"() const", "Is(", "Len() const", "Offset() const",
                                     "Valid() const"};
 

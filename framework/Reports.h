@@ -3,8 +3,8 @@
 #include "framework/EntryView.h"
 #include "framework/PlatformAdapter.h"
 
-// The reports of the library: trace lines, soft assertions and assertions. All of them are out of
-// line; texts are built only when a report is made.
+// The reports of the library: trace lines, soft assertions and assertions. All are out of line;
+// texts are built only when a report is made.
 
 namespace Velmar {
 namespace Framework {
@@ -15,11 +15,11 @@ struct Site {
   U32 line;
 };
 
-/// The members of the field quintet.
+/// The five members of a field.
 enum class Member : U8 { getter, setter, length, offset, validity };
 
-/// The site of a quintet member. Its signature is put together only when a report is made: stored
-/// for each of the accessors, the texts would be a quarter of the library.
+/// The site of a field member. Its signature is assembled only when a report is made: stored for
+/// each accessor, the texts would take a quarter of the library.
 class FieldSite {
  public:
   FieldSite(const ClassData& data, U32 field, Member member);
@@ -35,12 +35,12 @@ constexpr U32 entryLevel = 8;
 /// Level of the line that a failed address look-up writes.
 constexpr U32 failureLevel = 0;
 
-/// Whether a member may have to write its line: false only where the trace is off.
+/// Whether a member may have to write its line: false only if the trace is off.
 inline bool mayTrace() { return __builtin_expect(traceMayBeOn(entryLevel), false); }
-/// Whether a member leaves its fast path: something is wrong, or the trace may be on.
+/// Whether a member leaves its fast path: its comparison failed, or the trace may be on.
 inline bool takesSlowPath(bool isWrong) { return __builtin_expect(isWrong, false) || mayTrace(); }
 
-/// Fails an assertion. May be left by an exception: a test may replace the C library's report.
+/// Fails an assertion. May throw: a test may replace the C library's report.
 [[noreturn, gnu::cold]] void fail(const char* expression, Site site);
 /// Fails an assertion whose expression ends in a decimal number: "len_ >= 44".
 [[noreturn, gnu::cold]] void failDecimal(const char* expression, U32 number, Site site);
@@ -57,7 +57,7 @@ inline bool takesSlowPath(bool isWrong) { return __builtin_expect(isWrong, false
 [[gnu::cold]] void traceMember(const EntryView& view, Site site);
 /// The line that a static member writes on entry, where the level is on.
 [[gnu::cold]] void traceStatic(U32 chipType, U8 variant, Site site);
-/// The same with the identifier asked for.
+/// The same, with the identifier that was passed.
 [[gnu::cold]] void traceIdentifier(U32 chipType, U8 variant, U32 identifier, Site site);
 /// The line of a failed address look-up, where its level is on.
 [[gnu::cold]] void traceFailure(U32 chipType, U8 variant, Site site);

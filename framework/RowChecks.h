@@ -5,15 +5,16 @@
 #include "framework/Names.h"
 #include "framework/Rows.h"
 
-// Checks that the rows of a class are sound. A check that fails ends the compile with one sentence;
-// the class, the field and the chip that it is about are the template arguments in the lines above
-// the sentence. Checks look at rows only, so that one bad row gives one error.
+// Checks that the rows of a class are sound. A failed check stops the compiler with one sentence;
+// the template arguments in the lines above it name the class, the field and the chip. Checks look
+// at rows only, so that one bad row gives one error.
 
 namespace Velmar {
 namespace Framework {
 namespace RowChecks {
 
-/// What a check found first. A field or chip of 0: the fault is not about one.
+/// The first fault that a check found. Field or chip is 0 if the fault does not concern a single
+/// one.
 struct Fault {
   bool isSound = true;
   U32 field = 0;
@@ -25,7 +26,7 @@ constexpr Fault badField(U32 field, U32 chip = 0) { return {false, field, chip};
 constexpr Fault badChip(U32 chip) { return {false, 0, chip}; }
 constexpr Fault badClass() { return {false, 0, 0}; }
 
-/// Any chip of a layout column, to name the column by; 0 where no chip has it.
+/// A chip of a layout column, which stands for the column in errors; 0 if no chip has it.
 template <class ChipRows>
 constexpr U32 chipOfColumn(const ChipRows& chipRows, U32 column) {
   for (const ChipRow& row : chipRows) {
@@ -101,8 +102,8 @@ constexpr Fault chipsAreOnce(const ChipRow (&chipRows)[rows]) {
   return sound();
 }
 
-/// Every chip has its facts, and chips in one row have the same: what a row says then holds for
-/// each of them.
+/// Every chip has facts, and the chips of one row have the same: the row is then true of each of
+/// them.
 template <U32 rows, U32 allChips>
 constexpr Fault chipFactsAgree(const ChipRow (&chipRows)[rows],
                                const ChipFacts (&chipFacts)[allChips]) {
@@ -122,8 +123,8 @@ constexpr Fault chipFactsAgree(const ChipRow (&chipRows)[rows],
   return sound();
 }
 
-/// Entries have words and tables have entries; a register array has one entry, elements, and takes
-/// any variant.
+/// Entries have words, and tables have entries. A register array has one entry, has elements, and
+/// takes any variant.
 template <U32 rows>
 constexpr Fault shapesAreSound(Kind kind, const ClassRow& about, const ChipRow (&chipRows)[rows]) {
   const bool isTable = kind == Kind::table;
@@ -164,10 +165,10 @@ constexpr Fault typesFitFields(const FieldName (&names)[fields], const FieldRows
   return sound();
 }
 
-/// The most bits of an entry that any raw type holds.
+/// Bits of the largest raw type.
 constexpr U32 mostBits = 32 * 32;
 
-/// How many fields name each bit of a column.
+/// How many fields cover each bit of a column.
 template <class FieldRows>
 constexpr std::array<U8, mostBits> namesOfBits(const FieldRows& fieldRows, U32 column,
                                                bool countAliases) {
@@ -180,7 +181,7 @@ constexpr std::array<U8, mostBits> namesOfBits(const FieldRows& fieldRows, U32 c
   return names;
 }
 
-/// The most fields that name one bit of a range.
+/// The largest number of fields that cover one bit of a range.
 constexpr U32 mostNames(const std::array<U8, mostBits>& names, BitRange range) {
   U32 most = 0;
   if (!isPresent(range)) return most;
@@ -190,8 +191,7 @@ constexpr U32 mostNames(const std::array<U8, mostBits>& names, BitRange range) {
   return most;
 }
 
-/// The mark holds both ways: no two unmarked fields share a bit, and every marked one shares bits
-/// with another.
+/// No two unmarked fields share a bit, and every field marked `alias` shares bits with another.
 template <class FieldRows, class ChipRows>
 constexpr Fault overlapsAreMarked(const FieldRows& fieldRows, const ChipRows& chipRows,
                                   U32 columns) {
@@ -227,7 +227,7 @@ constexpr Fault rawTypeFits(U32 rawWords, const ClassRow& about, const ChipRow (
   return isSound ? sound() : badClass();
 }
 
-/// Every number of entries has one span member, named after a chip that has as many.
+/// Every number of entries has one span member, named after a chip with that number.
 template <U32 rows, U32 spans>
 constexpr Fault spansMatchEntries(Kind kind, const ChipRow (&chipRows)[rows],
                                   const SpanMember (&members)[spans]) {
@@ -244,8 +244,8 @@ constexpr Fault spansMatchEntries(Kind kind, const ChipRow (&chipRows)[rows],
   return sound();
 }
 
-// The sentences. A check that fails is compiled with false, and the compiler names the class, the
-// field and the chip that it found.
+// The sentences. For a failed check the compiler names the class, the field and the chip of the
+// instantiation.
 
 template <class Class, bool isSound, auto field, auto chip>
 struct AccessorsDerive {
@@ -270,7 +270,7 @@ struct ColumnsAreUsed {
 
 template <class Class, bool isSound, auto field, auto chip>
 struct ChipsAreOnce {
-  static_assert(isSound, "a chip stands in two rows, or a row has no chip");
+  static_assert(isSound, "a chip is in two rows, or a row has no chip");
 };
 
 template <class Class, bool isSound, auto field, auto chip>
@@ -319,7 +319,7 @@ struct SpansMatchEntries {
 
 // clang-format off
 
-/// One check of a class: its sentence is compiled with what the check found.
+/// One check of a class: instantiates its sentence with the fault that the check found.
 #define VELMAR_CHECK(CLASS, Sentence, found)                                  \
   constexpr Fault fault##Sentence = found;                                    \
   static_assert(sizeof(Sentence<CLASS, fault##Sentence.isSound,               \

@@ -8,7 +8,7 @@
 #include "framework/ValueTypes.h"
 
 // The row types of tables/. Rows are data: RowChecks.h checks them and TableData.h turns them into
-// what the engine reads, both when compiled. Nothing here needs the headers that are derived from
+// what the engine reads, both at compile time. Nothing here needs the headers that are derived from
 // the rows.
 
 namespace Velmar {
@@ -29,8 +29,8 @@ constexpr bool shareBits(BitRange a, BitRange b) {
   return isPresent(a) && isPresent(b) && a.offset < endOf(b) && b.offset < endOf(a);
 }
 
-/// Whether a field is meant to share bits with others: a row marked `alias` names bits that other
-/// rows name.
+/// Whether a field deliberately shares bits with others: a row marked `alias` covers bits of other
+/// rows.
 enum class Overlap : U8 { disjoint, marked };
 constexpr Overlap alias = Overlap::marked;
 
@@ -68,7 +68,7 @@ constexpr std::array<FieldRow<columns>, declared> portRows(const PortRule<column
 constexpr Variants anyVariant = Variants::any;
 constexpr Variants variantZero = Variants::zeroOnly;
 
-/// One set of chips that share everything.
+/// Chips that share everything.
 struct ChipRow {
   ChipSet chips;
   U8 column;  ///< layout column
@@ -82,13 +82,13 @@ struct ChipRow {
 /// What is true of a chip in every class.
 struct ChipFacts {
   ChipType_ chip;
-  U32 identifierTerm;       ///< what an identifier adds to the address of a memory
+  U32 identifierTerm;       ///< added to the address of a memory per identifier
   U32 registerStride;       ///< address distance between the elements of a register array
   U32 registerIdentifiers;  ///< number of identifiers that a register array accepts, from 0
-  bool mayHaveVariants;     ///< whether a class may know variant 0 only
+  bool mayHaveVariants;     ///< whether a class may be limited to variant 0
 };
 
-/// The pipeline block of an object, as the S-channel takes it.
+/// The pipeline block of an object, as S-channel messages encode it.
 enum class Block : U8 { ingress = 1, egress = 2 };
 constexpr Block ingress = Block::ingress;
 constexpr Block egress = Block::egress;
@@ -141,7 +141,7 @@ constexpr const auto& fieldRowOf(const FieldRows& fieldRows, U32 id) {
   return *std::begin(fieldRows);
 }
 
-/// The facts of a chip; all zero where the facts have no row of it.
+/// The facts of a chip; all zero if there is no row for it.
 template <class AllChipFacts>
 constexpr ChipFacts factsOf(const AllChipFacts& chipFacts, U32 chipType) {
   for (const ChipFacts& facts : chipFacts) {

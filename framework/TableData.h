@@ -4,8 +4,9 @@
 
 #include "framework/Rows.h"
 
-// What the engine reads, made from the rows of tables/ when compiled. A chip row of a table becomes
-// a "row" here; one more row, the last, stands for every chip and variant that the class lacks.
+// What the engine reads, made from the rows of tables/ at compile time. A chip row of a table
+// becomes a "row" here; one more row, the last, stands for every chip and variant that the class
+// lacks.
 
 namespace Velmar {
 namespace Framework {
@@ -20,7 +21,7 @@ struct FieldSlot {
   U8 uncheckedBits = 0;  ///< values up to 2^(64 - this) - 1 are accepted
 };
 
-/// The bytes that a buffer needs to hold a field that is present.
+/// The buffer length in bytes that a present field needs.
 constexpr U32 bytesUpTo(const FieldSlot& slot) { return (U32{slot.offset} + slot.width + 7) / 8; }
 
 constexpr FieldSlot makeSlot(BitRange range) {
@@ -50,7 +51,7 @@ struct RowFacts : Geometry {
   static constexpr U32 maxIdentifier = 0;
 };
 
-/// What is kept of a field's row of names.
+/// The part of a field's row of names that is kept.
 struct FieldFacts {
   U16 id = 0;
   ValueType type = ValueType::u8;
@@ -58,7 +59,7 @@ struct FieldFacts {
   const char* meaning = nullptr;
 };
 
-/// The chips are numbered below this in a view; any other number is unknown.
+/// Chip numbers in a view are below this; any other number is unknown.
 constexpr U32 chipTypes = 256;
 
 /// Row of each chip, for variant 0 and for every other variant.
@@ -72,8 +73,8 @@ constexpr U32 rowIn(const Data& data, U32 chipType, U8 variant) {
   return chipType < chipTypes ? data.rowIndex.row[chipType][variant != 0] : data.rows;
 }
 
-/// The slot of a field on a row. The numbers are of full width, so that the compiler folds them into
-/// one address.
+/// The slot of a field on a row. The indices are of full width, so that the compiler folds them
+/// into one address.
 template <class Data>
 constexpr const FieldSlot& slotIn(const Data& data, std::size_t field, std::size_t row) {
   return data.slots[field * (data.rows + 1) + row];
@@ -132,7 +133,7 @@ struct ClassData {
 
   /// The row of a chip and variant; `rows` where the class lacks them.
   U32 rowOf(U32 chipType, U8 variant) const { return rowIn(*this, chipType, variant); }
-  /// The row of a chip whatever the variant.
+  /// The row of a chip, whatever the variant.
   U32 rowOfChip(U32 chipType) const { return rowOf(chipType, 0); }
   const FieldSlot& slot(U32 field, U32 row) const { return slotIn(*this, field, row); }
   /// The field that a slot belongs to.
@@ -169,7 +170,7 @@ constexpr const AsicUtils::EntrySpan* spanOf(const SpanMember (&members)[spans],
   return nullptr;
 }
 
-/// The facts of a chip row, but for its number of fields.
+/// The facts of a chip row, except its number of fields.
 constexpr RowFacts makeRowFacts(Kind kind, const ClassRow& about, const ChipRow& row,
                                 const ChipFacts& chip, const AsicUtils::EntrySpan* span) {
   const bool isTable = kind == Kind::table;

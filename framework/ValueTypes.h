@@ -3,7 +3,7 @@
 #include "Oru/PerUnitBitmap.h"
 #include "Velmar/Catalogue.h"
 
-// What is known of the types of field values.
+// Properties of the types of field values.
 
 namespace Velmar {
 namespace Framework {
@@ -24,10 +24,10 @@ template <>
 inline constexpr ValueType valueTypeOf<Raw128> = ValueType::raw128;
 
 constexpr bool isScalar(ValueType type) { return type <= ValueType::u64; }
-/// Words of the widest bitmap that a field may be.
+/// Words of the widest bitmap field.
 constexpr U32 mostBitmapWords = 9;
 
-/// The most bits that a field of a value type may have.
+/// The largest width of a field of a value type.
 constexpr U32 bitsOf(ValueType type) {
   switch (type) {
     case ValueType::u8:
@@ -80,7 +80,7 @@ constexpr const char* parameterName(ValueType type) {
 }  // namespace Framework
 }  // namespace Velmar
 
-// The words for value types in the rows of names: what the getter returns, what the setter takes.
+// The type words of the rows of names: what the getter returns, what the setter takes.
 #define VELMAR_VALUE_U8 U8
 #define VELMAR_VALUE_U16 U16
 #define VELMAR_VALUE_U32 U32

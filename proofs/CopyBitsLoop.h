@@ -1,11 +1,11 @@
 /* The bit copy, byte by byte, in the common subset of C and C++ so that a prover for C can read it.
  * Bit n of a byte array is bit n % 8 of byte n / 8. The contracts are ACSL; scripts/verify proves the
- * loop against them, and tests hold Detail::copyBits, which is faster, to the loop. The contracts
- * count bits as 8 * byte + bit: provers lose themselves in / and %. */
+ * loop against them, and tests compare Detail::copyBits, which is faster, with the loop. The
+ * contracts count bits as 8 * byte + bit, since provers handle / and % badly. */
 #ifndef DETAIL_COPY_BITS_LOOP_H
 #define DETAIL_COPY_BITS_LOOP_H
 
-/* bitSet is a bit of a byte, without saying what it is: the loop moves bits and never looks at one.
+/* bitSet is a bit of a byte, left uninterpreted: the loop moves bits and never examines one.
  * paired: bit k of byte b is as far into its range as bit l of byte c into its own. */
 /*@ axiomatic Bits {
   @   predicate bitSet(integer byte, integer bit) reads \nothing;
@@ -15,8 +15,8 @@
   @   0 <= k < 8 && 0 <= l < 8 && 8 * b + k - dstStart == 8 * c + l - srcStart;
   @*/
 
-/* Puts `count` bits of `from`, from its bit `fromBit`, over those of `into` from bit `intoBit`.
- * A test holds the body to the contract for all its inputs; the proof takes moved and stays as given. */
+/* Replaces `count` bits of `into`, from bit `intoBit`, by those of `from` from its bit `fromBit`. A
+ * test checks the body against its contract for all inputs; the proof assumes moved and stays. */
 /*@ requires 1 <= count && 0 <= intoBit <= 8 - count && 0 <= fromBit <= 8 - count;
   @ assigns \nothing;
   @ ensures moved: \forall integer k, l; paired(0, k, intoBit, 0, l, fromBit) ==>
@@ -38,7 +38,7 @@ static inline unsigned char detailMergeBits(unsigned char into, unsigned char fr
 static inline int detailByteOf(int offset) { return offset / 8; }
 
 /* Copies `bits` bits from bit `srcOffset` of `src` to bit `dstOffset` of `dst`; other bits of `dst`
- * stay. Both ranges lie inside their buffers, which do not overlap. */
+ * stay unchanged. Both ranges lie inside their buffers, which do not overlap. */
 /*@ requires 1 <= dstLen <= 65536 && 1 <= srcLen <= 65536;
   @ requires \valid(dst + (0 .. dstLen - 1)) && \valid_read(src + (0 .. srcLen - 1));
   @ requires \separated(dst + (0 .. dstLen - 1), src + (0 .. srcLen - 1));

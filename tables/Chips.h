@@ -2,12 +2,12 @@
 
 #include "framework/Rows.h"
 
-// What is true of a chip in every table. The chips themselves, names and numbers, are the list of
-// the base libraries (AsicUtils/ChipType.h).
+// Facts of a chip that are the same in every table. Names and numbers of the chips are in the list
+// of the base libraries (AsicUtils/ChipType.h).
 //
-// The access code is not here: which one a memory takes is a property of the table on the chip. It is
-// 0 on BCM56470_A0, BCM56370_A0, BCM56275_A0 and BCM56175_A0, 17 or 22 from BCM56990_B0 on, and 9 or 14
-// on all others.
+// The access code is not here: it is a property of the table on the chip. It is 0 on BCM56470_A0,
+// BCM56370_A0, BCM56275_A0 and BCM56175_A0, 17 or 22 from BCM56990_B0 on, and 9 or 14 on all
+// others.
 
 namespace Velmar {
 namespace Tables {
@@ -31,7 +31,7 @@ constexpr Framework::ChipFacts chipFacts[] = {
   {BCM56175_A0,          0,     256,           2,   noVariants},
   {BCM56980_A0,          0,     256,           2,   noVariants},
   // From here on the address of a memory has the identifier from bit 14 up, the elements of a
-  // register array lie four times as far apart, and one identifier is left.
+  // register array are four times as far apart, and a register array accepts identifier 0 only.
   {BCM56990_B0,    1 << 14,    1024,           1, withVariants},
   {BCM56992_B0,    1 << 14,    1024,           1, withVariants},
   {BCM56993_B0,    1 << 14,    1024,           1, withVariants},

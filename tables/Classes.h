@@ -1,7 +1,7 @@
 #pragma once
 
-// Every class of tables/, once, in the order in which the catalogue lists them: CLASS(name). All
-// other lists of classes are made from this one.
+// Every class of tables/, in the order of the catalogue: CLASS(name). All other lists of classes
+// are made from this one.
 // clang-format off
 #define VELMAR_CLASSES(CLASS) \
   CLASS(VlanEntry) \

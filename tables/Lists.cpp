@@ -1,4 +1,4 @@
-// The lists that the engine works through: classes and field identifiers.
+// The lists that the engine iterates over: classes and field identifiers.
 
 #include "Velmar/FieldId.h"
 #include "framework/Knowledge.h"
@@ -27,9 +27,9 @@ static_assert(numbersAscend(idRows), "field identifiers: the numbers do not asce
 static_assert(namesAscend(idRows, closedIds),
               "field identifiers: a name of the closed list is out of order; add new names to the "
               "second list");
-static_assert(namesAreOnce(idRows, closedIds), "field identifiers: a new name stands twice");
+static_assert(namesAreOnce(idRows, closedIds), "field identifiers: a new name is listed twice");
 static_assert(FieldId::SP_TREE_PORT271 == FieldId::firstPort + 271,
-              "field identifiers: the numbers of the ports do not follow each other");
+              "field identifiers: the numbers of the ports are not consecutive");
 
 }  // namespace Framework
 }  // namespace Velmar

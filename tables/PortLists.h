@@ -1,13 +1,13 @@
 #pragma once
 
-// Rows of names of the per-port fields SP_TREE_PORT<n>, made by rule. Each list calls
+// Rows of names of the per-port fields SP_TREE_PORT<n>, generated. Each list calls
 // FIELD(accessor, Accessor, HARDWARE_NAME, TYPE, meaning) once per port, in ascending order.
 
 // clang-format off
 #define VELMAR_SP_TREE_PORT(FIELD, n) \
   FIELD(spTreePort##n, SpTreePort##n, SP_TREE_PORT##n, U8, "spanning-tree state of the port")
 
-/// Ports 10t to 10t + 9; an empty `t` stands for the first ten.
+/// Ports 10t to 10t + 9; an empty `t` gives the first ten.
 #define VELMAR_SP_TREE_TEN(FIELD, t)                                \
   VELMAR_SP_TREE_PORT(FIELD, t##0) VELMAR_SP_TREE_PORT(FIELD, t##1) \
   VELMAR_SP_TREE_PORT(FIELD, t##2) VELMAR_SP_TREE_PORT(FIELD, t##3) \

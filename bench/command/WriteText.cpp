@@ -1,5 +1,6 @@
 // Writes the text of "velmar decode VlanEntry --chip BCM56990_B0 --format jsonl" with fmt, from
-// values that are in memory already, and says how long the writing took: the floor of that command.
+// values that are already in memory, and reports how long the writing took: the floor of that
+// command.
 //
 // usage: write-text DUMP > TEXT
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Measures the command against what it is to be near to, run by turns, and prints each ratio beside its
-goal. Whole processes are timed, except the floor of decode: there only the writing counts.
+"""Measures the command against its floors, run alternately, and prints each ratio beside its goal.
+Whole processes are timed, except the floor of decode, where only the writing counts.
 
 usage: report.py SOURCE_DIR BUILD_DIR [RUNS]"""
 
@@ -44,7 +44,7 @@ with tempfile.TemporaryDirectory() as directory:
     full = os.path.join(directory, "full.bin")
     with open(dump, "rb") as file:
         data = file.read()
-    # Every field of every entry set to something, and no bit outside the fields.
+    # Pseudo-random values in all fields of all entries, and no bit outside the fields.
     with open(full, "wb") as file:
         for index in range(len(data) // 16):
             entry = (index * 0x9E3779B97F4A7C15F39CC0605CEDC835) % (1 << 99)

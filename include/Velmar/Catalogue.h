@@ -9,9 +9,9 @@ namespace Framework {
 struct ClassData;
 }  // namespace Framework
 
-/// What the library knows, as data: every chip, class and field, with layout, geometry and address
-/// rule. It is read from the rows that the views themselves use. Nothing here fails or allocates;
-/// every text lives as long as the library.
+/// Everything that the library knows, as data: every chip, class and field, with layout, geometry
+/// and address rule, read from the rows that the views use. Nothing here fails or allocates; every
+/// text lives as long as the library.
 namespace Catalogue {
 
 struct Chip {
@@ -28,10 +28,10 @@ VELMAR_EXPORT Chip chip(U32 index);
 enum class Kind : U8 { table, registerArray };
 /// What a field's getter returns.
 enum class ValueType : U8 { u8, u16, u32, u64, raw128, bitmap };
-/// What a class on a chip takes as variant: any number, or 0 only.
+/// Which variants a class accepts on a chip: any number, or 0 only.
 enum class Variants : U8 { any, zeroOnly };
 
-/// The name of a value type as signatures have it, such as "U16" or "Oru::PerUnitBitmap".
+/// The name of a value type as signatures spell it, such as "U16" or "Oru::PerUnitBitmap".
 VELMAR_EXPORT const char* valueTypeName(ValueType type);
 
 /// One field of a class, whatever the chip.
@@ -52,13 +52,13 @@ struct BitRange {
 
 /// Shape and address of a class on one chip.
 struct Geometry {
-  Variants variants;   ///< whether the chip takes any variant or variant 0 only
+  Variants variants;   ///< which variants the chip accepts
   U16 words;           ///< size of an entry in 32-bit words
   U32 entries;         ///< number of entries; 1 for a register array
   U32 arrayElements;   ///< number of array elements; 1 for a table
   U32 addrStride;      ///< address distance between array elements; 0 for a table
   U32 identifiers;     ///< number of instance identifiers accepted, from 0
-  U32 identifierTerm;  ///< what one identifier adds to the address
+  U32 identifierTerm;  ///< added to the address per identifier
   U32 fieldCount;      ///< number of fields that the chip has
   U32 base;            ///< S-channel address of entry 0, element 0, identifier 0
   U32 accessType;      ///< S-channel access code
@@ -74,7 +74,7 @@ struct Geometry {
 class VELMAR_EXPORT Table {
  public:
   const char* name() const;     ///< class name, such as "VlanEntry"
-  const char* purpose() const;  ///< what it holds, in a few words
+  const char* purpose() const;  ///< its contents, in a few words
   Kind kind() const;
   U32 rawBytes() const;        ///< size of the type that getAllFields returns
   U32 allFieldsBytes() const;  ///< buffer bytes that getAllFields needs

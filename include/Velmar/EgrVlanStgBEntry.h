@@ -9,17 +9,18 @@ namespace Velmar {
 
 /// Egress spanning-tree groups, upper ports, a state per port.
 ///
-/// A view of one entry of this egress memory. The bytes are the caller's; bit 0 of the entry is bit
+/// A view of one entry of this egress memory. The caller owns the bytes; bit 0 of the entry is bit
 /// 0 of the first byte. On BCM56990_B0, BCM56992_B0, BCM56993_B0, BCM56996_A0, BCM56996_B0: "from"
 /// in the comments below follows this order.
 ///
 /// The members of a field F trace at level 8, then check in this order:
-///  - F() and FIs(): "0" where the chip lacks the field, "variant_ == 0" where only the variant
-///    does, "len_ >= N" where the buffer ends before the field. FIs(): also "value <= 0x<mask>"
-///    where the value is too large and the width is not a multiple of 8. A bitmap of too few words
-///    throws Morvo::VectorOutOfRangeException after the words it had; surplus words are ignored.
-///  - FLen(): where the view lacks the field, the soft assertion " does not have field
-///    <HARDWARE_NAME>", then "\"0\" == nullptr". FOffset(): "0" and "variant_ == 0" as F().
+///  - F() and FIs(): "0" if the chip lacks the field, "variant_ == 0" if only the variant lacks it,
+///    "len_ >= N" if the buffer ends before the end of the field. FIs() also: "value <= 0x<mask>"
+///    if the value is too large and the width is not a multiple of 8. A bitmap with too few words
+///    throws Morvo::VectorOutOfRangeException after its last word is written; surplus words are
+///    ignored.
+///  - FLen(): if the view lacks the field, the soft assertion " does not have field
+///    <HARDWARE_NAME>", then "\"0\" == nullptr". FOffset(): "0" and "variant_ == 0" as for F().
 ///  - isFValid() never fails.
 /// A static member fails "0" for a chip without the memory and "variant == 0" for a variant that
 /// the chip does not have, unless its comment says otherwise.
@@ -27,8 +28,8 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
  public:
   using EntrySpans = AsicUtils::EntrySpans;
 
-  /// Binds the view to `buf`, `len` bytes that outlive it. A chip or variant without the class: the
-  /// soft assertion " not in metainfo for EgrVlanStgBEntry!", then "\"0\" == nullptr".
+  /// Binds the view to `buf`, `len` bytes that outlive it. If the chip or variant lacks the class:
+  /// the soft assertion " not in metainfo for EgrVlanStgBEntry!", then "\"0\" == nullptr".
   EgrVlanStgBEntry(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
   /// Does nothing.
   static void handleBuf(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
@@ -39,17 +40,16 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// True: a memory.
   bool isTable() const override;
 
-  /// Sets a scalar field by identifier (Velmar/FieldId.h). The value first loses the bits that the
-  /// field's type lacks. Any other identifier fails "false".
+  /// Sets a scalar field by identifier (Velmar/FieldId.h). The value is first truncated to the
+  /// field's type. Any other identifier fails "false".
   void setField64(U32 fieldId, U64 value) override;
-  /// Width of a field in bits; 0 where the view lacks it.
+  /// Width of a field in bits; 0 if the view lacks it.
   U16 fieldWidth(U32 fieldId) const override;
-  /// First bit of a field. An identifier without a field here fails "false".
+  /// First bit of a field. An identifier that the class does not declare fails "false".
   U16 fieldOffset(U32 fieldId) const override;
   /// Whether the view has a field. Never fails.
   bool isFieldValid(U32 fieldId) const override;
-  /// The entry with every bit outside its fields zero. Fails "len_ >= 64" where the buffer is
-  /// shorter.
+  /// The entry with its reserved bits zero. Fails "len_ >= 64" if the buffer is shorter.
   Raw512 getAllFields() const;
   /// A one at every bit of an entry that belongs to a field.
   static Raw8192 allFieldsMask(U32 chipType, U8 variant);
@@ -64,8 +64,8 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
   /// The same for the view's chip and variant.
   bool hasIdentifier(U32 identifier) const override;
-  /// S-channel address, access code and block (1 ingress, 2 egress). False, and nothing written,
-  /// for a chip or variant without the class. Fails "tableEntry < N", "arrayIndex == 0",
+  /// S-channel address, access code and block (1 ingress, 2 egress). Returns false and writes
+  /// nothing if the chip or variant lacks the class. Fails "tableEntry < N", "arrayIndex == 0",
   /// "hasIdentifier( chipType, variant, identifier )".
   static bool getSchanAddress(U32 chipType, U8 variant, U32& address, U32& accessType, U32& block,
                               U16 identifier, U32 tableEntry, U16 arrayIndex);
@@ -103,11 +103,11 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   static EntrySpans entrySpans(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
   EntrySpans entrySpans() const override;
-  /// 1 where the chip has the memory, else 0. Never fails.
+  /// 1 if the chip has the memory, else 0. Never fails.
   static U32 tableVariantCount(U32 chipType);
   /// The same for the view's chip.
   U32 tableVariantCount() const override;
-  /// The valid indices on BCM56996_A0 and chips with as many entries.
+  /// The valid indices on BCM56996_A0 and on chips with as many entries.
   static const AsicUtils::EntrySpan _entrySpans_BCM56996_A0[1];
 
   /// Spanning-tree state of the port. SP_TREE_PORT136: 2 bits; on all chips.

@@ -8,14 +8,14 @@
 namespace Velmar {
 
 /// The field identifiers: one number for each hardware name, the same in every class. The numbers
-/// up to VP are fixed places in a longer sorted list, so that numbers are missing; a new name takes
-/// the next free number.
+/// up to VP are fixed positions in a longer sorted list, so some numbers are unused; a new name
+/// takes the next free number.
 namespace FieldId {
 
-/// Identifier of SP_TREE_PORT0; port n has this plus n.
+/// Identifier of SP_TREE_PORT0; that of port n is this plus n.
 constexpr U32 firstPort = 244;
 
-/// Every identifier, under the hardware name. Converts to U32.
+/// The identifiers, named after the hardware names. Converts to U32.
 enum Id : U32 {
   ARP_REPLY_DROP = 1,
   ARP_REPLY_TO_CPU = 2,
@@ -395,7 +395,7 @@ enum Id : U32 {
 VELMAR_EXPORT const char* hardwareName(U32 id);
 /// The accessor name of an identifier, such as "fidId"; null for a number that names no field.
 VELMAR_EXPORT const char* accessorName(U32 id);
-/// The identifier of a hardware name or accessor name, letter by letter; 0 where there is none.
+/// The identifier of a hardware name or accessor name, compared exactly; 0 if there is none.
 VELMAR_EXPORT U32 find(const char* name);
 
 }  // namespace FieldId

@@ -1,6 +1,6 @@
 #include "FailDefault.h"
 
-// Declared here and not taken from <cassert>: that declaration promises not to throw.
+// Not <cassert>: its declaration promises not to throw.
 extern "C" [[noreturn]] void __assert_fail(const char* expression, const char* file,
                                            unsigned int line, const char* function);
 

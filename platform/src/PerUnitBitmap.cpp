@@ -57,7 +57,7 @@ void PerUnitBitmap::moveToHeap(U32 index) {
   if (index == std::numeric_limits<U32>::max()) {
     throw std::length_error("Oru::PerUnitBitmap: more words than a count of 32 bits holds");
   }
-  // Room for twice the words, so that a list that grows word by word is not copied each time.
+  // Doubling: a list that grows word by word is not copied each time.
   const U32 room = std::max(index + 1, 2 * heapWords_);
   U32* larger = new U32[room];
   std::copy_n(words(), wordCount_, larger);

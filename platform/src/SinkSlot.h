@@ -4,7 +4,7 @@
 
 namespace Kiv {
 
-/// Where records of one kind go. The sink is called without the lock, so that it may itself trace.
+/// The sink for records of one kind. It is called without the lock, so that it may itself trace.
 template <class Record>
 class SinkSlot {
  public:

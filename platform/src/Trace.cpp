@@ -24,7 +24,7 @@ struct Registry {
   U32& levelsOf(const char* name) { return levels.try_emplace(name, levelsAtStart).first->second; }
 };
 
-// Never destroyed: handles of other libraries may leave after this library's statics are gone.
+// Never destroyed: handles of other libraries may leave after this library's statics are destroyed.
 Registry& registry() {
   static Registry& theRegistry = *new Registry;
   return theRegistry;

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Bad rows do not compile, and say why: each fault of faults.tsv is made in a copy of a source, which
-must then be refused in at most 15 lines that hold the sentence and the names of the last column.
+"""Bad rows do not compile, and the errors say why: each fault of faults.tsv is made in a copy of a source,
+which must then fail in at most 15 lines that contain the sentence and names of the last columns.
 
 usage: bad_rows.py SOURCE_DIR COMPILER [OPTION ...]"""
 
@@ -17,7 +17,7 @@ MOST_LINES = 15
 
 
 def compile_with(file, text, source):
-    """Compiles `source` with `text` in place of a file; returns what the compiler said."""
+    """Compiles `source` with `text` in place of a file; returns the compiler's output."""
     with tempfile.TemporaryDirectory() as scratch:
         place = pathlib.Path(scratch, file)
         place.parent.mkdir(parents=True)
@@ -30,11 +30,11 @@ def compile_with(file, text, source):
 
 
 def complaint(fault):
-    """What is wrong with how a fault is refused; nothing where all is well."""
+    """What is wrong with the compiler's report of a fault; None if it is right."""
     file, before, after, source, *expected = fault
     text = (root / file).read_text()
     if text.count(before) != 1:
-        return f"{file}: {before!r} stands there {text.count(before)} times"
+        return f"{file}: {before!r} occurs {text.count(before)} times"
     said = compile_with(file, text.replace(before, after), source or file)
     missing = [words for words in expected if words not in said]
     lines = said.count("\n")

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The exported catalogue fits its JSON Schema and holds the golden numbers, all of them and no others.
+"""The exported catalogue conforms to its JSON Schema and has exactly the golden numbers.
 
 usage: catalogue_export.py SOURCE_DIR BUILD_DIR"""
 
@@ -12,7 +12,7 @@ from command import check, finish, golden_tables, run, source
 
 
 def without_others(schema):
-    """The schema with no members allowed but those that it names."""
+    """The schema, with only the members allowed that it names."""
     if isinstance(schema, list):
         return [without_others(each) for each in schema]
     if not isinstance(schema, dict):
@@ -28,7 +28,7 @@ validator = jsonschema.Draft202012Validator(without_others(schema))
 
 
 def exported(*arguments):
-    """What export prints, which has to fit the schema."""
+    """The output of export, checked against the schema."""
     code, text, errors = run("export", *arguments)
     check(code == 0 and errors == "", errors)
     document = json.loads(text)

@@ -1,4 +1,4 @@
-"""What the tests of the command share: running it, golden layouts, collecting failures."""
+"""Shared by the tests of the command: running it, golden layouts, collecting failures."""
 
 import collections
 import csv
@@ -17,7 +17,7 @@ Table = collections.namedtuple("Table", "name chip entry_bytes count base access
 
 
 def run(*arguments, data=b"", timeout=60, **options):
-    """Runs velmar; returns the exit code, what it printed, and what it said on standard error."""
+    """Runs velmar; returns the exit code, standard output and standard error."""
     result = subprocess.run([program, *arguments], input=data, capture_output=True,
                             timeout=timeout, **options)
     return result.returncode, result.stdout, result.stderr.decode(errors="replace")

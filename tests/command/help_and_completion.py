@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The help of every verb ends with examples that work; the shell's completion and the manual page know
+"""The help of every verb ends with examples that work; the shell completion and the manual page know
 the same verbs, options and choices as the help; completion offers what the catalogue has.
 
 usage: help_and_completion.py SOURCE_DIR BUILD_DIR"""

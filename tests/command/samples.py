@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The committed samples are what the example programs write now, their README describes them rightly,
+"""The committed samples are what the example programs write now, their README describes them correctly,
 and the programs write whole files or none.
 
 usage: samples.py SOURCE_DIR BUILD_DIR"""

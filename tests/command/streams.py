@@ -34,7 +34,8 @@ def text_of(entry_format, entries):
     return subprocess.run(encode, stdout=subprocess.PIPE, check=True).stdout
 
 
-# Raw: 2 million entries. Text and JSON: some ten thousands. None may take more than a small one does.
+# Raw: 2 million entries. Text and JSON: tens of thousands. None may take more memory than a small
+# dump.
 slack = 2 << 20
 for entry_format, options, count in (("raw", ["--where", "stg=6"], 250), ("raw", ["-f", "csv"], 40),
                                      ("hex", ["-f", "jsonl"], 20), ("jsonl", ["--nonzero"], 8)):
@@ -53,7 +54,7 @@ few = peak_memory(decode + ["--nonzero"], document, 1)
 many = peak_memory(decode + ["--nonzero"], ten_times, 1)
 check(many < few + slack, f"json: {few} bytes for a document, {many} for ten times it")
 
-# A pipe works at once: the first entry comes before the second is there.
+# A pipe is decoded as it arrives: the first entry is printed before the second is sent.
 process = subprocess.Popen(decode + ["-f", "jsonl", "--input", "hex"], stdin=subprocess.PIPE,
                            stdout=subprocess.PIPE)
 for index in range(2):
@@ -65,7 +66,7 @@ process.stdin.close()
 check(process.wait(timeout=10) == 0, "a pipe ends badly")
 process.stdout.close()
 
-# Ctrl-C ends it without a word, and the unfinished file goes.
+# Ctrl-C ends it silently and removes the unfinished file.
 with tempfile.TemporaryDirectory() as directory:
     out = os.path.join(directory, "out")
     process = subprocess.Popen(decode + ["-f", "jsonl", "-o", out], stdin=subprocess.PIPE,
@@ -76,10 +77,10 @@ with tempfile.TemporaryDirectory() as directory:
         if os.listdir(directory):
             break
         time.sleep(0.02)
-    check(os.listdir(directory) not in ([], ["out"]), "no unfinished file is seen")
+    check(os.listdir(directory) not in ([], ["out"]), "there is no unfinished file")
     process.send_signal(signal.SIGINT)
     check(process.wait(timeout=10) == -signal.SIGINT, f"Ctrl-C gives {process.returncode}")
-    check(process.stderr.read() == b"", "Ctrl-C is talked about")
+    check(process.stderr.read() == b"", "Ctrl-C prints a message")
     check(os.listdir(directory) == [], f"Ctrl-C leaves {os.listdir(directory)}")
     process.stdin.close()
     process.stderr.close()

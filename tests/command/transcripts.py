@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Runs the sessions in transcripts/ as a user would type them, and compares all that they print, in
-order, with what stands there. A line "[exit N]" ends the output of a command that does not succeed.
+"""Runs the sessions in transcripts/ as a user would type them, and compares all their output, in order,
+with the recorded text. A line "[exit N]" ends the output of a command that does not succeed.
 
 usage: transcripts.py SOURCE_DIR BUILD_DIR [--refresh]"""
 
@@ -19,7 +19,7 @@ paths = sorted(glob.glob(os.path.join(folder, "*.txt")))
 
 
 def session(text, directory):
-    """The session with the output that its commands have now. Lines before the first command of a
+    """The session with the current output of its commands. Lines before the first command of a
     block, such as comments, stay."""
     environment = dict(os.environ, PATH=os.path.join(build, "bin") + ":" + os.environ["PATH"])
     environment.pop("NO_COLOR", None)

@@ -14,11 +14,11 @@
 #include "model/Layout.h"
 #include "model/Text.h"
 
-// What the fuzz targets share. An input is a few bytes that choose, and the data behind them.
+// Shared by the fuzz targets. An input is a few bytes that make choices, followed by data.
 
 namespace Fuzzing {
 
-/// A property that must hold: the program ends where it does not, and the fuzzer keeps the input.
+/// A property that must hold: otherwise the program ends, and the fuzzer keeps the input.
 inline void require(bool holds, const char* property, const std::string& detail = "") {
   if (holds) return;
   std::fprintf(stderr, "does not hold: %s: %s\n", property, detail.c_str());
@@ -33,7 +33,7 @@ class Input {
   U32 choose(size_t count) {
     return at_ < bytes_.size() ? bytes_[at_++] % static_cast<U32>(count) : 0;
   }
-  /// A block of its own, so that an access beyond its end is seen.
+  /// A separate heap block, so that an access beyond its end is detected.
   std::string rest() const { return {bytes_.begin() + static_cast<long>(at_), bytes_.end()}; }
 
  private:
@@ -60,8 +60,8 @@ inline const Tool::Layout& chooseLayout(Input& input) {
   return layouts[input.choose(layouts.size())];
 }
 
-/// The message of the failure with which a call ends; empty where it succeeds. Any other exception
-/// is a fault, and so is a message that is not one printable line with a remedy.
+/// The message with which a call fails; empty if it succeeds. Any other exception is a fault, and
+/// so is a message that is not one printable line with a remedy.
 template <class Call>
 std::string failureOf(const Call& call) {
   try {
@@ -75,7 +75,7 @@ std::string failureOf(const Call& call) {
   return "";
 }
 
-/// Standard input and output as one file in memory: what was written is read.
+/// Standard input and output as one file in memory: input reads what output wrote.
 namespace MemoryPipe {
 
 inline void rewind() { require(lseek(STDIN_FILENO, 0, SEEK_SET) == 0, "the file is rewound"); }

@@ -1,5 +1,5 @@
-// Dumps in every format: a reader refuses with a Failure, or gives entries that are whole, in order,
-// the same however the input arrives in pieces, and the same again after they are written.
+// Dumps in every format: a reader throws a Failure, or yields whole entries in order, the same ones
+// however the input is split into pieces, and again after they are written and read back.
 
 #include <memory>
 
@@ -25,7 +25,7 @@ struct Dump {
   std::string failure;
 };
 
-/// What standard input holds. A "*" of xxd stands for up to a whole table: not all of it is read.
+/// The contents of standard input. A "*" of xxd may stand for a whole table: not all of it is read.
 Dump readDump(const Tool::Layout& layout, const Tool::InputOptions& options, size_t piece) {
   constexpr size_t most = 16;
   Dump dump;

@@ -1,5 +1,5 @@
-// What people type: values of fields, index sets, names and numbers. What is accepted means what
-// a plain reading of it means, and survives being printed and typed again.
+// Typed input: field values, index sets, names and numbers. Accepted input has the value that a
+// simple model gives it, and survives being printed and typed again.
 
 #include "Fuzzing.h"
 #include "input/JsonInput.h"
@@ -33,7 +33,7 @@ void checkBuilt(const Tool::Layout& layout, const std::vector<Tool::Assignment>&
     checkForms(assignment);
     builder.set(assignment);
   }
-  // Only what is accepted as a whole gets here.
+  // Reached only if the whole input was accepted.
   for (const Tool::Assignment& assignment : assignments) {
     const Tool::FieldPlace& place = assignment.place;
     const U8* entry = builder.bytes().data();

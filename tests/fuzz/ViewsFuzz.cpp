@@ -1,5 +1,5 @@
-// Any bytes are an entry. Its values, carried field by field into an entry with other bits through
-// texts of the command, give the same field bits and leave the bits outside all fields.
+// Any bytes are an entry. Its values, copied field by field as the command's texts into an entry
+// with other bits, give the same field bits and leave the reserved bits unchanged.
 
 #include "Fuzzing.h"
 #include "model/EntryBuilder.h"

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""The derived headers say of every field what the golden data have, and a header that says something
-else is refused in one line.
+"""The comments of the derived headers agree with the golden data for every field, and a header that
+differs from tables/ is refused in one line.
 
 usage: headers.py SOURCE_DIR BUILD_DIR"""
 
@@ -20,7 +20,7 @@ SAID = re.compile(r"\. ([A-Z0-9_]+): (?:(\d+) bits?(.*?); )?on (.*)\.$")
 
 
 def documented(name):
-    """(comment, declaration) of each member of a header, the comment unfolded."""
+    """(comment, declaration) of each member of a header, the comment joined to one line."""
     comment = []
     with open(os.path.join(headers, name + ".h"), encoding="utf-8") as file:
         for line in map(str.strip, file):
@@ -50,7 +50,7 @@ def fields_said(name):
 
 
 def refusal(name, before, after):
-    """What the check says of headers in which one text is another."""
+    """Exit code and message of the check for headers in which one text is replaced."""
     with tempfile.TemporaryDirectory() as directory:
         copy = shutil.copytree(headers, os.path.join(directory, "Velmar"))
         path = os.path.join(copy, name)

@@ -1,5 +1,5 @@
-// S-channel addresses over all classes and chips: the rule, the order of the checks with their
-// texts, what is written when a check fails, and unknown chips.
+// S-channel addresses for all classes and chips: the rule, the order of the checks and their texts,
+// the outputs after a failed check, and unknown chips.
 
 #include "support/Sweep.h"
 

@@ -1,6 +1,6 @@
-// Which check of a field member speaks first, with which text and signature, and that no refused
-// setter touches the buffer: all fields, all chips known and unknown, variants, lengths and values,
-// against a model that knows the golden data and the order of the checks, nothing of the library.
+// Which check of a field member fails first, with which text and signature, and that a refused
+// setter leaves the buffer unchanged: all fields, known and unknown chips, variants, lengths and
+// values, against a model built only from the golden data and the order of the checks.
 
 #include <iomanip>
 #include <sstream>
@@ -11,7 +11,7 @@ namespace VelmarTest {
 namespace {
 
 struct Model {
-  bool isPresent = false;    ///< the chip has class and field
+  bool isPresent = false;    ///< the chip has the class and the field
   bool knowsVariant = true;  ///< and the class knows the variant there
   GoldenField::Place place = {0, 0};
 
@@ -79,7 +79,7 @@ class CheckOrder : public testing::TestWithParam<std::size_t> {
     }
     for (const U64 value : values) {
       buffer = before;
-      // A bitmap gets all the words that it may need.
+      // The bitmap has all the words that the field may need.
       const Words words = field.type == "bitmap"
                               ? Words(9, 0)
                               : Words{static_cast<U32>(value), static_cast<U32>(value >> 32)};
@@ -92,7 +92,7 @@ class CheckOrder : public testing::TestWithParam<std::size_t> {
 
 TEST_P(CheckOrder, firstFailureAndUntouchedBuffer) {
   for (const FieldProbe& field : probe_.fields) {
-    for (const U32 chip : chipsAndStrangers()) {
+    for (const U32 chip : knownAndUnknownChips()) {
       if (chip > 255) break;
       for (const U8 variant : {U8{0}, U8{1}, U8{255}}) {
         SCOPED_TRACE(probe_.name + " " + field.accessor + textOf(chip, variant));

@@ -1,5 +1,5 @@
-// Construction of every class on chips known and unknown: its trace, its reports, what it leaves
-// alone.
+// Construction of every class on known and unknown chips: its trace and reports, and that it leaves
+// the buffer unchanged.
 
 #include "support/Sweep.h"
 

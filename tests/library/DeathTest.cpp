@@ -1,4 +1,4 @@
-// Failures for real: the C library's own report on stderr and the abort. This program does not link
+// Real failures: the C library's own report on stderr, and the abort. This program does not link
 // the test support, so nothing is replaced.
 
 #include <gtest/gtest.h>

@@ -25,8 +25,8 @@ TEST(FieldId, lookUpBothWays) {
     EXPECT_EQ(Velmar::FieldId::find(found->second.accessor.c_str()), id);
   }
   EXPECT_EQ(Velmar::FieldId::hardwareName(0xffffffff), nullptr);
-  for (const char* stranger : {"", "VALI", "VALIDS", "Valid", "SP_TREE_PORT272"}) {
-    EXPECT_EQ(Velmar::FieldId::find(stranger), 0U) << stranger;
+  for (const char* unknown : {"", "VALI", "VALIDS", "Valid", "SP_TREE_PORT272"}) {
+    EXPECT_EQ(Velmar::FieldId::find(unknown), 0U) << unknown;
   }
 }
 

@@ -1,4 +1,4 @@
-// Fields chosen by identifier, masks and whole entries, over all classes through the base class.
+// Fields chosen by identifier, masks and whole entries, for all classes through the base class.
 
 #include <cstring>
 

@@ -1,4 +1,4 @@
-// The static members and their const forms over all classes, chips known and unknown, and variants:
+// The static members and their const forms for all classes, known and unknown chips, and variants:
 // values, failure texts, signatures, and which of them write a line on entry.
 
 #include "support/Sweep.h"
@@ -6,11 +6,11 @@
 namespace VelmarTest {
 namespace {
 
-/// A static member with its const form, whatever they return.
+/// A static member with its const form, for any result type.
 struct Member {
   std::string signature;
   bool isTraced;
-  std::string lineEnd;  ///< of the line on entry, behind chip and variant
+  std::string lineEnd;  ///< of the line on entry, after chip and variant
   std::function<Words(U32, U8)> ofChip;
   std::function<Words(const Base&)> ofView;
 };

@@ -1,6 +1,6 @@
-// Every number of the library, through the public accessors, against the independent golden copy:
-// nothing in one that is not in the other. The other sweeps take the golden data as given and are
-// not run where this one fails.
+// Every number of the library, read through the public accessors, against the independent golden
+// copy: neither has anything that the other lacks. The other sweeps rely on the golden data and are
+// not run if this one fails.
 
 #include <gtest/gtest.h>
 
@@ -35,7 +35,7 @@ class Differences {
     add(text.str());
   }
 
-  /// Whether both or none have `what`; true for both.
+  /// Expects that both or neither have `what`; true if both have it.
   bool areBoth(const std::string& what, bool golden, bool compiled) {
     if (golden && !compiled) add(what + " is in tests/golden and not compiled");
     if (!golden && compiled) add(what + " is compiled and not in tests/golden");

@@ -1,7 +1,7 @@
 // Every field on every chip, written and read back in a buffer of exactly the bytes that it needs,
 // against a bit-by-bit model: all ones, all zeros and random values over both backgrounds; the bits
-// around the field stay. Buffers are heap blocks, some at odd addresses, and such as end or start
-// at a protected page, where an access beyond them ends the program.
+// around the field must not change. Buffers are heap blocks, some at odd addresses, and blocks that
+// end or start at a protected page, where an access beyond them ends the program.
 
 #include <sys/mman.h>
 #include <unistd.h>
@@ -18,7 +18,7 @@ namespace {
 
 bool bitOf(const U8* bytes, U32 bit) { return (bytes[bit / 8] >> bit % 8 & 1) != 0; }
 
-/// A page between two that nobody may touch.
+/// A page between two protected ones.
 class GuardedPage {
  public:
   GuardedPage() {
@@ -94,8 +94,8 @@ TEST_P(RoundTrip, exactBuffers) {
 
 VELMAR_SWEEP_CLASSES(RoundTrip);
 
-/// The bits of an empty entry after a bitmap was set to ones in so many words, of more than it takes
-/// or fewer.
+/// The bits of an empty entry after its bitmap was set to all ones with a value of `given` words,
+/// more or fewer than the field has.
 void expectOnes(const ClassProbe& probe, const FieldProbe& field, U32 chip,
                 GoldenField::Place place, U32 given) {
   const U32 words = (place.width + 31) / 32;

@@ -1,5 +1,5 @@
-// Signatures and texts letter by letter, picked by hand from every shape of member: the sweeps put
-// theirs together by rule, these do not.
+// Literal signatures and texts, picked by hand from every shape of member: the sweeps assemble
+// theirs by rule, these do not.
 
 #include <functional>
 

@@ -1,5 +1,5 @@
-// The lines that members write on entry: which members write, in which order, and the record. The
-// static members are in GeometryTest.
+// The lines that members write on entry: which members write one, in which order, and the record.
+// The static members are in GeometryTest.
 
 #include <atomic>
 #include <thread>
@@ -36,7 +36,7 @@ TEST(Trace, firstUseFromManyThreads) {
   Kiv::TraceFacility::sinkIs(nullptr, nullptr);
 }
 
-/// Calls `action`, which writes these lines, one for each signature.
+/// Calls `action` and expects these lines, one for each signature.
 template <class Action>
 void expectLines(Records& records, U32 chip, const Action& action,
                  const std::vector<std::string>& signatures) {
@@ -83,7 +83,7 @@ TEST(Trace, everyFieldOfEveryClass) {
       expect([&] { ((*view).*field.length)(); }, {length});
       expect([&] { ((*view).*field.offset)(); }, {place});
       expect([&] { ((*view).*field.isValid)(); }, {validity});
-      // Every forwarding step writes its own line.
+      // Every member that forwards to another writes its own line.
       expect([&] { view->fieldWidth(field.id); }, {width, isValid, validity, length});
       expect([&] { view->fieldOffset(field.id); }, {offset, place});
       if (field.isScalar()) expect([&] { view->setField64(field.id, 0); }, {set, setter});
@@ -115,7 +115,7 @@ TEST(Trace, linesComeBeforeTheChecks) {
   expectLines(records, 5, [&] { assertionOf([&] { view->fieldOffset(Velmar::FieldId::VALID); }); },
               {"virtual U16 Velmar::VlanEntry::fieldOffset(U32) const",
                "U16 Velmar::VlanEntry::validOffset() const"});
-  // The line of a failure has a level of its own.
+  // The line of a failed look-up has a level of its own.
   Kiv::TraceFacility::levelIs(traceHandleName, 0, false);
   U32 out = 0;
   expectLines(records, 300,

@@ -1,5 +1,5 @@
 // Each hot path a thousand times, in a function of its own, to be counted by callgrind. The path
-// `nothing` is the price of the loop and of a call into the shared library.
+// `nothing` is the cost of the loop and of a call into the shared library.
 
 #include "Velmar/FieldId.h"
 #include "Velmar/IngVpVlanMembershipEccEntry.h"
@@ -13,7 +13,7 @@ using namespace Velmar;
 
 U8 entry[64];
 
-/// Makes a value look used, and changed in ways that the compiler cannot know.
+/// Makes the compiler assume that a value is used and changed.
 template <class T>
 void touch(T&& value) {
   asm volatile("" : : "r"(&value) : "memory");

@@ -1,7 +1,7 @@
 """Counts the instructions of the hot paths with callgrind and compares them with the committed ones.
 
-The same binary on the same inputs gives the same counts, so the limit can be narrow. Where a change
-is meant, refresh the committed counts and let the review see them.
+The same binary on the same inputs gives the same counts, so the limit can be narrow. After an
+intended change, refresh the committed counts, so that they show up in the review.
 
 usage: check_instructions.py [--refresh] PROGRAM COMMITTED"""
 
@@ -23,7 +23,7 @@ def measure(program):
     """Instructions of one call, by hot path, in the order of the program."""
     with tempfile.TemporaryDirectory() as folder:
         profile = pathlib.Path(folder) / "profile"
-        # Symbols bound at start: the first call of each must not cost more than the next.
+        # Bind symbols at start-up: the first call must not cost more than the others.
         subprocess.run(["valgrind", "--tool=callgrind", f"--callgrind-out-file={profile}", program],
                        check=True, capture_output=True, env={**os.environ, "LD_BIND_NOW": "1"})
         listing = subprocess.run(["callgrind_annotate", "--inclusive=yes", "--threshold=100",
@@ -47,7 +47,7 @@ for name in sorted(committed.keys() | measured.keys()):
     before, now = committed.get(name, 0), measured.get(name, 0)
     is_wrong = not before or not now or now > LIMIT * before
     failed |= is_wrong
-    print(f"{name:16} {before:7.1f} -> {now:7.1f} {'not the committed count' * is_wrong}")
+    print(f"{name:16} {before:7.1f} -> {now:7.1f} {'differs from the committed count' * is_wrong}")
 if failed:
-    print(f"Where this is meant, refresh the counts and commit them:\n  {REFRESH}")
+    print(f"If this is intended, refresh the counts and commit them:\n  {REFRESH}")
 sys.exit(failed)

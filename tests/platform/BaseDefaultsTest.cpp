@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The least that a view must define.
+/// A view that defines only the pure members.
 class Plain : public AsicUtils::BcmAsicBase {
  public:
   Plain(U8 chipType, U8* buf, U32 len, bool flag, U8 variant, U8 last)
@@ -30,8 +30,8 @@ class Plain : public AsicUtils::BcmAsicBase {
   bool getSchanAddress(U32&, U32&, U32&, U16, U32, U16) const override { return false; }
 };
 
-/// The place of a virtual member in the virtual table: a pointer to it holds its distance in bytes,
-/// on some processors plus one.
+/// The index of a virtual member in the virtual table: a pointer to the member holds its offset in
+/// bytes, plus one on some processors.
 template <class Member>
 std::size_t slotOf(Member member) {
   std::size_t distance = 0;
@@ -54,7 +54,7 @@ TEST(VirtualTable, isInTheOrderThatCallersWereCompiledWith) {
       slotOf(&A::getSchanAddress), slotOf(&B::hasMultipleMem), slotOf(&B::groupId),
       slotOf(&B::numGroups), slotOf(&B::groupInfo), slotOf(&B::memInfo)};
   // clang-format on
-  std::size_t expected = 2;  // behind the two destructors
+  std::size_t expected = 2;  // after the two destructors
   for (const std::size_t slot : slots) EXPECT_EQ(slot, expected++);
 }
 
@@ -65,7 +65,7 @@ TEST(BaseDefaults, failWithTheirTexts) {
   struct Row {
     std::function<void()> call;
     const char* text;
-    const char* signature;  ///< behind "virtual"
+    const char* signature;  ///< after "virtual"
   };
   // clang-format off
   const Row rows[] = {
@@ -102,7 +102,7 @@ TEST(BaseState, isKept) {
   EXPECT_TRUE(view.isTable());
   EXPECT_EQ(view.arrayElements(), 8U);
   EXPECT_EQ(view.instanceCount(), 9U);
-  // A length that 16 bits do not hold counts as the longest that they do, never as a short one.
+  // A length that does not fit 16 bits counts as the largest that does, never as a short one.
   EXPECT_EQ(Plain(6, nullptr, 65536 + 4, false, 0, 0).width(), 65535);
 }
 

@@ -1,5 +1,5 @@
-// Oru::PerUnitBitmap: the word list that views use, and the set of ports that people use, within
-// the object and on the heap.
+// Oru::PerUnitBitmap as the word list that views use and as a set of ports, stored in the object
+// and on the heap.
 
 #include <gtest/gtest.h>
 

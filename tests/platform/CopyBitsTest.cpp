@@ -1,7 +1,8 @@
-// The bit copy. Its real text runs on bits that have no value, only a name, through every copy that a
-// view can issue and every copy between short buffers: what holds for names holds for all data.
-// Values go against the proved loop, in heap blocks of exactly their length so that address
-// sanitizing sees an access beyond them; and the loop's merge of two bytes against its contract.
+// The bit copy. The actual code runs on symbolic bits, which have a name and no value, for every
+// copy that a view can issue and every copy between short buffers: a result for names is one for
+// all data. Real values are compared with the proved loop, in heap blocks of exactly their length,
+// so that the address sanitizer sees an access beyond them. The loop's merge of two bytes is
+// checked against its contract.
 
 #include <gtest/gtest.h>
 
@@ -20,8 +21,8 @@ namespace {
 
 constexpr U32 planeCount = 11;
 
-/// 64 bits, each 0 or the name of one bit of a buffer: plane p holds bit p of their names. It
-/// converts to no number, so that a copy can neither branch nor index on data.
+/// 64 bits, each 0 or the name of one bit of a buffer: plane p holds bit p of their names. It does
+/// not convert to a number, so that a copy can neither branch nor index on data.
 struct Word {
   std::array<U64, planeCount> planes{};
 };
@@ -80,7 +81,7 @@ struct Buffer {
   }
 };
 
-/// Where in a buffer: what a copy has in place of a pointer.
+/// A position in a buffer, which the copy uses as a pointer.
 template <class B>
 struct Place {
   B* buffer;
@@ -106,7 +107,7 @@ void storeBytes(Place<B> into, const Word& word) {
 }
 
 /// The copies of `step`, 2 * `step` and so on up to `most` bits from bit `from` to bit `into`, each
-/// into `dst` as it was.
+/// into the original `dst`.
 template <U32 dstSize, U32 srcSize>
 void checkCopies(const Buffer<dstSize>& dst, const Buffer<srcSize>& src, U32 srcName, U32 into,
                  U32 from, U32 most, U32 step = 1) {

@@ -1,4 +1,4 @@
-// Morvo's owning text, and maskBuf.
+// Morvo's string and exception, and maskBuf.
 
 #include <gtest/gtest.h>
 

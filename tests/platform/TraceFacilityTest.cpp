@@ -21,7 +21,7 @@ TEST(Trace, levelsBeforeAndAfterTheHandle) {
   Kiv::TraceHandle handle("early");
   Kiv::TraceHandle twin("early");
   Kiv::TraceHandle other("late");
-  EXPECT_TRUE(other.mayBeEnabled(8)) << "not joined: anything may be on";
+  EXPECT_TRUE(other.mayBeEnabled(8)) << "not joined yet: any level may be on";
   EXPECT_TRUE(handle.isEnabled(5) && handle.isEnabled(0));
   EXPECT_FALSE(handle.isEnabled(8) || other.isEnabled(5));
   EXPECT_FALSE(other.mayBeEnabled(8));

@@ -1,6 +1,6 @@
-// Verifies that the committed reference documents are what the rows make now, that a search for an
-// accessor finds its page, that the pages say what is known of some fields and chips, and that the
-// other documents name files that exist.
+// Verifies that the committed reference documents are what the rows give now, that a search for an
+// accessor finds its page, that the pages are right about some hand-picked fields and chips, and
+// that the other documents name files that exist.
 
 #include <gtest/gtest.h>
 
@@ -35,12 +35,12 @@ TEST(Reference, IsFresh) {
   }
 }
 
-TEST(Reference, CannotBeWrittenNowhere) {
+TEST(Reference, FailsWithoutItsDirectory) {
   EXPECT_EQ(2, run(quoted(REFERENCE_PAGES)));
   EXPECT_EQ(2, run(quoted(REFERENCE_PAGES) + " /no/such/place"));
 }
 
-/// What a Markdown text has between backquotes.
+/// The texts between backquotes in a Markdown text.
 std::vector<std::string> quotedCode(const std::string& text) {
   std::vector<std::string> pieces;
   std::istringstream stream(text);
@@ -91,7 +91,7 @@ TEST(Reference, HasEveryAccessorOnThePageOfItsClass) {
   }
 }
 
-/// A text whose runs of blanks are single ones, so that a wider column changes nothing.
+/// A text with each run of blanks as a single one, so that the width of a column does not matter.
 std::string withSingleBlanks(const std::string& text) {
   std::string single;
   for (const char c : text) {

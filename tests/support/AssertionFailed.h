@@ -15,7 +15,7 @@ struct AssertionFailed {
   std::string function;
 };
 
-/// Calls `action` and returns the assertion that it failed; one with empty texts if it failed none.
+/// Calls `action` and returns the assertion that failed; its texts are empty if none did.
 template <class Action>
 AssertionFailed assertionOf(const Action& action) {
   try {
@@ -26,7 +26,7 @@ AssertionFailed assertionOf(const Action& action) {
   return {"", "", 0, ""};
 }
 
-/// Expects that `action` fails this assertion; none where the text is empty.
+/// Expects that `action` fails this assertion, or none if the text is empty.
 template <class Action>
 void expectFailure(const Action& action, const std::string& text, const std::string& function,
                    const std::string& file = "VelmarMetaInfo") {

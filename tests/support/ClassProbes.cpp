@@ -42,7 +42,7 @@ T valueOf(const Words& words) {
   }
 }
 
-/// A member of a view as one that any view of its class can be called through.
+/// A member of a view's class as a member pointer of the common base type.
 template <class View, class T>
 constexpr T (Base::*ofBase(T (View::*member)() const))() const {
   return static_cast<T (Base::*)() const>(member);
@@ -65,7 +65,7 @@ void callSetter(Base& view, void (Base::*setter)(), const Words& words) {
   (view.*reinterpret_cast<void (Base::*)(Parameter)>(setter))(valueOf<T>(words));
 }
 
-/// Reaches into a view, as a caller's test class can.
+/// Accesses the protected members of a view, as a caller's derived class can.
 template <class View>
 class Opened : public View {
  public:
@@ -143,8 +143,7 @@ ClassProbe makeClass(const char* name, const char* rawName, std::vector<FieldPro
   return probe;
 }
 
-// The words that stand for value types in the field lists, as golden files and signatures have
-// them.
+// The type words of the field lists, as the golden files and signatures spell them.
 #define VELMAR_SPELLING_U8 "U8", "U8", "U8"
 #define VELMAR_SPELLING_U16 "U16", "U16", "U16"
 #define VELMAR_SPELLING_U32 "U32", "U32", "U32"

@@ -10,8 +10,8 @@
 #include "Velmar/MetaInfo.h"
 #include "tables/Classes.h"
 
-// Every class and field in one shape, made from the lists of classes and fields, so that a sweep is written
-// once and runs over all of them through the public accessors.
+// Every class and field in one form, made from the lists of classes and fields, so that a sweep is
+// written once and runs over all of them through the public accessors.
 
 namespace VelmarTest {
 
@@ -20,8 +20,8 @@ using Base = AsicUtils::BcmAsicBase;
 /// A field's value as 32-bit words, lowest first.
 using Words = std::vector<U32>;
 
-/// A field, with its members as pointers that any view can be called through. Plain data: hundreds
-/// of these are made when the tests are compiled.
+/// A field, with pointers to its members that can be called on any view of the class. Plain data:
+/// hundreds of these are made at compile time.
 struct FieldProbe {
   const char* accessor;
   const char* capitalised;
@@ -34,7 +34,7 @@ struct FieldProbe {
   U16 (Base::*length)() const;
   U16 (Base::*offset)() const;
   bool (Base::*isValid)() const;
-  void (Base::*getter)() const;  ///< of the type that `type` says
+  void (Base::*getter)() const;  ///< actually of the type named by `type`
   void (Base::*setter)();        ///< likewise
 
   Words get(const Base& view) const;

@@ -10,11 +10,11 @@
 #include <stdexcept>
 #include <string>
 
-// Files and programs, for the tests of what is derived and committed.
+// Files and programs, for the tests of committed derived files.
 
 namespace VelmarTest {
 
-/// The bytes of a file; none where it cannot be read.
+/// The contents of a file; empty if it cannot be read.
 inline std::string readFile(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
@@ -29,7 +29,7 @@ inline std::map<std::string, std::string> filesIn(const std::string& directory) 
   return files;
 }
 
-/// An empty directory that goes away with the object; its name has a space in it.
+/// An empty directory that is removed with the object; its name has a space in it.
 class ScratchDirectory {
  public:
   ScratchDirectory() {
@@ -52,7 +52,7 @@ class ScratchDirectory {
 /// A path as one word of a shell command.
 inline std::string quoted(const std::string& path) { return "'" + path + "'"; }
 
-/// Exit code of a shell command, whose output is dropped; -1 where a signal ended it.
+/// Exit code of a shell command, whose output is discarded; -1 if a signal ended it.
 inline int run(const std::string& command) {
   const int status = std::system(("(" + command + ") >/dev/null 2>&1").c_str());
   return WIFEXITED(status) ? WEXITSTATUS(status) : -1;

@@ -61,7 +61,7 @@ U32 chipNumber(const std::string& name) {
   throw std::runtime_error("golden data names an unknown chip: " + name);
 }
 
-/// Keeps a value for each chip of a row.
+/// Stores a value for each chip of a row.
 template <class Value>
 void keep(std::map<U32, Value>& byChip, const Row& row, const Value& value) {
   for (const std::string& name : split(row.at("chip"), ',')) {
@@ -70,7 +70,7 @@ void keep(std::map<U32, Value>& byChip, const Row& row, const Value& value) {
   }
 }
 
-/// Adds what a row says of one field, `port` where the row stands for many.
+/// Adds one field from a row, the one of `port` if the row stands for many.
 void addField(GoldenClass& golden, const Row& row, U32 port) {
   static const std::regex ports(R"(\{.*\})");
   const std::string accessor = std::regex_replace(row.at("accessor"), ports, std::to_string(port));

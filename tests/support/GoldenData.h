@@ -9,7 +9,7 @@
 
 namespace VelmarTest {
 
-/// The independent copy of every number of the library, as read from the golden files.
+/// The independent copy of every number of the library, read from the golden files.
 struct GoldenField {
   std::string accessor;
   std::string hardwareName;
@@ -46,7 +46,7 @@ struct GoldenClass {
 const std::vector<GoldenClass>& goldenClasses();
 const GoldenClass& goldenClass(const std::string& name);
 
-/// Whether a class on a chip knows a variant.
+/// Whether a class accepts a variant on a chip.
 bool knowsVariant(const GoldenClass& golden, U32 chip, U8 variant);
 
 /// The chips by number, from the enumeration.

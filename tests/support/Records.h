@@ -26,7 +26,7 @@ struct SoftAssertion {
   std::string text;
 };
 
-/// Captures trace lines and soft assertions while it lives; on level 8 only where asked.
+/// Captures trace lines and soft assertions during its lifetime; lines of level 8 only on request.
 class Records {
  public:
   enum class EntryLines { off, on };
@@ -57,7 +57,7 @@ class Records {
   std::vector<TraceLine> lines;
   std::vector<SoftAssertion> softAssertions;
 
-  /// The texts of the lines so far, which are then forgotten.
+  /// The texts of the lines so far, which are then cleared.
   std::vector<std::string> takeTexts() {
     std::vector<std::string> texts;
     for (const TraceLine& line : std::exchange(lines, {})) texts.push_back(line.text);

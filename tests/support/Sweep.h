@@ -9,25 +9,25 @@
 #include "support/GoldenData.h"
 #include "support/Records.h"
 
-// What the sweeps go through: classes, chips and variants.
+// Loops of the sweeps: over classes, chips and variants.
 
 namespace VelmarTest {
 
 /// The chips whose memories take the identifier into the address.
 inline bool isLate(U32 chip) { return chip >= BCM56990_B0; }
 
-/// The first number behind those of the chips.
+/// The first number after those of the chips.
 inline U32 unknownChip() { return chipNames().rbegin()->first + 1; }
 
-/// All chips, and numbers of none: beside them, and such as a narrowing to 8 bits would make known.
-inline std::set<U32> chipsAndStrangers() {
+/// All chips, and unknown numbers: next to those of chips, and such as become a chip in 8 bits.
+inline std::set<U32> knownAndUnknownChips() {
   std::set<U32> numbers = {0, 255, 256 + BCM56990_B0, 0x10000 + BCM56960_A0, 0xffffffff};
   for (const auto& [chip, name] : chipNames()) numbers.insert({chip, chip + 1});
   return numbers;
 }
 
-/// Whether a sweep ends here. Clang spells some signatures in its own way; there it goes on, for what
-/// a sanitizer may find.
+/// Whether a sweep ends here: after a failure, except with clang, which spells some signatures
+/// differently; there the sweep continues for the sanitizers.
 inline bool isOver() {
 #ifdef __clang__
   return false;
@@ -54,7 +54,7 @@ void onEveryChip(const Check& check) {
 template <class Check>
 void everywhere(const Check& check) {
   for (const ClassProbe& probe : classProbes()) {
-    for (const U32 chip : chipsAndStrangers()) {
+    for (const U32 chip : knownAndUnknownChips()) {
       for (const U8 variant : {U8{0}, U8{1}, U8{255}}) {
         for (const auto entryLines : {Records::EntryLines::off, Records::EntryLines::on}) {
           SCOPED_TRACE(probe.name + " on chip " + std::to_string(chip) + " variant " +
@@ -67,13 +67,13 @@ void everywhere(const Check& check) {
   }
 }
 
-/// The text with which a static member fails; empty where it does not.
+/// The text with which a static member fails; empty if it does not.
 inline std::string staticFailure(const GoldenClass& golden, U32 chip, U8 variant) {
   if (golden.chips.count(chip) == 0) return "0";
   return knowsVariant(golden, chip, variant) ? "" : "variant == 0";
 }
 
-/// Chip and variant as texts name them.
+/// Chip and variant as reports print them.
 inline std::string textOf(U32 chip, U32 variant) {
   return " chipType: " + std::to_string(chip) + " variant: " + std::to_string(variant);
 }

@@ -22,7 +22,7 @@ struct AddressRange {
   U32 last;
 };
 
-/// What is known of a class, as the rows of its source have it.
+/// The contents of a class, taken from the rows of its source.
 struct ClassRows {
   std::string name;
   std::string raw;  ///< the type that getAllFields returns
@@ -34,13 +34,13 @@ struct ClassRows {
   std::vector<FieldRows> fields;
 };
 
-/// The classes whose sources are compiled into this program, in no order.
+/// The classes whose sources are compiled into this program, in no particular order.
 std::vector<ClassRows>& classesRead();
 
-/// Adds a class to them; each source does so before main().
+/// Adds a class; each source does so before main().
 bool add(const ClassRows& rows);
 
-/// `known` with the chips of a class and its fields.
+/// `known` completed with the chips of a class and its fields.
 template <class FieldLayout, U32 rows, U32 fields, U32 allChips>
 ClassRows completed(ClassRows known, const FieldName (&names)[fields], const FieldLayout& layout,
                     const ChipRow (&chips)[rows], const ChipFacts (&chipFacts)[allChips]) {

@@ -53,7 +53,7 @@ std::string widthText(const ClassRows& rows, const FieldRows& field) {
   return text;
 }
 
-/// The chips that have a field, in the shorter way: "all chips", "all chips but A", "A, B".
+/// The chips that have a field, in the shorter form: "all chips", "all chips but A", "A, B".
 std::string chipsText(const ClassRows& rows, const FieldRows& field) {
   std::vector<std::string> present;
   std::vector<std::string> absent;
@@ -65,7 +65,7 @@ std::string chipsText(const ClassRows& rows, const FieldRows& field) {
   return join(present, ", ");
 }
 
-/// What the getter's comment says of a field.
+/// The getter's comment.
 std::string fieldText(const ClassRows& rows, const FieldRows& field) {
   const std::string start = capitalised(field.name.meaning) + ". " + field.name.hardwareName;
   const std::string width = widthText(rows, field);
@@ -76,7 +76,7 @@ std::string fieldText(const ClassRows& rows, const FieldRows& field) {
 std::string member(const std::string& text, const std::string& declaration) {
   const std::string line = "  " + declaration + ";\n";
   if (line.size() <= lineWidth + 1) return comment("  ", text) + line;
-  // Too long for a line: broken behind the last comma that fits, as the formatter does it.
+  // Too long for a line: broken after the last comma that fits, as the formatter does.
   const std::size_t open = declaration.find('(');
   const std::size_t comma = declaration.rfind(", ", lineWidth - 3);
   return comment("  ", text) + "  " + declaration.substr(0, comma + 1) + "\n" +
@@ -98,7 +98,7 @@ std::string fieldMembers(const ClassRows& rows, const FieldRows& field) {
                 std::string("bool is") + field.name.capitalised + "Valid() const");
 }
 
-/// A geometry value, for a chip and variant and for those of the view.
+/// A geometry value: the static member, and the one for the view's chip and variant.
 std::string geometry(const std::string& text, const std::string& type, const std::string& name,
                      bool overrides = true) {
   return member(text, "static " + type + " " + name + "(U32 chipType, U8 variant)") +
@@ -113,17 +113,18 @@ std::string classComment(const ClassRows& rows) {
   const std::string part = isTable ? "entry" : "element";
   return comment("", capitalised(rows.about.purpose) + ".") + "///\n" +
          comment("", "A view of one " + part + " of this " + block + " " + kind +
-                         ". The bytes are the caller's; bit 0 of the " + part +
+                         ". The caller owns the bytes; bit 0 of the " + part +
                          " is bit 0 of the first byte. On " + join(rows.chips, ", ") +
                          ": \"from\" in the comments below follows this order.") +
          R"(///
 /// The members of a field F trace at level 8, then check in this order:
-///  - F() and FIs(): "0" where the chip lacks the field, "variant_ == 0" where only the variant
-///    does, "len_ >= N" where the buffer ends before the field. FIs(): also "value <= 0x<mask>"
-///    where the value is too large and the width is not a multiple of 8. A bitmap of too few words
-///    throws Morvo::VectorOutOfRangeException after the words it had; surplus words are ignored.
-///  - FLen(): where the view lacks the field, the soft assertion " does not have field
-///    <HARDWARE_NAME>", then "\"0\" == nullptr". FOffset(): "0" and "variant_ == 0" as F().
+///  - F() and FIs(): "0" if the chip lacks the field, "variant_ == 0" if only the variant lacks it,
+///    "len_ >= N" if the buffer ends before the end of the field. FIs() also: "value <= 0x<mask>"
+///    if the value is too large and the width is not a multiple of 8. A bitmap with too few words
+///    throws Morvo::VectorOutOfRangeException after its last word is written; surplus words are
+///    ignored.
+///  - FLen(): if the view lacks the field, the soft assertion " does not have field
+///    <HARDWARE_NAME>", then "\"0\" == nullptr". FOffset(): "0" and "variant_ == 0" as for F().
 ///  - isFValid() never fails.
 )" +
          comment("",
@@ -132,7 +133,7 @@ std::string classComment(const ClassRows& rows) {
                      "comment says otherwise.");
 }
 
-/// What every view has before its fields.
+/// The members that every view has before its fields.
 std::string viewMembers(const ClassRows& rows) {
   const std::string missing = "\" not in metainfo for " + rows.name + "!\"";
   const std::string rawBytes =
@@ -141,7 +142,7 @@ std::string viewMembers(const ClassRows& rows) {
                                                     : std::stoul(rows.raw.substr(3)) / 8);
   return "  using EntrySpans = AsicUtils::EntrySpans;\n\n" +
          member(
-             "Binds the view to `buf`, `len` bytes that outlive it. A chip or variant without "
+             "Binds the view to `buf`, `len` bytes that outlive it. If the chip or variant lacks "
              "the class: the soft assertion " +
                  missing + ", then \"\\\"0\\\" == nullptr\".",
              rows.name + "(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant)") +
@@ -155,17 +156,18 @@ std::string viewMembers(const ClassRows& rows) {
                 "bool isTable() const override") +
          "\n" +
          member(
-             "Sets a scalar field by identifier (Velmar/FieldId.h). The value first loses the "
-             "bits that the field's type lacks. Any other identifier fails \"false\".",
+             "Sets a scalar field by identifier (Velmar/FieldId.h). The value is first "
+             "truncated to the field's type. Any other identifier fails \"false\".",
              "void setField64(U32 fieldId, U64 value) override") +
-         member("Width of a field in bits; 0 where the view lacks it.",
+         member("Width of a field in bits; 0 if the view lacks it.",
                 "U16 fieldWidth(U32 fieldId) const override") +
-         member("First bit of a field. An identifier without a field here fails \"false\".",
-                "U16 fieldOffset(U32 fieldId) const override") +
+         member(
+             "First bit of a field. An identifier that the class does not declare fails \"false\".",
+             "U16 fieldOffset(U32 fieldId) const override") +
          member("Whether the view has a field. Never fails.",
                 "bool isFieldValid(U32 fieldId) const override") +
-         member("The entry with every bit outside its fields zero. Fails \"len_ >= " + rawBytes +
-                    "\" where the buffer is shorter.",
+         member("The entry with its reserved bits zero. Fails \"len_ >= " + rawBytes +
+                    "\" if the buffer is shorter.",
                 rows.raw + " getAllFields() const") +
          geometry("A one at every bit of an entry that belongs to a field.", "Raw8192",
                   "allFieldsMask") +
@@ -182,8 +184,8 @@ std::string addressMembers(const ClassRows& rows) {
           ? "\"tableEntry < N\", \"arrayIndex == 0\""
           : "\"tableEntry == 0\", \"arrayIndex < " + std::to_string(rows.about.elements) + "\"";
   return member(
-             "S-channel address, access code and block (1 ingress, 2 egress). False, and nothing "
-             "written, for a chip or variant without the class. Fails " +
+             "S-channel address, access code and block (1 ingress, 2 egress). Returns false "
+             "and writes nothing if the chip or variant lacks the class. Fails " +
                  checks + ", \"hasIdentifier( chipType, variant, identifier )\".",
              "static bool getSchanAddress(U32 chipType, U8 variant, U32& address, U32& "
              "accessType, U32& block, U16 identifier, U32 tableEntry, U16 arrayIndex)") +
@@ -202,17 +204,17 @@ std::string geometryMembers(const ClassRows& rows) {
           geometry("Number of instances: 1.", "U32", "instanceCount");
   if (!isTable) {
     return text + geometry("Address distance between two elements.", "U32", "addrStride", false) +
-           geometry("0, also where hasIdentifier() accepts more.", "U32", "maxIdentifier");
+           geometry("0, even if hasIdentifier() accepts more.", "U32", "maxIdentifier");
   }
   text += geometry("Number of entries.", "U32", "entries") +
           geometry("Lowest index of an entry: 0.", "U32", "index_min", false) +
           geometry("0.", "U32", "arrayIndex_min", false) +
           geometry("The ranges of valid indices.", "EntrySpans", "entrySpans") +
-          member("1 where the chip has the memory, else 0. Never fails.",
+          member("1 if the chip has the memory, else 0. Never fails.",
                  "static U32 tableVariantCount(U32 chipType)") +
           member("The same for the view's chip.", "U32 tableVariantCount() const override");
   for (const std::string& chip : rows.spans) {
-    text += member("The valid indices on " + chip + " and chips with as many entries.",
+    text += member("The valid indices on " + chip + " and on chips with as many entries.",
                    "static const AsicUtils::EntrySpan _entrySpans_" + chip + "[1]");
   }
   return text;

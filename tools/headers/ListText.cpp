@@ -8,7 +8,7 @@ namespace Headers {
 namespace {
 
 struct Id {
-  U32 number;  ///< 0: one above the row before
+  U32 number;  ///< 0: one above that of the previous row
   const char* name;
 };
 
@@ -20,7 +20,7 @@ constexpr Id ids[] = {
 #undef VELMAR_PORT
 };
 
-/// The word for a value type in the rows of names.
+/// The type word of the rows of names.
 std::string typeWord(ValueType type) {
   return type == ValueType::bitmap ? "Bitmap" : valueName(type);
 }
@@ -49,15 +49,15 @@ std::string idHeader() {
 namespace Velmar {
 
 /// The field identifiers: one number for each hardware name, the same in every class. The numbers
-/// up to VP are fixed places in a longer sorted list, so that numbers are missing; a new name takes
-/// the next free number.
+/// up to VP are fixed positions in a longer sorted list, so some numbers are unused; a new name
+/// takes the next free number.
 namespace FieldId {
 
-/// Identifier of SP_TREE_PORT0; port n has this plus n.
+/// Identifier of SP_TREE_PORT0; that of port n is this plus n.
 constexpr U32 firstPort = )" +
          std::to_string(firstPort) + R"(;
 
-/// Every identifier, under the hardware name. Converts to U32.
+/// The identifiers, named after the hardware names. Converts to U32.
 enum Id : U32 {
 )" + enumerators +
          R"(};
@@ -66,7 +66,7 @@ enum Id : U32 {
 VELMAR_EXPORT const char* hardwareName(U32 id);
 /// The accessor name of an identifier, such as "fidId"; null for a number that names no field.
 VELMAR_EXPORT const char* accessorName(U32 id);
-/// The identifier of a hardware name or accessor name, letter by letter; 0 where there is none.
+/// The identifier of a hardware name or accessor name, compared exactly; 0 if there is none.
 VELMAR_EXPORT U32 find(const char* name);
 
 }  // namespace FieldId

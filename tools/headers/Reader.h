@@ -1,7 +1,7 @@
 #pragma once
 
-// What the sources of tables/ become in this program: rows that are checked, kept, and read again
-// to write headers. Neither the headers nor the library are needed.
+// The macros with which this program compiles the sources of tables/: they check the rows and keep
+// them for the header texts. Neither the headers nor the library are needed.
 
 #include "tables/FieldIds.h"
 #include "tools/headers/ClassRows.h"

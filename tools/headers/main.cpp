@@ -44,7 +44,7 @@ void writeFile(const fs::path& path, const std::string& text) {
   if (!file) fail(path.string() + ": cannot be written");
 }
 
-/// The classes in the order of their list. List and sources must agree.
+/// The classes in the order of tables/Classes.h. List and sources must agree.
 std::vector<ClassRows> allClasses() {
   std::vector<ClassRows> classes;
   std::vector<ClassRows> read = classesRead();
@@ -66,7 +66,7 @@ std::vector<ClassRows> allClasses() {
   return classes;
 }
 
-/// A chip that no class has would exist for nothing but the list of chips.
+/// Refuses a chip that no class has: it would only be in the list of chips.
 void checkChips(const std::vector<ClassRows>& classes) {
   for (const ChipName& chip : chipNames) {
     const bool isUsed = std::any_of(classes.begin(), classes.end(), [&](const ClassRows& rows) {
@@ -85,7 +85,7 @@ bool mayShare(const std::string& a, const std::string& b) {
 #undef VELMAR_IS_PAIR
 }
 
-/// Two tables whose addresses meet on a chip: one of the addresses, or a size, is wrong.
+/// Refuses two tables that share an address on a chip: an address or a size is wrong.
 void checkAddresses(const ClassRows& rows, const ClassRows& other) {
   if (mayShare(rows.name, other.name)) return;
   for (std::size_t i = 0; i < rows.chips.size(); ++i) {
@@ -102,7 +102,7 @@ void checkAddresses(const ClassRows& rows, const ClassRows& other) {
   }
 }
 
-/// The derived headers as they should be.
+/// The expected derived headers.
 Files derivedHeaders(const std::vector<ClassRows>& classes, const Files& present) {
   Files headers;
   for (const ClassRows& rows : classes) headers[rows.name + ".h"] = classHeader(rows);
@@ -116,7 +116,7 @@ Files derivedHeaders(const std::vector<ClassRows>& classes, const Files& present
   return headers;
 }
 
-/// The names of the derived headers that are not as they should be.
+/// The names of the derived headers that differ from the expected ones.
 std::vector<std::string> staleHeaders(const Files& headers, const Files& present) {
   std::vector<std::string> names;
   for (const auto& [name, text] : headers) {
@@ -149,7 +149,7 @@ int run(const std::string& task, const fs::path& place) {
     const std::string others =
         stale.size() > 1 ? " (and " + std::to_string(stale.size() - 1) + " more)" : "";
     fail("include/Velmar/" + stale.front() + " is stale" + others +
-         ": tables/ says something else. To refresh: cmake --build --preset release --target "
+         ": it does not match tables/. To refresh: cmake --build --preset release --target "
          "refresh");
   }
   for (const std::string& name : stale) {

@@ -19,7 +19,7 @@ bool liesAlike(const Catalogue::Table& table, U32 chipType, U32 otherChipType) {
   return true;
 }
 
-/// The field's name as the first of a family that may follow.
+/// The field as the first of a possible family.
 Family startOf(const Catalogue::Table& table, U32 index) {
   const std::string name = table.field(index).hardwareName;
   const std::size_t digits = name.find_last_not_of("0123456789") + 1;

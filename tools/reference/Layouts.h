@@ -7,7 +7,7 @@
 
 namespace Reference {
 
-/// The chips on which every field of a class lies alike, named after the first of them.
+/// The chips on which every field of a class has the same place, named after the first chip.
 struct Layout {
   std::string name;
   std::vector<U32> chips;
@@ -21,8 +21,8 @@ std::vector<Layout> layoutsOf(const Velmar::Catalogue::Table& table);
 /// The layout of a chip that the class has.
 const Layout& layoutOf(const std::vector<Layout>& layouts, U32 chipType);
 
-/// Numbered fields that lie by rule in every layout: of each layout the first so many, all of one
-/// width, at even distances.
+/// Numbered fields whose places follow a rule in every layout: each layout has the first so many of
+/// them, all of one width, at equal distances.
 struct Family {
   U32 first;           ///< index of its first field
   U32 count;           ///< number of its fields
@@ -30,13 +30,14 @@ struct Family {
   std::string prefix;  ///< hardware name without the number
 };
 
-/// The families of a class. Few fields are no family: a row each says more than a rule.
+/// The families of a class. A few fields do not make a family: a row for each says more than a
+/// rule.
 std::vector<Family> familiesOf(const Velmar::Catalogue::Table& table,
                                const std::vector<Layout>& layouts);
 
-/// What a family is in one layout.
+/// The rule of a family in one layout.
 struct FamilyRule {
-  bool holds;   ///< whether the fields lie by rule
+  bool holds;   ///< whether the places follow a rule
   U32 present;  ///< number of fields that the chips have
   U32 width;    ///< bits of each
   U32 offset;   ///< first bit of the first field

@@ -5,7 +5,7 @@
 
 namespace Reference {
 
-/// A Markdown table whose columns are aligned, so that it reads well in raw form too.
+/// A Markdown table whose columns are aligned, so that the source is readable too.
 class MarkdownTable {
  public:
   enum class Align { left, right };
@@ -15,13 +15,13 @@ class MarkdownTable {
   };
   using Row = std::vector<std::string>;
 
-  /// Columns of words, then columns of numbers.
+  /// Text columns, then number columns.
   MarkdownTable(const Row& words, const Row& numbers);
 
   void addColumn(const std::string& title, Align align) { columns_.push_back({title, align}); }
   /// Adds a row with a cell for each column.
   void addRow(const Row& cells) { rows_.push_back(cells); }
-  /// The table, ended by a newline.
+  /// The table, with a final newline.
   std::string text() const;
 
  private:

@@ -15,20 +15,20 @@ namespace {
 
 using Cells = MarkdownTable::Row;
 
-const std::string refreshNote = R"(<!-- Made from the layout rows; do not edit. To refresh:
+const std::string refreshNote = R"(<!-- Derived from tables/; do not edit. To refresh:
      cmake --build --preset release --target refresh -->
 
 )";
 
 const std::string introduction = R"(# Reference
 
-A page for each view class. It has everything that the library knows of the class: chips and
-geometry, S-channel addresses, the place of each field on each chip, and all accessor names, so that
-a search in this directory for any of them ends at its page.
+There is a page for each view class, with everything that the library knows about it: chips and
+geometry, S-channel addresses, the place of each field on each chip, and all accessor names. A
+search of this directory for an accessor finds its page.
 
-Offsets and widths are in bits; bit 0 is bit 0 of an entry's first byte. Words are of 32 bits. Chips
-on which all fields of a class lie alike share a layout, called after the first of them. "Variants"
-is what a chip takes: any variant, or variant 0 only.
+Offsets and widths are in bits; bit 0 is bit 0 of an entry's first byte. A word has 32 bits. Chips
+on which every field of a class has the same place share a layout, named after the first of them.
+The column "Variants" says which variants a chip accepts: any, or 0 only.
 
 )";
 
@@ -107,7 +107,7 @@ std::string addressesOf(const Catalogue::Table& table) {
                                ? "    address = base + entry + identifier term * identifier\n"
                                : "    address = base + stride * element\n";
   return "\n## S-channel addresses\n\n" + rule +
-         "\nAn identifier is accepted where it is below the number of identifiers.\n\n" +
+         "\nAn identifier is accepted if it is below the number of identifiers.\n\n" +
          addresses.text();
 }
 
@@ -142,7 +142,7 @@ std::string fieldTableOf(const Catalogue::Table& table, const std::vector<Layout
     fields.addRow(row);
   }
   if (isEmpty) return "";
-  return "\nA cell is offset/width in bits on the chips of the layout; `-`: they lack the "
+  return "\nA cell gives offset/width in bits on the chips of the layout; `-`: they lack the "
          "field.\n\n" +
          fields.text();
 }
@@ -168,8 +168,7 @@ std::string familyTableOf(const Catalogue::Table& table, const std::vector<Layou
   return "\n" + code(family.prefix + "n") + " for n from " + std::to_string(family.number) +
          " to " + std::to_string(last) + ": " + field.meaning + ".\nType " +
          code(Catalogue::valueTypeName(field.type)) + ", identifier " +
-         std::to_string(field.id - family.number) + " + n. What each layout has of it:\n\n" +
-         rules.text();
+         std::to_string(field.id - family.number) + " + n. In each layout:\n\n" + rules.text();
 }
 
 bool sharesBits(Catalogue::BitRange a, Catalogue::BitRange b) {
@@ -193,7 +192,7 @@ std::string overlapsOf(const Catalogue::Table& table, const std::vector<Layout>&
     notes += "- " + code(table.field(i).hardwareName) + ": " + listOf(others) + "\n";
   }
   if (notes.empty()) return "";
-  return "\n## Overlapping fields\n\nWriting one of these changes the others that share its "
+  return "\n## Overlapping fields\n\nWriting one of these fields changes those that share its "
          "bits:\n\n" +
          notes;
 }
@@ -213,7 +212,7 @@ std::string accessorsOf(const Catalogue::Table& table) {
     lines += padded(name, 2) + padded(name + "Is", 4) + padded(name + "Len", 5) +
              padded(name + "Offset", 8) + "is" + capitalised(name) + "Valid\n";
   }
-  return "\n## Accessors\n\nOf each field: getter, setter, width, offset, presence.\n\n```text\n" +
+  return "\n## Accessors\n\nFor each field: getter, setter, width, offset, presence.\n\n```text\n" +
          lines + "```\n";
 }
 
@@ -230,7 +229,7 @@ std::string pageOf(const Catalogue::Table& table) {
 
 std::string indexPage() {
   MarkdownTable classes({"Class", "Kind", "Pipeline"}, {"Chips", "Fields"});
-  classes.addColumn("What it holds", MarkdownTable::Align::left);
+  classes.addColumn("Contents", MarkdownTable::Align::left);
   for (U32 i = 0; i < Catalogue::tableCount(); ++i) {
     const Catalogue::Table table = Catalogue::table(i);
     const std::string name = table.name();

@@ -9,7 +9,7 @@ namespace Reference {
 /// The page of a class, in Markdown.
 std::string pageOf(const Velmar::Catalogue::Table& table);
 
-/// The page that lists all classes and says how to read their pages.
+/// The page that lists all classes and explains their pages.
 std::string indexPage();
 
 }  // namespace Reference

@@ -8,23 +8,23 @@
 
 namespace AsicUtils {
 
-/// What every view of a hardware memory or register is: a caller's buffer, the chip and variant
-/// that decide its layout, and the interface through which a caller that does not know the view's
-/// class walks its fields. The view never owns the buffer.
+/// Base of every view of a hardware memory or register: the caller's buffer, the chip and variant
+/// that determine its layout, and the interface to walk its fields without knowing the view's
+/// class. The view never owns the buffer.
 ///
-/// The order of the virtual members is part of the binary interface. A member that is not pure
-/// has a default that fails its assertion.
+/// The order of the virtual members is part of the binary interface. A virtual member that is not
+/// pure has a default that fails an assertion.
 class VELMAR_PLATFORM_EXPORT AsicBase {
  public:
   virtual ~AsicBase() = default;
 
-  /// Writes a scalar field chosen by identifier; high bits that its value type lacks are dropped.
+  /// Writes a scalar field chosen by identifier; high bits beyond its value type are dropped.
   virtual void setField64(U32 fieldId, U64 value) = 0;
   /// Fails "false && \"stringField function not implemented\"".
   virtual U64 stringField(const Morvo::String&, U16) const;
   /// Fails "false && \"stringFieldIs is invalid for this class\"".
   virtual void stringFieldIs(const Morvo::String&, const U64&);
-  /// Width in bits of a field, 0 where the view's chip does not have it.
+  /// Width in bits of a field, 0 if the view's chip does not have it.
   virtual U16 fieldWidth(U32 fieldId) const = 0;
   /// First bit of a field.
   virtual U16 fieldOffset(U32 fieldId) const = 0;
@@ -58,12 +58,12 @@ class VELMAR_PLATFORM_EXPORT AsicBase {
   virtual EntrySpans entrySpans() const;
   /// Fails "0".
   virtual bool compareTo(const void*, U16) const;
-  /// S-channel address, access code and block of an entry; false where the chip has no such object.
+  /// S-channel address, access code and block of an entry; false if the chip has no such object.
   virtual bool getSchanAddress(U32& address, U32& accessType, U32& block, U16 identifier,
                                U32 tableEntry, U16 arrayIndex) const = 0;
 
  protected:
-  /// `len` is in bytes and is kept in 16 bits: a longer buffer counts as 65,535 bytes.
+  /// `len` is in bytes and is stored in 16 bits: a longer buffer counts as 65,535 bytes.
   AsicBase(U8 chipType, U8* buf, U32 len, bool flag, U8 variant, U8 last)
       : buf_(buf),
         len_(static_cast<U16>(len < 0xffffU ? len : 0xffffU)),

@@ -4,7 +4,7 @@
 
 namespace AsicUtils {
 
-/// A chip type number and a table variant, as reports name them.
+/// A chip type number and a table variant, as reports print them.
 struct ChipAndVariant {
   U32 chipType;
   U8 variant;

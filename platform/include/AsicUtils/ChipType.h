@@ -2,7 +2,7 @@
 
 #include "AsicUtils/Types.h"
 
-/// The chips, once: CHIP(name, number). Every list of chips is made from this one.
+/// The chips: CHIP(name, number). Every other list of chips is made from this one.
 #define ASICUTILS_CHIP_TYPES(CHIP) \
   CHIP(BCM56960_A0, 6)             \
   CHIP(BCM56965_A0, 9)             \

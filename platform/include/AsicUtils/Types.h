@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-// Number and raw types. They are global names because they stand in function signatures, and those
-// signatures are printed unqualified in traces and assertion reports.
+// Number and raw types. Their names are global because trace lines and assertion reports print
+// function signatures, with these types unqualified.
 
 using U8 = std::uint8_t;
 using U16 = std::uint16_t;

@@ -11,17 +11,17 @@ static_assert(__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__,
 
 namespace Detail {
 
-/// Bytes of a window, where the buffer is that long.
+/// Bytes of a window, if the buffer is that long.
 constexpr U32 windowBytes = 8;
-/// The most bits that one window takes at any offset, and one on a multiple of 4 bytes.
+/// The most bits that fit a window at any offset, and a window on a multiple of 4 bytes.
 constexpr U32 windowBits = 57;
 constexpr U32 alignedBits = 33;
 
-/// These few lines are the body of every accessor: inline them whatever the compiler thinks.
+/// These few lines are the body of every accessor: always inline them.
 #define DETAIL_INLINE [[gnu::always_inline]] inline
 
-// The copy touches data through these two alone, and otherwise only shifts, masks and joins what
-// they give: the rest takes any kind of memory, so that a test can run it on bits that have no value.
+// The copy touches data only through these two, and otherwise only shifts, masks and joins words:
+// the rest is generic over the memory, so that a test can run it on symbolic bits.
 
 /// `count` bytes as an integer.
 template <int count>
@@ -59,7 +59,7 @@ DETAIL_INLINE void storeShort(Memory into, U32 len, Word value) {
   }
 }
 
-/// A byte from which a whole window lies inside the buffer: `start`, or as near as can be.
+/// The byte nearest to `start` from which a whole window lies inside the buffer.
 DETAIL_INLINE U32 windowStart(U32 len, U32 start) {
   return start < len - windowBytes ? start : len - windowBytes;
 }
@@ -87,23 +87,23 @@ DETAIL_INLINE void writeWindow(Memory dst, U32 len, U32 start, U32 offset, U32 b
   storeBytes<8>(dst + start, (old & ~(mask << shift)) | (value & mask) << shift);
 }
 
-/// The same for up to 33 bits, which a window on a multiple of 4 bytes holds wherever they are.
-/// Writes side by side then meet in the same window, and none waits for a part of the one before.
+/// The same for up to 33 bits, which a window on a multiple of 4 bytes holds at any offset.
+/// Adjacent writes then use the same window, so that none waits for part of the one before.
 template <class Memory, class Word>
 DETAIL_INLINE void writeAligned(Memory dst, U32 len, U32 offset, U32 bits, Word value) {
   writeWindow(dst, len, offset / 32 * 4, offset, bits, value);
 }
 
-/// 64 bits from bit `shift` (0 to 7) of the first byte; reads no byte beyond the last of them.
+/// 64 bits from bit `shift` (0 to 7) of the first byte; reads no byte beyond their last.
 template <class Memory>
 DETAIL_INLINE auto read64(Memory src, U32 shift) {
-  // The ninth byte, or the eighth again where `shift` is 0 and it adds nothing.
+  // The ninth byte, or the eighth again if `shift` is 0, when it adds nothing.
   const auto high = loadBytes<1>(src + (shift + 63) / 8);
   return loadBytes<8>(src) >> shift | high << 1 << (63 - shift);
 }
 
-/// Copies more bits than one window takes, 8 bytes of `dst` at a time. Of `dst` nothing is read but
-/// the bytes that the range shares with other bits, so that no read waits for a write.
+/// Copies more bits than one window takes. From 64 bits on, the only bytes of `dst` that it reads
+/// are those that the range shares with other bits, so that no read waits for a write.
 template <class Into, class From>
 [[gnu::noinline]] void copyBitsWide(Into dst, U32 dstLen, From src, U32 srcLen, U32 bits,
                                     U32 dstOffset, U32 srcOffset) {
@@ -116,8 +116,8 @@ template <class Into, class From>
   }
   const U32 first = dstOffset / 8;
   const U32 last = (dstOffset + bits - 1) / 8;
-  const U32 below = dstOffset % 8;                      // bits of the first byte that stay
-  const U32 above = 8 * (last + 1) - dstOffset - bits;  // bits of the last byte that stay
+  const U32 below = dstOffset % 8;                      // bits of the first byte to keep
+  const U32 above = 8 * (last + 1) - dstOffset - bits;  // bits of the last byte to keep
   const U32 end = srcOffset + bits - 64;                // the last 64 bits
   const auto head = read64(src + srcOffset / 8, srcOffset % 8) << below;
   const auto tail = read64(src + end / 8, end % 8) >> above;
@@ -133,7 +133,7 @@ template <class Into, class From>
   storeBytes<8>(dst + (last - 7), tail | lastByte << 56);
 }
 
-/// copyBits(), for any kind of memory.
+/// copyBits(), generic over the memory.
 template <class Into, class From>
 DETAIL_INLINE void moveBits(Into dst, U32 dstLen, From src, U32 srcLen, U32 bits, U32 dstOffset,
                             U32 srcOffset) {
@@ -147,8 +147,8 @@ DETAIL_INLINE void moveBits(Into dst, U32 dstLen, From src, U32 srcLen, U32 bits
 }
 
 /// Copies `bits` bits from bit `srcOffset` of `src` to bit `dstOffset` of `dst`. Lengths are in
-/// bytes; bit n of a buffer is bit n % 8 of byte n / 8. The bits of `dst` outside the range stay as
-/// they are. Both ranges must lie inside their buffers and the buffers must not overlap; nothing
+/// bytes; bit n of a buffer is bit n % 8 of byte n / 8. The bits of `dst` outside the range stay
+/// unchanged. Both ranges must lie inside their buffers and the buffers must not overlap; nothing
 /// outside the buffers is read or written, and neither needs any alignment.
 DETAIL_INLINE void copyBits(U8* dst, int dstLen, const U8* src, int srcLen, int bits, int dstOffset,
                             int srcOffset) {

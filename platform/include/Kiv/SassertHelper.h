@@ -6,7 +6,7 @@
 
 namespace Kiv {
 
-/// One soft assertion. The texts live only as long as the call that hands the record over.
+/// One soft assertion. The texts are valid only during the call of the sink.
 struct SassertRecord {
   const char* expression;
   const char* file;
@@ -18,7 +18,7 @@ struct SassertRecord {
 /// Takes soft assertions. May be called from several threads at once and must not throw.
 using SassertSink = void (*)(const SassertRecord& record, void* context);
 
-/// Reports one soft assertion: stream the text into it, the destructor reports it.
+/// Reports one soft assertion: stream the text into it; the destructor reports it.
 class VELMAR_PLATFORM_EXPORT SassertHelper {
  public:
   SassertHelper(const char* expression, const char* file, U32 line, const char* function)
@@ -29,7 +29,7 @@ class VELMAR_PLATFORM_EXPORT SassertHelper {
 
   TraceStream& stream() { return stream_; }
 
-  /// Sends the reports to `sink`, or to standard error where it is null.
+  /// Sends the reports to `sink`, or to standard error if it is null.
   static void sinkIs(SassertSink sink, void* context);
 
  private:

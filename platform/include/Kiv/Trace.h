@@ -8,7 +8,7 @@
 
 namespace Kiv {
 
-/// One trace line. The texts live only as long as the call that hands the record over.
+/// One trace line. The texts are valid only during the call of the sink.
 struct TraceRecord {
   const char* handle;    ///< name of the handle
   U32 level;             ///< 0 to 30
@@ -21,8 +21,8 @@ struct TraceRecord {
 /// Takes trace lines. May be called from several threads at once and must not throw.
 using TraceSink = void (*)(const TraceRecord& record, void* context);
 
-/// A named source of trace lines, made to be a static object: it is initialised when compiled and
-/// joins the facility when it is first asked for a level.
+/// A named source of trace lines, meant to be a static object: it is initialised at compile time
+/// and joins the facility at the first query of a level.
 class VELMAR_PLATFORM_EXPORT TraceHandle {
  public:
   /// `name` must outlive the handle.
@@ -33,7 +33,7 @@ class VELMAR_PLATFORM_EXPORT TraceHandle {
 
   const char* name() const { return name_; }
 
-  /// False only when the level is off: one load and one branch. True also before the handle joined.
+  /// False only when the level is off: one load and one branch. Also true until the handle joins.
   bool mayBeEnabled(U32 level) const {
     return (levels_.load(std::memory_order_relaxed) >> level & 1U) != 0;
   }
@@ -60,12 +60,12 @@ class VELMAR_PLATFORM_EXPORT TraceFacility {
  public:
   static constexpr U32 maxLevel = 30;
 
-  /// Switches a level of all handles of a name, also of those that do not exist yet. At the start
+  /// Switches a level of all handles of a name, including those that do not exist yet. Initially
   /// level 0 is on and the others are off. Returns false, and changes nothing, above `maxLevel`.
   static bool levelIs(const char* handle, U32 level, bool on);
   /// Whether a level is on for the handles of a name.
   static bool level(const char* handle, U32 level);
-  /// Sends the lines to `sink`, or to standard error where it is null.
+  /// Sends the lines to `sink`, or to standard error if it is null.
   static void sinkIs(TraceSink sink, void* context);
   /// Hands a record to the sink.
   static void emit(const TraceRecord& record);
@@ -76,7 +76,7 @@ class VELMAR_PLATFORM_EXPORT TraceFacility {
   static void leave(TraceHandle& handle);
 };
 
-/// Writes one line: stream the text into it, the destructor emits it. Make one only where the
+/// Writes one line: stream the text into it; the destructor emits it. Create one only if the
 /// handle's level is on.
 class VELMAR_PLATFORM_EXPORT TraceHelper {
  public:

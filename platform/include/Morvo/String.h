@@ -6,8 +6,8 @@
 
 namespace Morvo {
 
-/// An immutable text that owns its characters. Small on purpose: it stands in interfaces whose
-/// headers must stay cheap to include.
+/// An immutable text that owns its characters. Deliberately small: it is used in interfaces
+/// whose headers must stay cheap to include.
 class VELMAR_PLATFORM_EXPORT String {
  public:
   String() = default;
@@ -18,9 +18,9 @@ class VELMAR_PLATFORM_EXPORT String {
   String& operator=(String other) noexcept;
   ~String();
 
-  /// The characters, ended by a zero.
+  /// The characters, zero-terminated.
   const char* c_str() const { return text_ != nullptr ? text_ : ""; }
-  /// Length in characters, without the ending zero.
+  /// Length in characters, without the terminator.
   std::size_t size() const { return length_; }
   bool empty() const { return length_ == 0; }
 

@@ -7,7 +7,7 @@
 
 namespace Morvo {
 
-/// Thrown when an index is not smaller than the number of elements of a list.
+/// Thrown if an index is not below the number of elements of a list.
 class VELMAR_PLATFORM_EXPORT VectorOutOfRangeException : public std::out_of_range {
  public:
   VectorOutOfRangeException(std::size_t index, std::size_t count);

@@ -9,12 +9,12 @@
 namespace Oru {
 
 /// A set of ports, held as a list of 32-bit words: word i holds ports 32i to 32i + 31, port 32i in
-/// bit 0. Up to 288 ports live inside the object; more take memory from the heap.
+/// bit 0. Up to 288 ports are stored in the object, more on the heap.
 class VELMAR_PLATFORM_EXPORT PerUnitBitmap {
  public:
   /// No words, no ports.
   PerUnitBitmap() noexcept : wordCount_(0), heap_(nullptr), heapWords_(0) {}
-  /// All the words that `ports` ports take, no port set.
+  /// The words for `ports` ports, with no port set.
   explicit PerUnitBitmap(U32 ports) : PerUnitBitmap() {
     if (ports != 0) growTo((ports - 1) / 32);
   }
@@ -40,8 +40,8 @@ class VELMAR_PLATFORM_EXPORT PerUnitBitmap {
     if (index >= wordCount_) throwOutOfRange(index);
     return words()[index];
   }
-  /// Sets word `index`; a shorter list grows to it with zero words. An index that leaves no number
-  /// for the count of words throws std::length_error.
+  /// Sets word `index`; a shorter list grows to it with zero words. The largest index throws
+  /// std::length_error: the count of words would overflow.
   void bitListIs(U32 index, U32 word) {
     if (index >= wordCount_) growTo(index);
     words()[index] = word;
@@ -49,7 +49,7 @@ class VELMAR_PLATFORM_EXPORT PerUnitBitmap {
 
   /// Adds a port; the list grows to the word that holds it.
   void set(U32 port);
-  /// Takes a port out; a port outside the list is not in the set as it is.
+  /// Removes a port; does nothing for a port outside the list.
   void clear(U32 port);
   /// Whether a port is in the set; false outside the list.
   bool test(U32 port) const;
@@ -57,7 +57,7 @@ class VELMAR_PLATFORM_EXPORT PerUnitBitmap {
   U32 nextPort(U32 from) const;
   static constexpr U32 noPort = 0xffffffffU;
 
-  /// Walks the ports of the set in ascending order: `for (U32 port : bitmap)`.
+  /// Iterates over the ports of the set in ascending order: `for (U32 port : bitmap)`.
   class Iterator {
    public:
     Iterator(const PerUnitBitmap& bitmap, U32 port) : bitmap_(&bitmap), port_(port) {}
@@ -78,7 +78,7 @@ class VELMAR_PLATFORM_EXPORT PerUnitBitmap {
   /// The ports as ranges, such as "0-3,17"; empty for no ports.
   Morvo::String ranges() const;
 
-  /// Equal when the same ports are set, whatever the number of words.
+  /// Equal if the same ports are set, whatever the number of words.
   friend VELMAR_PLATFORM_EXPORT bool operator==(const PerUnitBitmap& a, const PerUnitBitmap& b);
   friend bool operator!=(const PerUnitBitmap& a, const PerUnitBitmap& b) { return !(a == b); }
 
