@@ -65,7 +65,7 @@ void write(const EntryView& view, const FieldSlot& slot, const Oru::PerUnitBitma
 }  // namespace
 
 template <class T>
-T wholeGet(const EntryView& view, const FieldSlot& slot, const ClassData& data) {
+T checkedGet(const EntryView& view, const FieldSlot& slot, const ClassData& data) {
   if (takesSlowPath(!isHeld(view, slot))) {
     traceAndCheck(view, data.fieldOf(slot), data, Member::getter);
   }
@@ -74,26 +74,26 @@ T wholeGet(const EntryView& view, const FieldSlot& slot, const ClassData& data) 
   return value;
 }
 
-template U8 wholeGet<U8>(const EntryView&, const FieldSlot&, const ClassData&);
-template U16 wholeGet<U16>(const EntryView&, const FieldSlot&, const ClassData&);
-template U32 wholeGet<U32>(const EntryView&, const FieldSlot&, const ClassData&);
-template U64 wholeGet<U64>(const EntryView&, const FieldSlot&, const ClassData&);
-template Raw128 wholeGet<Raw128>(const EntryView&, const FieldSlot&, const ClassData&);
-template Oru::PerUnitBitmap wholeGet<Oru::PerUnitBitmap>(const EntryView&, const FieldSlot&,
-                                                         const ClassData&);
+template U8 checkedGet<U8>(const EntryView&, const FieldSlot&, const ClassData&);
+template U16 checkedGet<U16>(const EntryView&, const FieldSlot&, const ClassData&);
+template U32 checkedGet<U32>(const EntryView&, const FieldSlot&, const ClassData&);
+template U64 checkedGet<U64>(const EntryView&, const FieldSlot&, const ClassData&);
+template Raw128 checkedGet<Raw128>(const EntryView&, const FieldSlot&, const ClassData&);
+template Oru::PerUnitBitmap checkedGet<Oru::PerUnitBitmap>(const EntryView&, const FieldSlot&,
+                                                           const ClassData&);
 
 template <class T>
-void wholeSet(const EntryView& view, T value, const FieldSlot& slot, const ClassData& data) {
+void checkedSet(const EntryView& view, T value, const FieldSlot& slot, const ClassData& data) {
   if (takesSlowPath(!isHeld(view, slot) || value > largestValue(slot))) {
     traceAndCheck(view, data.fieldOf(slot), data, Member::setter, value);
   }
   write(view, slot, value);
 }
 
-template void wholeSet<U8>(const EntryView&, U8, const FieldSlot&, const ClassData&);
-template void wholeSet<U16>(const EntryView&, U16, const FieldSlot&, const ClassData&);
-template void wholeSet<U32>(const EntryView&, U32, const FieldSlot&, const ClassData&);
-template void wholeSet<U64>(const EntryView&, U64, const FieldSlot&, const ClassData&);
+template void checkedSet<U8>(const EntryView&, U8, const FieldSlot&, const ClassData&);
+template void checkedSet<U16>(const EntryView&, U16, const FieldSlot&, const ClassData&);
+template void checkedSet<U32>(const EntryView&, U32, const FieldSlot&, const ClassData&);
+template void checkedSet<U64>(const EntryView&, U64, const FieldSlot&, const ClassData&);
 
 void setBitmap(const EntryView& view, const Oru::PerUnitBitmap& value, const FieldSlot& slot,
                const ClassData& data) {

@@ -12,10 +12,10 @@ namespace Framework {
 
 /// The slow path of the operation, for a buffer of any length and any value type.
 template <class T>
-T wholeGet(const EntryView& view, const FieldSlot& slot, const ClassData& data);
+T checkedGet(const EntryView& view, const FieldSlot& slot, const ClassData& data);
 /// The same for scalar values.
 template <class T>
-void wholeSet(const EntryView& view, T value, const FieldSlot& slot, const ClassData& data);
+void checkedSet(const EntryView& view, T value, const FieldSlot& slot, const ClassData& data);
 /// The same for values that are not range-checked.
 void setBitmap(const EntryView& view, const Oru::PerUnitBitmap& value, const FieldSlot& slot,
                const ClassData& data);
@@ -37,7 +37,7 @@ class Fields {
   template <class T>
   [[gnu::always_inline]] static T get(const EntryView& view, U32 field) {
     if constexpr (!isScalar(valueTypeOf<T>)) {
-      return wholeGet<T>(view, slotOf(view, field), data);
+      return checkedGet<T>(view, slotOf(view, field), data);
     } else if constexpr (sharesRoutines) {
       return sharedGet<T>(view, field);
     } else {
@@ -104,7 +104,7 @@ class Fields {
   }
   /// The comparison with the slot guarantees that the buffer holds a whole window.
   static int checkedLen(U16 len) {
-    if (len < plainCopyBytes) __builtin_unreachable();
+    if (len < fastCopyBytes) __builtin_unreachable();
     return len;
   }
 
@@ -112,7 +112,7 @@ class Fields {
   [[gnu::always_inline]] static T inlineGet(const EntryView& view, U32 field) {
     const FieldSlot& slot = slotOf(view, field);
     const U16 len = ViewAccess::len(view);
-    if (takesSlowPath(len <= slot.slowLen)) return wholeGet<T>(view, slot, data);
+    if (takesSlowPath(len <= slot.slowLen)) return checkedGet<T>(view, slot, data);
     T value = 0;
     Detail::copyBits(bytesOf(value), sizeof(value), ViewAccess::buf(view), checkedLen(len),
                      checkedWidth<T>(slot), 0, slot.offset);
@@ -124,7 +124,7 @@ class Fields {
     const FieldSlot& slot = slotOf(view, field);
     const U16 len = ViewAccess::len(view);
     if (takesSlowPath(len <= slot.slowLen || value > largestValue(slot))) {
-      return wholeSet<T>(view, value, slot, data);
+      return checkedSet<T>(view, value, slot, data);
     }
     Detail::copyBits(ViewAccess::buf(view), checkedLen(len), bytesOf(value), sizeof(value),
                      checkedWidth<T>(slot), slot.offset, 0);

@@ -58,8 +58,8 @@ void setById(const EntryView& view, U32 id, U64 value, const ClassData& data, Si
   if (mayTrace()) traceMember(view, site);
   const U32 field = data.fieldOfId(id);
   if (field == data.fields || !isScalar(data.fieldFacts[field].type)) fail("false", site);
-  wholeSet<U64>(view, narrowed(value, data.fieldFacts[field].type),
-                data.slot(field, rowOf(view, data)), data);
+  checkedSet<U64>(view, narrowed(value, data.fieldFacts[field].type),
+                  data.slot(field, rowOf(view, data)), data);
 }
 
 }  // namespace Framework

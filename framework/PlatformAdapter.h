@@ -30,7 +30,7 @@ inline U32 wordOf(const Oru::PerUnitBitmap& bitmap, U32 index) { return bitmap.w
 
 /// Length in bytes from which the bit copy has one path for all buffers. A matter of speed only:
 /// accessors leave shorter buffers to the slow path.
-constexpr U32 plainCopyBytes = Detail::windowBytes;
+constexpr U32 fastCopyBytes = Detail::windowBytes;
 
 /// The bytes of a raw value or integer, lowest first.
 template <class T>

@@ -30,7 +30,7 @@ constexpr FieldSlot makeSlot(BitRange range) {
   slot.offset = range.offset;
   slot.width = range.width;
   const U32 bytes = bytesUpTo(slot);
-  slot.slowLen = static_cast<U16>((bytes < plainCopyBytes ? plainCopyBytes : bytes) - 1);
+  slot.slowLen = static_cast<U16>((bytes < fastCopyBytes ? fastCopyBytes : bytes) - 1);
   // A width of whole bytes takes any value of the field's type, and the bits that do not fit are
   // dropped: callers rely on it for the fields that are narrower on some chips.
   if (range.width < 64 && range.width % 8 != 0)
