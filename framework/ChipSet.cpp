@@ -1,5 +1,7 @@
 #include "framework/ChipSet.h"
 
+#include "framework/ChipChecks.h"
+
 namespace Velmar {
 namespace Framework {
 

@@ -44,15 +44,5 @@ class ChipSet {
   U64 bits_;
 };
 
-constexpr bool chipsAscend() {
-  for (U32 i = 1; i < chipCount; ++i) {
-    if (chipNames[i - 1].number >= chipNames[i].number) return false;
-  }
-  return true;
-}
-static_assert(chipsAscend(), "chips: the numbers do not ascend, or a number is listed twice");
-static_assert(chipNames[chipCount - 1].number < ChipSet::end,
-              "chips: numbers above 63 do not fit ChipSet; give it more bits");
-
 }  // namespace Framework
 }  // namespace Velmar

@@ -21,33 +21,54 @@ constexpr IdRow makeIdRow(U32 id, const char* name) {
   return row;
 }
 
+// Checks of the rows. Each returns the identifier of the first bad row, 0 for none, and has a sentence
+// that is compiled with it, so that the compiler names the identifier.
+
 template <U32 count>
-constexpr bool numbersAscend(const IdRow (&rows)[count]) {
+constexpr U32 firstNumberOutOfOrder(const IdRow (&rows)[count]) {
   for (U32 i = 1; i < count; ++i) {
-    if (rows[i - 1].id >= rows[i].id) return false;
+    if (rows[i - 1].id >= rows[i].id) return rows[i].id;
   }
-  return true;
+  return 0;
 }
 
-/// Whether the names of the first `sorted` rows are in natural order.
+/// The first `sorted` rows are in the natural order of their names.
 template <U32 count>
-constexpr bool namesAscend(const IdRow (&rows)[count], U32 sorted) {
+constexpr U32 firstNameOutOfOrder(const IdRow (&rows)[count], U32 sorted) {
   for (U32 i = 1; i < sorted; ++i) {
-    if (!naturallyBefore(rows[i - 1].hardwareName, rows[i].hardwareName)) return false;
+    if (!naturallyBefore(rows[i - 1].hardwareName, rows[i].hardwareName)) return rows[i].id;
   }
-  return true;
+  return 0;
 }
 
-/// Whether no row from `sorted` on repeats the name of an earlier row.
+/// No row from `sorted` on repeats the name of an earlier row.
 template <U32 count>
-constexpr bool namesAreOnce(const IdRow (&rows)[count], U32 sorted) {
+constexpr U32 firstNameListedTwice(const IdRow (&rows)[count], U32 sorted) {
   for (U32 i = sorted; i < count; ++i) {
     for (U32 earlier = 0; earlier < i; ++earlier) {
-      if (sameText(rows[i].hardwareName, rows[earlier].hardwareName)) return false;
+      if (sameText(rows[i].hardwareName, rows[earlier].hardwareName)) return rows[i].id;
     }
   }
-  return true;
+  return 0;
 }
+
+template <auto id>
+struct IdNumbersAscend {
+  static_assert(id == 0, "field identifiers: the numbers do not ascend");
+};
+
+template <auto id>
+struct ClosedListIsSorted {
+  static_assert(
+      id == 0,
+      "field identifiers: a name of the closed list is out of order; add new names to the "
+      "second list");
+};
+
+template <auto id>
+struct NamesAreListedOnce {
+  static_assert(id == 0, "field identifiers: a new name is listed twice");
+};
 
 }  // namespace Framework
 }  // namespace Velmar

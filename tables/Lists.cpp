@@ -23,11 +23,9 @@ const U32 idCount = sizeof(idRows) / sizeof(idRows[0]);
 
 #define VELMAR_WITHOUT(number, NAME) -1
 constexpr U32 closedIds = idCount VELMAR_NEW_FIELD_IDS(VELMAR_WITHOUT);
-static_assert(numbersAscend(idRows), "field identifiers: the numbers do not ascend");
-static_assert(namesAscend(idRows, closedIds),
-              "field identifiers: a name of the closed list is out of order; add new names to the "
-              "second list");
-static_assert(namesAreOnce(idRows, closedIds), "field identifiers: a new name is listed twice");
+static_assert(sizeof(IdNumbersAscend<FieldId::Id(firstNumberOutOfOrder(idRows))>) > 0);
+static_assert(sizeof(ClosedListIsSorted<FieldId::Id(firstNameOutOfOrder(idRows, closedIds))>) > 0);
+static_assert(sizeof(NamesAreListedOnce<FieldId::Id(firstNameListedTwice(idRows, closedIds))>) > 0);
 static_assert(FieldId::SP_TREE_PORT271 == FieldId::firstPort + 271,
               "field identifiers: the numbers of the ports are not consecutive");
 

@@ -9,6 +9,7 @@
 #include <set>
 #include <stdexcept>
 
+#include "framework/ChipChecks.h"
 #include "tables/Classes.h"
 #include "tools/headers/HeaderText.h"
 
