@@ -41,17 +41,6 @@ constexpr U32 firstNameOutOfOrder(const IdRow (&rows)[count], U32 sorted) {
   return 0;
 }
 
-/// No row from `sorted` on repeats the name of an earlier row.
-template <U32 count>
-constexpr U32 firstNameListedTwice(const IdRow (&rows)[count], U32 sorted) {
-  for (U32 i = sorted; i < count; ++i) {
-    for (U32 earlier = 0; earlier < i; ++earlier) {
-      if (sameText(rows[i].hardwareName, rows[earlier].hardwareName)) return rows[i].id;
-    }
-  }
-  return 0;
-}
-
 template <auto id>
 struct IdNumbersAscend {
   static_assert(id == 0, "field identifiers: the numbers do not ascend");
@@ -63,11 +52,6 @@ struct ClosedListIsSorted {
       id == 0,
       "field identifiers: a name of the closed list is out of order; add new names to the "
       "second list");
-};
-
-template <auto id>
-struct NamesAreListedOnce {
-  static_assert(id == 0, "field identifiers: a new name is listed twice");
 };
 
 }  // namespace Framework

@@ -25,7 +25,6 @@ const U32 idCount = sizeof(idRows) / sizeof(idRows[0]);
 constexpr U32 closedIds = idCount VELMAR_NEW_FIELD_IDS(VELMAR_WITHOUT);
 static_assert(sizeof(IdNumbersAscend<FieldId::Id(firstNumberOutOfOrder(idRows))>) > 0);
 static_assert(sizeof(ClosedListIsSorted<FieldId::Id(firstNameOutOfOrder(idRows, closedIds))>) > 0);
-static_assert(sizeof(NamesAreListedOnce<FieldId::Id(firstNameListedTwice(idRows, closedIds))>) > 0);
 static_assert(FieldId::SP_TREE_PORT271 == FieldId::firstPort + 271,
               "field identifiers: the numbers of the ports are not consecutive");
 

@@ -63,7 +63,7 @@ def number(entry):
 
 
 tables = list(golden_tables())
-check(len(tables) > 200 and len({table.name for table in tables}) == 27, "golden data is short")
+check(len(tables) > 200, "the golden data are cut short")
 for table in tables:
     entries = entries_of(table)
     dump = b"".join(entries)

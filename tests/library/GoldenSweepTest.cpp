@@ -38,7 +38,7 @@ class Differences {
   /// Expects that both or neither have `what`; true if both have it.
   bool areBoth(const std::string& what, bool golden, bool compiled) {
     if (golden && !compiled) add(what + " is in tests/golden and not compiled");
-    if (!golden && compiled) add(what + " is compiled and not in tests/golden");
+    if (!golden && compiled) add(what + " is compiled and not in tests/golden; add it there");
     return golden && compiled;
   }
 
@@ -76,6 +76,8 @@ TEST(GoldenSweep, tables) {
   const Records quiet;
   Differences differences;
   forEachClass([&](const ClassProbe& probe, const GoldenClass& golden) {
+    const auto index = static_cast<U32>(&probe - classProbes().data());
+    const Velmar::Catalogue::Table table = Velmar::Catalogue::table(index);
     differences.compare(probe.name + ": is a table", golden.isTable, probe.isTable);
     for (const auto& [chip, name] : chipNames()) {
       const std::string where = probe.name + " on " + name;
@@ -92,6 +94,7 @@ TEST(GoldenSweep, tables) {
       compare("base", hexadecimal(expected.base), hexadecimal(first.address));
       compare("access type", expected.accessType, first.accessType);
       compare("block", expected.block, first.block);
+      compare("raw bytes needed", expected.rawBytesNeeded, table.allFieldsBytes());
       const std::map<std::string, U32> members = {{"width", expected.words},
                                                   {"arrayElements", expected.arrayElements},
                                                   {"entries", expected.entries.value_or(0)}};

@@ -107,7 +107,7 @@ struct Statement {
 
 // clang-format off
 constexpr Statement statements[] = {
-    {"README.md", "| [EgrVlan2Entry](EgrVlan2Entry.md) | table | egress | 5 | 1 |"},
+    {"README.md", "| [EgrVlan2Entry](EgrVlan2Entry.md) | table | egress | "},
     {"README.md", "| BCM56990_B0 | 33 |"},
     {"VlanEntry.md", "| BCM56992_B0 | BCM56990_B0 | 0 only | 4 | 16 | 8192 | 15 |"},
     {"VlanEntry.md", "| BCM56990_B0 | 0x0c7c0000 | 17 | 1 | 1 | 16384 |"},
