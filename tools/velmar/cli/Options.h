@@ -76,7 +76,7 @@ inline constexpr Option
     chipIfAny{"-c,--chip", "CHIP", &Arguments::chips, "this chip only", Proposal::chips},
     variant{"--variant", "N", &Arguments::variant, "table variant, 0 to 255 (default 0)"},
     output{"-o,--output", "FILE", &Arguments::output,
-           "write the result to FILE, whole or not at all (default: standard output)",
+           "write the result to FILE, whole or not at all (- or default: standard output)",
            Proposal::files},
     color = oneOf("auto,always,never", {"--color", "WHEN", &Arguments::color,
             "colours, by default on a terminal, unless NO_COLOR is set"}),
