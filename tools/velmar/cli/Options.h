@@ -33,6 +33,7 @@ struct Member {
   constexpr Member(bool Arguments::*member) : flag(member) {}
 
   bool isGiven(const Arguments& in) const {
+    if (flag != nullptr) return in.*flag;
     return list != nullptr ? !(in.*list).empty() : !(in.*text).empty();
   }
 };
