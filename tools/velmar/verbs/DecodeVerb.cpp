@@ -215,24 +215,22 @@ int run(const Arguments& arguments) {
 }  // namespace
 
 Verb decodeVerb() {
-  return {
-      "decode",
-      "Decodes a dump of a table: address and fields of each entry.",
-      "A dump is raw binary (little-endian, entries one after another), hex text (one entry "
-      "per line, with an optional \"index:\" before it and # comments), the output of xxd, or the "
-      "JSON of this command. In hex text, groups of two digits are bytes and groups of eight "
-      "are 32-bit words; for anything else, and for groups of eight in xxd output, give "
-      "--hex-order. A dump is read as a stream and may be of any size; a line of text or a "
-      "JSON entry may have up to 1 MiB.",
-      {Positionals::table, Positionals::dump},
-      {Options::chip, Options::variant, Options::index, Options::fields, Options::where,
-       Options::nonzero, Options::check, Options::input, Options::hexOrder, Options::stride,
-       Options::first, Options::listFormat, Options::output, Options::color},
-      {"velmar encode VlanEntry --chip 56990_B0 valid=1 stg=5 | velmar decode VlanEntry --chip "
-       "56990_B0",
-       "velmar encode VlanMpls --chip 56980 --index 7 mplsEnable=1 --whole -f raw | velmar "
-       "decode VlanMpls --chip 56980 --nonzero --format jsonl -"},
-      run};
+  return {"decode",
+          "Decodes a dump of a table: address and fields of each entry.",
+          "A dump is raw binary (little-endian, entries one after another), hex text (one entry "
+          "per line), the output of xxd, or the JSON of this command; the manual page, velmar(1), "
+          "lists the notations under INPUT. In hex text, groups of two digits are bytes and groups "
+          "of eight are 32-bit words; for anything else give --hex-order. A dump is read as a "
+          "stream and may be of any size; a line of text or a JSON entry may have up to 1 MiB.",
+          {Positionals::table, Positionals::dump},
+          {Options::chip, Options::variant, Options::index, Options::fields, Options::where,
+           Options::nonzero, Options::check, Options::input, Options::hexOrder, Options::stride,
+           Options::first, Options::listFormat, Options::output, Options::color},
+          {"velmar encode VlanEntry --chip 56990_B0 valid=1 stg=5 | velmar decode VlanEntry --chip "
+           "56990_B0",
+           "velmar encode VlanMpls --chip 56980 --index 7 mplsEnable=1 --whole -f raw | velmar "
+           "decode VlanMpls --chip 56980 --nonzero --format jsonl -"},
+          run};
 }
 
 }  // namespace Tool
