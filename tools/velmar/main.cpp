@@ -25,8 +25,7 @@ int main(int count, char** words) {
     // Names of files may have any bytes.
     std::fprintf(stderr, "velmar: %s\n", printable(failure.what()).c_str());
   } catch (const std::exception&) {
-    std::fputs("velmar: a fault of velmar; please report it, with the command and its input\n",
-               stderr);
+    std::fputs("velmar: internal fault; please report the command and its input\n", stderr);
   }
   return exitFailure;
 }

@@ -29,7 +29,8 @@ std::optional<U64> parseNumber(std::string_view text) {
 }
 
 std::string numberLike(std::string_view typed, U64 number) {
-  const bool isHex = typed.find_first_of("xX") != std::string_view::npos;
+  const bool isHex =
+      typed.find("0x") != std::string_view::npos || typed.find("0X") != std::string_view::npos;
   return isHex ? formatText("0x{:x}", number) : formatText("{}", number);
 }
 
