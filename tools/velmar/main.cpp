@@ -5,6 +5,7 @@
 
 #include "cli/CommandLine.h"
 #include "model/Failure.h"
+#include "model/Text.h"
 #include "output/Output.h"
 #include "verbs/Verbs.h"
 
@@ -20,8 +21,11 @@ int main(int count, char** words) {
     return runCommandLine(verbs, {words + std::min(count, 1), words + count});
   } catch (const std::bad_alloc&) {
     std::fputs("velmar: out of memory; free some and try again\n", stderr);
-  } catch (const std::exception& failure) {
-    std::fprintf(stderr, "velmar: %s\n", failure.what());
+  } catch (const Failure& failure) {
+    // Names of files may have any bytes.
+    std::fprintf(stderr, "velmar: %s\n", printable(failure.what()).c_str());
+  } catch (const std::exception&) {
+    std::fputs("velmar: internal fault; please report the command and its input\n", stderr);
   }
   return exitFailure;
 }

@@ -41,6 +41,10 @@ int runCommandLine(const VerbList& verbs, const std::vector<std::string>& words)
   const std::string& first = words[0];
   const std::vector<std::string> rest(words.begin() + 1, words.end());
   const bool asksForHelp = first == "--help" || first == "-h" || first == "help";
+  const size_t most = first == "help" ? 1 : 0;
+  if ((first == "help" || first == "--version") && rest.size() > most) {
+    fail("unexpected argument {}; leave it out", inQuotes(rest.back()));
+  }
   if (first == "help" && !rest.empty()) return print(helpOf(findVerb(verbs, rest[0])));
   if (asksForHelp) return print(overview(verbs));
   if (first == "--version") return print(formatText("velmar {}\n", VELMAR_VERSION));

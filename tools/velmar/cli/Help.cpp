@@ -37,6 +37,21 @@ const char* const exitCodeText =
     "Exit code: 0 success, or no difference; 1 a difference or a finding; 2 wrong usage, bad input "
     "or a file that cannot be read or written.";
 
+const std::vector<Notation> notations = {
+    {"raw", "binary, little-endian, entries one after another"},
+    {"bytes", "hex text, an entry on each line, in groups of two digits, the first byte first"},
+    {"words", "hex text, an entry on each line, in groups of eight digits, the first word first"},
+    {"0x", "may stand before each group of hex text"},
+    {"index:", "before an entry of hex text, such as 100: or 0x64:, gives its index"},
+    {"#", "begins a comment in hex text; blank lines are skipped"},
+    {"other groups",
+     "give --hex-order, which says what the digits are; without it they are refused"},
+    {"xxd",
+     "its output, with offsets that must follow one another; for groups of eight digits, as "
+     "of xxd -e, give --hex-order"},
+    {"JSON", "what decode prints with --format json or jsonl"},
+};
+
 std::string headingOf(const Option& option) {
   std::string heading = join(split(option.names, ','), ", ");
   if (option.value != nullptr) heading += formatText(" {}", option.value);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "cli/Verb.h"
 
@@ -20,5 +21,13 @@ std::string meaningOf(const Option& option);
 
 extern const char* const purposeText;
 extern const char* const exitCodeText;
+
+/// A way in which dumps are written.
+struct Notation {
+  const char* name;
+  const char* meaning;
+};
+/// What decode reads, for the manual page.
+extern const std::vector<Notation> notations;
 
 }  // namespace Tool

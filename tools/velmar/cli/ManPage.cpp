@@ -50,6 +50,8 @@ std::string manPage(const VerbList& verbs) {
       ".SH DESCRIPTION\n{}\n.SH VERBS\n",
       VELMAR_VERSION, escaped(purposeText));
   for (const VerbName& name : verbs) text += section(name.make());
+  text += ".SH INPUT\nThe notations of dumps that are read:\n";
+  for (const Notation& notation : notations) text += item(notation.name, notation.meaning);
   return text + formatText(".SH EXIT STATUS\n{}\n", escaped(exitCodeText));
 }
 

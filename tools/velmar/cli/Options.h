@@ -33,6 +33,7 @@ struct Member {
   constexpr Member(bool Arguments::*member) : flag(member) {}
 
   bool isGiven(const Arguments& in) const {
+    if (flag != nullptr) return in.*flag;
     return list != nullptr ? !(in.*list).empty() : !(in.*text).empty();
   }
 };
@@ -76,7 +77,7 @@ inline constexpr Option
     chipIfAny{"-c,--chip", "CHIP", &Arguments::chips, "this chip only", Proposal::chips},
     variant{"--variant", "N", &Arguments::variant, "table variant, 0 to 255 (default 0)"},
     output{"-o,--output", "FILE", &Arguments::output,
-           "write the result to FILE, whole or not at all (default: standard output)",
+           "write the result to FILE, whole or not at all (- or default: standard output)",
            Proposal::files},
     color = oneOf("auto,always,never", {"--color", "WHEN", &Arguments::color,
             "colours, by default on a terminal, unless NO_COLOR is set"}),

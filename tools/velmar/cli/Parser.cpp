@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "cli/Effects.h"
 #include "model/Failure.h"
 #include "model/Names.h"
 #include "model/Text.h"
@@ -32,7 +33,8 @@ class Parser {
         takeShort(word);
       }
     }
-    if (!arguments_.help) checkComplete();
+    checkComplete();
+    checkEffects(verb_, arguments_);
     return arguments_;
   }
 
@@ -41,7 +43,9 @@ class Parser {
     if (positional_ == verb_.positionals.size()) {
       fail("unexpected argument {}; {}", inQuotes(word), seeHelp());
     }
-    const Member& member = verb_.positionals[positional_].member;
+    const Positional& positional = verb_.positionals[positional_];
+    if (word.empty()) fail("an empty {} is given; give one, or leave it out", positional.value);
+    const Member& member = positional.member;
     if (member.list != nullptr) return (arguments_.*member.list).push_back(word);
     arguments_.*member.text = word;
     ++positional_;
@@ -89,13 +93,16 @@ class Parser {
   }
 
   void put(const Option& option, const std::string& value) {
+    if (value.empty()) {
+      fail("{} is given an empty {}; give one, or leave it out", option.longName(), option.value);
+    }
     if (option.member.list != nullptr) return (arguments_.*option.member.list).push_back(value);
     if (std::count(given_.begin(), given_.end(), &option) != 0) {
       fail("{} is given twice; give it once", option.longName());
     }
     given_.push_back(&option);
     const std::vector<std::string> choices = split(option.choices, ',');
-    const bool isFree = option.choices[0] == '\0' || value.empty();
+    const bool isFree = option.choices[0] == '\0';
     if (!isFree && std::count(choices.begin(), choices.end(), value) == 0) {
       fail("{} {}: no such choice; give {}", option.longName(), inQuotes(value),
            join(choices, ", "));

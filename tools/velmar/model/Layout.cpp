@@ -50,14 +50,22 @@ const FieldPlace& Layout::find(std::string_view name) const {
   for (const FieldPlace& place : fields_) {
     if (name == place.name()) return place;
   }
-  const U32 index = findField(table_, name);
-  const Catalogue::Field field = table_.field(index);
+  const std::optional<U32> index = findField(table_, name);
+  if (!index) failUnknown(name);
+  const Catalogue::Field field = table_.field(*index);
   for (const FieldPlace& place : fields_) {
     if (place.field.id == field.id) return place;
   }
-  const std::vector<std::string> chips = chipsOf(table_, index);
+  const std::vector<std::string> chips = chipsOf(table_, *index);
   const std::string remedy = chips.empty() ? "no chip has it" : "it exists on " + join(chips, ", ");
   fail("{} has no field {} on {}; {}", this->name(), field.accessor, chip_.name, remedy);
+}
+
+void Layout::failUnknown(std::string_view name) const {
+  std::vector<std::string> names;
+  for (const FieldPlace& place : fields_) names.emplace_back(place.name());
+  fail("{} has no field {}; {}\"velmar layout {} --chip {}\" lists the fields", this->name(),
+       inQuotes(name), didYouMean(name, names), this->name(), chip_.name);
 }
 
 bool Layout::hasReservedBits(const U8* entry) const {

@@ -66,6 +66,8 @@ class Layout {
   FieldPlace wholeEntry() const;
 
  private:
+  [[noreturn]] void failUnknown(std::string_view name) const;
+
   Catalogue::Table table_;
   Catalogue::Chip chip_;
   U8 variant_;

@@ -58,9 +58,10 @@ std::string simplified(std::string_view name) {
 std::string didYouMean(std::string_view name, const std::vector<std::string>& candidates) {
   constexpr size_t longest = 80;
   constexpr size_t suggestions = 3;
+  constexpr size_t shortest = 3;
   const std::string simple = simplified(name.substr(0, longest));
-  if (simple.empty()) return "";
-  const size_t farthest = std::max<size_t>(2, simple.size() / 3);
+  if (simple.size() < shortest) return "";
+  const size_t farthest = std::max<size_t>(1, simple.size() / 3);
   std::vector<std::pair<size_t, std::string>> near;
   for (const std::string& candidate : candidates) {
     const std::string other = simplified(candidate);
@@ -163,15 +164,14 @@ Catalogue::Table findTable(std::string_view name) {
        didYouMean(name, tableNames()));
 }
 
-U32 findField(const Catalogue::Table& table, std::string_view name) {
+std::optional<U32> findField(const Catalogue::Table& table, std::string_view name) {
   const std::string simple = simplified(name);
   const std::optional<U64> id = parseNumber(name);
   for (U32 i = 0; i < table.fieldCount(); ++i) {
     const Catalogue::Field field = table.field(i);
     if (id == field.id || simple == simplified(field.accessor)) return i;
   }
-  fail("{} has no field {}; {}\"velmar fields\" lists the fields", table.name(), inQuotes(name),
-       didYouMean(name, fieldNames(table)));
+  return std::nullopt;
 }
 
 }  // namespace Tool

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,12 +21,12 @@ Catalogue::Chip findChip(std::string_view name);
 Catalogue::Table findTable(std::string_view name);
 
 /// Index of the field of a class, by accessor, hardware name or identifier.
-U32 findField(const Catalogue::Table& table, std::string_view name);
+std::optional<U32> findField(const Catalogue::Table& table, std::string_view name);
 
 /// Lower case, without underscores and hyphens.
 std::string simplified(std::string_view name);
 
-/// "did you mean A, B? " if candidates resemble `name`, otherwise nothing.
+/// "did you mean A, B? " if candidates are near misses of `name`, otherwise nothing.
 std::string didYouMean(std::string_view name, const std::vector<std::string>& candidates);
 
 std::vector<Catalogue::Chip> allChips();

@@ -2,6 +2,8 @@
 
 #include <charconv>
 
+#include "model/Formatting.h"
+
 namespace Tool {
 
 bool isBlank(char letter) { return letter == ' ' || letter == '\t' || letter == '\r'; }
@@ -24,6 +26,12 @@ std::optional<U64> parseNumber(std::string_view text) {
   const auto result = std::from_chars(text.data(), end, value, base);
   if (result.ec != std::errc{} || result.ptr != end) return std::nullopt;
   return value;
+}
+
+std::string numberLike(std::string_view typed, U64 number) {
+  const bool isHex =
+      typed.find("0x") != std::string_view::npos || typed.find("0X") != std::string_view::npos;
+  return isHex ? formatText("0x{:x}", number) : formatText("{}", number);
 }
 
 std::string_view trim(std::string_view text) {

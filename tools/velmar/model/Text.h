@@ -27,6 +27,9 @@ int hexDigit(char letter);
 /// Cuts a text into lines of at most `width` columns, preferably after a blank or comma.
 std::vector<std::string> wrap(const std::string& text, size_t width);
 
+/// A number in decimal, or in hexadecimal where `typed` has a hexadecimal number.
+std::string numberLike(std::string_view typed, U64 number);
+
 /// A text with "?" in place of each byte that is not printable ASCII.
 std::string printable(std::string_view text);
 

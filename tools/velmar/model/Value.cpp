@@ -7,14 +7,27 @@
 namespace Tool {
 namespace {
 
+bool isHexNumber(std::string_view text) {
+  return text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X') &&
+         text.find_first_not_of("0123456789abcdefABCDEF", 2) == std::string_view::npos;
+}
+
 [[noreturn]] void failTooLarge(const FieldPlace& place, std::string_view text) {
   const std::string digits = formatText("{:x}", (1U << ((place.width - 1) % 4 + 1)) - 1) +
                              std::string((place.width - 1) / 4, 'f');
-  fail("{}: value {} does not fit; the field has {} bit{}, its largest value is 0x{}", place.name(),
-       inQuotes(text), place.width, place.width == 1 ? "" : "s", digits);
+  const bool isHex = place.width > 64 || text.find_first_of("xX") != std::string_view::npos;
+  const std::string largest =
+      isHex ? "0x" + digits : formatText("{}", ~U64{0} >> (64 - place.width));
+  fail("{}: value {} does not fit; the field has {} bit{}, its largest value is {}", place.name(),
+       inQuotes(text), place.width, place.width == 1 ? "" : "s", largest);
 }
 
 U64 parsePort(const FieldPlace& place, std::string_view text) {
+  // Alone it would set bits: nobody can tell what is meant.
+  if (isHexNumber(text)) {
+    fail("{}: {} is a hexadecimal number in a list of ports; give ports in decimal, or one number",
+         place.name(), inQuotes(text));
+  }
   const std::optional<U64> port = parseNumber(text);
   if (!port) {
     fail("{}: {} is not a port; give ports such as 0-3,17, \"none\", or a hexadecimal number",
@@ -25,7 +38,7 @@ U64 parsePort(const FieldPlace& place, std::string_view text) {
 
 Value parsePorts(const FieldPlace& place, std::string_view text) {
   Value value(place.width);
-  if (text.empty() || text == "none") return value;
+  if (text == "none") return value;
   for (const std::string& part : split(text, ',')) {
     const size_t dash = part.find('-');
     const U64 first = parsePort(place, trim(std::string_view(part).substr(0, dash)));
@@ -40,11 +53,6 @@ Value parsePorts(const FieldPlace& place, std::string_view text) {
     for (U64 port = first; port < last; ++port) addPort(place, value, port);
   }
   return value;
-}
-
-bool isHexNumber(std::string_view text) {
-  return text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X') &&
-         text.find_first_not_of("0123456789abcdefABCDEF", 2) == std::string_view::npos;
 }
 
 }  // namespace

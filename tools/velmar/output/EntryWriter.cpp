@@ -7,11 +7,15 @@
 namespace Tool {
 namespace {
 
-/// One row per entry; numbers in decimal where spreadsheets keep them exact, bitmaps as ports.
+/// One row per entry; numbers in decimal where spreadsheets keep them exact, bitmaps as ports. Where
+/// all fields are shown, the last column has the reserved bits that are set.
 class CsvWriter : public EntryWriter {
  public:
   CsvWriter(Output& output, const Layout& layout, std::vector<FieldPlace> fields)
-      : layout_(layout), rows_(output, columns(fields)), fields_(std::move(fields)) {}
+      : layout_(layout),
+        showsReservedBits_(fields.size() == layout.fields().size()),
+        rows_(output, columns(fields, showsReservedBits_)),
+        fields_(std::move(fields)) {}
 
   void write(const Entry& entry) override {
     const bool isInTable = entry.index < layout_.indexCount();
@@ -23,17 +27,23 @@ class CsvWriter : public EntryWriter {
     for (const FieldPlace& place : fields_) {
       rows_.field(plainText(place, Value::read(place, entry.bytes, layout_.entryBytes())));
     }
+    if (showsReservedBits_) {
+      rows_.field(layout_.hasReservedBits(entry.bytes) ? reservedBits(layout_, entry.bytes) : "");
+    }
     rows_.endRow();
   }
 
  private:
-  static std::vector<std::string> columns(const std::vector<FieldPlace>& fields) {
+  static std::vector<std::string> columns(const std::vector<FieldPlace>& fields,
+                                          bool showsReservedBits) {
     std::vector<std::string> names = {"index", "address", "accessType", "block"};
     for (const FieldPlace& place : fields) names.emplace_back(place.name());
+    if (showsReservedBits) names.emplace_back("outsideFields");
     return names;
   }
 
   const Layout& layout_;
+  bool showsReservedBits_;
   CsvRows rows_;
   std::vector<FieldPlace> fields_;
 };

@@ -32,12 +32,9 @@ U32 terminalColumns(int descriptor) {
   return usual;
 }
 
-/// A link stays a link: the file that it points to is replaced.
-void followLinks(std::string& file) {
-  char* target = realpath(file.c_str(), nullptr);
-  if (target == nullptr) return;
-  file = target;
-  std::free(target);
+/// A name beside the file that fits however long the name of the file is.
+std::string temporaryName(const std::string& file) {
+  return file.substr(0, file.rfind('/') + 1) + ".velmar-XXXXXX";
 }
 
 bool wantsColor(const std::string& color, bool terminal) {
@@ -68,7 +65,7 @@ Format formatOf(const std::string& name) {
 }
 
 Output::Output(const std::string& file, const std::string& color)
-    : file_(file), descriptor_(STDOUT_FILENO) {
+    : file_(file == "-" ? "" : file), descriptor_(STDOUT_FILENO) {
   if (!file_.empty()) openFile();
   terminal_ = isatty(descriptor_) == 1;
   colored_ = wantsColor(color, terminal_);
@@ -83,27 +80,34 @@ Output::~Output() {
 void Output::openFile() {
   struct stat status;
   const bool exists = stat(file_.c_str(), &status) == 0;
-  if (exists) followLinks(file_);
+  if (!exists && errno != ENOENT) failOpening();
+  if (exists) {
+    // A link stays a link: the file that it points to is replaced.
+    char* target = realpath(file_.c_str(), nullptr);
+    if (target == nullptr) failOpening();
+    file_ = target;
+    std::free(target);
+  }
   if (exists && !S_ISREG(status.st_mode)) {
     // A device or pipe cannot be replaced: the text is written to it directly.
     descriptor_ = open(file_.c_str(), O_WRONLY | O_CLOEXEC);
   } else {
-    std::string name = file_ + ".XXXXXX";
-    if (name.size() >= sizeof(partialFile)) {
-      fail("{}: name too long; choose a shorter one", inQuotes(file_));
-    }
+    std::string name = temporaryName(file_);
     descriptor_ = mkostemp(name.data(), O_CLOEXEC);
     if (descriptor_ >= 0) {
       partial_ = name;
+      // A path that the system takes fits.
       std::strcpy(partialFile, name.c_str());
       const mode_t mask = umask(0);
       umask(mask);
       fchmod(descriptor_, exists ? status.st_mode & 07777 : 0666 & ~mask);
     }
   }
-  if (descriptor_ < 0) {
-    fail("{}: cannot write: {}; choose another file with -o", file_, std::strerror(errno));
-  }
+  if (descriptor_ < 0) failOpening();
+}
+
+void Output::failOpening() const {
+  fail("{}: cannot write: {}; choose another file with -o", file_, std::strerror(errno));
 }
 
 void Output::failWriting() const {
@@ -148,6 +152,7 @@ void installSignalHandlers() {
     // A signal that the caller ignores, as nohup does, stays ignored.
     if (std::signal(signal, endQuietly) == SIG_IGN) std::signal(signal, SIG_IGN);
   }
+  std::signal(SIGXFSZ, SIG_IGN);
   // Whoever started the command may have switched this off.
   std::signal(SIGPIPE, SIG_DFL);
 }

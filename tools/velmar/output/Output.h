@@ -18,7 +18,7 @@ Format formatOf(const std::string& name);
 /// it is complete. Text is collected and written in large pieces.
 class Output {
  public:
-  /// `file` empty: standard output. `color` is auto, always or never.
+  /// `file` empty or "-": standard output. `color` is auto, always or never.
   Output(const std::string& file, const std::string& color);
   ~Output();
   Output(const Output&) = delete;
@@ -48,7 +48,8 @@ class Output {
   static constexpr size_t flushSize = 1U << 16;
 
   void openFile();
-  void failWriting() const;
+  [[noreturn]] void failOpening() const;
+  [[noreturn]] void failWriting() const;
 
   std::string file_;
   std::string partial_;  ///< name of the file while it is incomplete; empty: none
@@ -60,7 +61,7 @@ class Output {
 };
 
 /// Ctrl-C, a hang-up or a closed pipe ends the command at once, without a message, and removes an
-/// incomplete file.
+/// incomplete file. A file that grows too large is an error like a full disk.
 void installSignalHandlers();
 
 }  // namespace Tool

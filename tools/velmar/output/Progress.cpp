@@ -6,12 +6,16 @@
 
 namespace Tool {
 
-Progress::Progress() : enabled_(isatty(STDERR_FILENO) == 1) {
+Progress::Progress(const Output& output)
+    : enabled_(!output.isTerminal() && isatty(STDERR_FILENO) == 1) {
   if (enabled_) next_ = Clock::now() + std::chrono::seconds(1);
 }
 
-Progress::~Progress() {
+Progress::~Progress() { clear(); }
+
+void Progress::clear() {
   if (shown_) std::fputs("\r\033[K", stderr);
+  shown_ = false;
 }
 
 void Progress::show() {

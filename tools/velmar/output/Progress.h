@@ -3,17 +3,21 @@
 #include <chrono>
 
 #include "AsicUtils/Types.h"
+#include "output/Output.h"
 
 namespace Tool {
 
-/// A counter on standard error; it appears on a terminal only, and only after a second.
+/// A counter on standard error; it appears on a terminal only, only after a second, and not where the
+/// result appears on a terminal too.
 class Progress {
  public:
-  Progress();
+  explicit Progress(const Output& output);
   ~Progress();
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
 
+  /// Removes the counter, so that the line is free for a note.
+  void clear();
   /// One more entry is done.
   void step() {
     if ((++count_ & 0xfff) == 0 && enabled_) show();

@@ -1,4 +1,5 @@
 #include "model/Failure.h"
+#include "model/Text.h"
 #include "output/Listing.h"
 #include "verbs/Target.h"
 #include "verbs/Verbs.h"
@@ -58,20 +59,42 @@ void addMatches(Listing& listing, const Layout& layout, U32 address) {
   }
 }
 
+/// The entries of a table, or of all tables of the chip.
+Listing matchesOf(const std::vector<Catalogue::Table>& tables, const Arguments& arguments) {
+  const U64 address = numberOf("--find", arguments.find, 0xffffffff, 0);
+  Listing listing = newListing();
+  for (const Catalogue::Table& table : tables) {
+    addMatches(listing, Layout(table, chipOf(arguments), variantOf(arguments)),
+               static_cast<U32>(address));
+  }
+  return listing;
+}
+
+std::vector<Catalogue::Table> tablesOfChip(const Arguments& arguments) {
+  return tablesOn(chipOf(arguments), variantOf(arguments));
+}
+
 Listing entriesAtAddress(const Arguments& arguments) {
   if (!arguments.index.empty() || !arguments.array.empty() || !arguments.identifier.empty()) {
     fail("--find excludes --index, --array and --identifier; give --find alone");
   }
-  const U64 address = numberOf("--find", arguments.find, 0xffffffff, 0);
-  const Catalogue::Chip chip = chipOf(arguments);
-  const U8 variant = variantOf(arguments);
-  Listing listing = newListing();
   const bool isNamed = !arguments.table.empty();
-  for (const Catalogue::Table& table :
-       isNamed ? std::vector{findTable(arguments.table)} : tablesOn(chip, variant)) {
-    addMatches(listing, Layout(table, chip, variant), static_cast<U32>(address));
+  return matchesOf(isNamed ? std::vector{findTable(arguments.table)} : tablesOfChip(arguments),
+                   arguments);
+}
+
+/// Says that nothing has the address or, where the table is named, who else has it.
+void noteNotFound(const Arguments& arguments) {
+  std::vector<std::string> others;
+  for (const Catalogue::Table& table : tablesOfChip(arguments)) {
+    if (!matchesOf({table}, arguments).isEmpty()) others.emplace_back(table.name());
   }
-  return listing;
+  const std::string text =
+      others.empty()
+          ? formatText("no table of the chip has an entry at {}", arguments.find)
+          : formatText("{} has no entry at {}, but {} has; leave out the table to see it",
+                       findTable(arguments.table).name(), arguments.find, join(others, " and "));
+  std::fprintf(stderr, "velmar: %s\n", text.c_str());
 }
 
 int run(const Arguments& arguments) {
@@ -83,7 +106,7 @@ int run(const Arguments& arguments) {
   }
   output.finish();
   if (!listing.isEmpty()) return exitSuccess;
-  std::fprintf(stderr, "velmar: no table of the chip has an entry at %s\n", arguments.find.c_str());
+  noteNotFound(arguments);
   return exitFinding;
 }
 

@@ -60,7 +60,7 @@ class Selection {
         [&entry](const Condition& condition) { return condition.holdsFor(entry.bytes); });
   }
   U64 last() const { return indexes_.last(); }
-  bool isByIndex() const { return !indexes_.isAll(); }
+  bool mayBeEmpty() const { return !indexes_.isAll() || !conditions_.empty(); }
 
  private:
   bool nonzero_;
@@ -82,9 +82,12 @@ class Walk {
   Walk(const Arguments& arguments, const Layout& layout, Output& output)
       : layout_(layout),
         selection_(arguments, layout),
-        reader_(openEntries(
-            std::make_unique<ByteStream>(onlyFile(arguments), [&output] { output.flush(); }),
-            layout, inputOptionsOf(arguments))) {}
+        reader_(openEntries(std::make_unique<ByteStream>(onlyFile(arguments),
+                                                         [this, &output] {
+                                                           if (selected_ != 0) output.flush();
+                                                         }),
+                            layout, inputOptionsOf(arguments))),
+        progress_(output) {}
 
   bool next(Entry& entry) {
     while (reader_->next(entry)) {
@@ -98,24 +101,33 @@ class Walk {
     return false;
   }
 
+  /// Fails for a document without entries: whoever reads it cannot tell why.
+  void checkAny() const {
+    if (selected_ == 0 && selection_.mayBeEmpty()) {
+      fail("no entry of the dump is selected; check --index and --where");
+    }
+  }
+
   /// Notes what the result does not show.
-  void report() const {
+  void report() {
+    progress_.clear();
     if (goesBeyond_) {
       std::fprintf(stderr,
                    "velmar: note: the dump extends beyond the end of %s on %s (%u entries)\n",
                    layout_.name(), layout_.chip().name, layout_.indexCount());
     }
-    if (selected_ == 0 && selection_.isByIndex()) {
-      std::fprintf(stderr, "velmar: note: no entry of the dump has an index of --index\n");
+    if (selected_ == 0 && selection_.mayBeEmpty()) {
+      std::fprintf(stderr,
+                   "velmar: note: no entry of the dump is selected; check --index and --where\n");
     }
   }
 
  private:
   const Layout& layout_;
   Selection selection_;
+  U64 selected_ = 0;
   std::unique_ptr<EntryReader> reader_;
   Progress progress_;
-  U64 selected_ = 0;
   bool goesBeyond_ = false;
 };
 
@@ -125,6 +137,7 @@ int decode(const Arguments& arguments, const Layout& layout, Output& output) {
   const auto writer =
       makeEntryWriter(output, layout, std::move(fields), formatOf(arguments.format));
   for (Entry entry; walk.next(entry); output.flushIfLarge()) writer->write(entry);
+  if (formatOf(arguments.format) == Format::json) walk.checkAny();
   writer->end();
   output.finish();
   walk.report();
@@ -202,24 +215,22 @@ int run(const Arguments& arguments) {
 }  // namespace
 
 Verb decodeVerb() {
-  return {
-      "decode",
-      "Decodes a dump of a table: address and fields of each entry.",
-      "A dump is raw binary (little-endian, entries one after another), hex text (one entry "
-      "per line, with an optional \"index:\" before it and # comments), the output of xxd, or the "
-      "JSON of this command. In hex text, groups of two digits are bytes and groups of eight "
-      "are 32-bit words; for anything else, and for groups of eight in xxd output, give "
-      "--hex-order. A dump is read as a stream and may be of any size; a line of text or a "
-      "JSON entry may have up to 1 MiB.",
-      {Positionals::table, Positionals::dump},
-      {Options::chip, Options::variant, Options::index, Options::fields, Options::where,
-       Options::nonzero, Options::check, Options::input, Options::hexOrder, Options::stride,
-       Options::first, Options::listFormat, Options::output, Options::color},
-      {"velmar encode VlanEntry --chip 56990_B0 valid=1 stg=5 | velmar decode VlanEntry --chip "
-       "56990_B0",
-       "velmar encode VlanMpls --chip 56980 --index 7 mplsEnable=1 --whole -f raw | velmar "
-       "decode VlanMpls --chip 56980 --nonzero --format jsonl -"},
-      run};
+  return {"decode",
+          "Decodes a dump of a table: address and fields of each entry.",
+          "A dump is raw binary (little-endian, entries one after another), hex text (one entry "
+          "per line), the output of xxd, or the JSON of this command; the manual page, velmar(1), "
+          "lists the notations under INPUT. In hex text, groups of two digits are bytes and groups "
+          "of eight are 32-bit words; for anything else give --hex-order. A dump is read as a "
+          "stream and may be of any size; a line of text or a JSON entry may have up to 1 MiB.",
+          {Positionals::table, Positionals::dump},
+          {Options::chip, Options::variant, Options::index, Options::fields, Options::where,
+           Options::nonzero, Options::check, Options::input, Options::hexOrder, Options::stride,
+           Options::first, Options::listFormat, Options::output, Options::color},
+          {"velmar encode VlanEntry --chip 56990_B0 valid=1 stg=5 | velmar decode VlanEntry --chip "
+           "56990_B0",
+           "velmar encode VlanMpls --chip 56980 --index 7 mplsEnable=1 --whole -f raw | velmar "
+           "decode VlanMpls --chip 56980 --nonzero --format jsonl -"},
+          run};
 }
 
 }  // namespace Tool

@@ -205,8 +205,11 @@ class Diff {
         new_(arguments.files[1], layout, inputOptionsOf(arguments)),
         comparison_(arguments, layout),
         output_(arguments.output, arguments.color),
-        report_(output_, layout, formatOf(arguments.format)) {
-    if (!arguments.index.empty()) selected_ = IndexSet(arguments.index);
+        report_(output_, layout, formatOf(arguments.format)),
+        index_(arguments.index),
+        progress_(output_) {
+    if (!index_.empty()) selected_ = IndexSet(index_);
+    hasCompared_ = selected_.isAll();
   }
 
   int run() {
@@ -214,6 +217,9 @@ class Diff {
       compareNext();
       ++compared_;
       progress_.step();
+    }
+    if (!hasCompared_) {
+      fail("nothing was compared: no entry has an index in {}; check --index", index_);
     }
     if (quiet_) return differing_ != 0 ? exitFinding : exitSuccess;
     report_.end(differing_, compared_);
@@ -227,10 +233,11 @@ class Diff {
         old_.hasEntry() && (!new_.hasEntry() || old_.entry().index <= new_.entry().index);
     const bool takesNew =
         new_.hasEntry() && (!old_.hasEntry() || new_.entry().index <= old_.entry().index);
+    const U64 index = takesOld ? old_.entry().index : new_.entry().index;
+    hasCompared_ = hasCompared_ || selected_.has(index);
     if (takesOld && takesNew) {
       comparePair();
     } else {
-      const U64 index = takesOld ? old_.entry().index : new_.entry().index;
       if (selected_.has(index)) reportOnlyIn(index, takesOld ? "only in OLD" : "only in NEW");
     }
     if (takesOld) old_.take();
@@ -265,10 +272,12 @@ class Diff {
   EntryComparison comparison_;
   Output output_;
   Report report_;
+  const std::string& index_;
   IndexSet selected_;
   Progress progress_;
   U64 differing_ = 0;
   U64 compared_ = 0;
+  bool hasCompared_ = false;  ///< where --index is given: an entry that it selects
 };
 
 int run(const Arguments& arguments) {

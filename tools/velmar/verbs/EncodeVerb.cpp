@@ -4,6 +4,7 @@
 #include "model/EntryBuilder.h"
 #include "model/Failure.h"
 #include "model/IndexSet.h"
+#include "model/Text.h"
 #include "output/EntryWriter.h"
 #include "output/Progress.h"
 #include "verbs/Target.h"
@@ -77,7 +78,10 @@ class Values {
     auto input =
         std::make_unique<JsonInput>(std::make_unique<ByteStream>(file, nullptr), layout_, 0);
     JsonInput::Object object;
-    if (!input->next(object)) return;
+    if (!input->next(object)) {
+      fail("{}: no entry and no values; give one object of values, or the JSON of decode",
+           input->name());
+    }
     if (!object.index) {
       common_.insert(common_.end(), object.assignments.begin(), object.assignments.end());
       if (input->next(object)) {
@@ -107,8 +111,9 @@ class Encoder {
         layout_(layout),
         output_(output),
         values_(arguments, layout),
-        builder_(layout) {
-    if (!arguments.index.empty()) selected_ = IndexSet(arguments.index);
+        builder_(layout),
+        progress_(output) {
+    if (!arguments.index.empty()) select();
     const Format format = arguments.format.empty() ? Format::hex : formatOf(arguments.format);
     const bool isBytes = format == Format::hex || format == Format::words || format == Format::raw;
     const bool withIndex =
@@ -128,14 +133,32 @@ class Encoder {
     } else {
       makeSelected();
     }
+    if (!changed_ && !selected_.isAll()) {
+      fail("{}: no entry has an index in {}; check --index",
+           arguments_.base.empty() ? values_.place() : arguments_.base, arguments_.index);
+    }
     writer_->end();
     output_.finish();
   }
 
  private:
+  void select() {
+    selected_ = IndexSet(arguments_.index);
+    const bool choosesChanges = !arguments_.base.empty() || values_.hasEntries();
+    if (choosesChanges && values_.common().empty()) {
+      fail("--index has no effect without FIELD=VALUE; give both");
+    }
+    if (selected_.last() >= layout_.indexCount()) {
+      fail("--index {}: {} on {} has the entries {} to {}; give one of them",
+           numberLike(arguments_.index, selected_.last()), layout_.name(), layout_.chip().name,
+           numberLike(arguments_.index, 0), numberLike(arguments_.index, layout_.indexCount() - 1));
+    }
+  }
+
   void write(U64 index) {
     writer_->write({index, builder_.bytes().data()});
-    output_.flushIfLarge();
+    // Nothing is shown before it is known that --index selects something.
+    if (changed_ || selected_.isAll()) output_.flushIfLarge();
     progress_.step();
   }
 
@@ -157,10 +180,6 @@ class Encoder {
   }
 
   void makeSelected() {
-    if (!selected_.isAll() && selected_.last() >= layout_.indexCount()) {
-      fail("--index {}: {} on {} has the entries 0 to {}; give one of them", selected_.last(),
-           layout_.name(), layout_.chip().name, layout_.indexCount() - 1);
-    }
     const U64 last = selected_.isAll() ? 0 : selected_.last();
     for (U64 index = selected_.first(); index <= last; ++index) {
       if (!selected_.has(index)) continue;
@@ -200,9 +219,6 @@ class Encoder {
       fail("{}: entry {} is not in {}; give entries of the base only, in ascending order",
            values_.place(), *values_.object()->index, arguments_.base);
     }
-    if (!changed_ && !selected_.isAll()) {
-      fail("{}: no entry has an index in {}; check --index", arguments_.base, arguments_.index);
-    }
   }
 
   void setObjectsOf(U64 index) {
@@ -225,7 +241,7 @@ class Encoder {
 
 int run(const Arguments& arguments) {
   const Layout layout = layoutOf(arguments);
-  Output output(arguments.output, arguments.color);
+  Output output(arguments.output, "never");
   Encoder(arguments, layout, output).run();
   return exitSuccess;
 }
@@ -242,7 +258,7 @@ Verb encodeVerb() {
           {Positionals::table, Positionals::assignments},
           {Options::chip, Options::variant, Options::base, Options::changeIndex, Options::whole,
            Options::input, Options::hexOrder, Options::stride, Options::first,
-           Options::format("hex,words,raw,json,jsonl"), Options::output, Options::color},
+           Options::format("hex,words,raw,json,jsonl"), Options::output},
           {"velmar encode VlanEntry --chip BCM56960_A0 valid=1 fidId=100 portBitmap=0-3,17",
            "velmar encode VlanEntry --chip 56960 valid=1 | velmar encode VlanEntry --chip 56960 "
            "--base - stg=0x1f"},

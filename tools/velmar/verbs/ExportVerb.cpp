@@ -87,7 +87,7 @@ int run(const Arguments& arguments) {
   for (const Catalogue::Table& table : tablesOf(arguments, chips)) {
     document["tables"].push_back(tableAsJson(table, chips, variantOf(arguments)));
   }
-  Output output(arguments.output, arguments.color);
+  Output output(arguments.output, "never");
   output.print("{}\n", document.dump(1));
   output.finish();
   return exitSuccess;
@@ -102,7 +102,7 @@ Verb exportVerb() {
       "docs/schema/catalogue.schema.json of the project describes the document. Its \"version\" "
       "changes only when readers must change.",
       {Positionals::tableIfAny},
-      {Options::chipIfAny, Options::variant, Options::output, Options::color},
+      {Options::chipIfAny, Options::variant, Options::output},
       {"velmar export VlanEntry --chip BCM56990_B0", "velmar export --chip BCM56470_A0"},
       run};
 }

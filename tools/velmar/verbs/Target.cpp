@@ -18,8 +18,8 @@ U64 numberOf(const char* option, const std::string& text, U64 largest, U64 absen
   if (text.empty()) return absent;
   const std::optional<U64> number = parseNumber(text);
   if (!number || *number > largest) {
-    fail("{} {}: not a number from 0 to {}; give it in decimal, or in hexadecimal after 0x", option,
-         inQuotes(text), largest);
+    fail("{} {}: not a number from {} to {}; give it in decimal, or in hexadecimal after 0x",
+         option, inQuotes(text), numberLike(text, 0), numberLike(text, largest));
   }
   return *number;
 }

@@ -1,0 +1,60 @@
+#include "cli/Effects.h"
+
+#include <algorithm>
+
+#include "model/Failure.h"
+#include "model/Text.h"
+
+namespace Tool {
+namespace {
+
+/// Options that change nothing where a condition holds.
+struct Rule {
+  const char* options;  ///< long names, separated by commas
+  bool (*holds)(const Arguments& arguments);
+  const char* when;  ///< with a remedy
+};
+
+// clang-format off
+constexpr Rule rules[] = {
+    {"--format,--output,--color", [](const Arguments& a) { return a.quiet; },
+     "with --quiet; give one of them"},
+    {"--fields,--color", [](const Arguments& a) { return a.check; },
+     "with --check; give one of them"},
+    {"--color", [](const Arguments& a) { return !a.format.empty() && a.format != "table"; },
+     "with a --format for programs; leave it out"},
+    {"--variant", [](const Arguments& a) { return a.chips.empty(); },
+     "without --chip; give both"},
+    {"--hex-order", [](const Arguments& a) { return a.input == "raw" || a.input == "json"; },
+     "with --input raw or json; give one of them"},
+    {"--stride", [](const Arguments& a) { return a.input == "json"; },
+     "with --input json; give one of them"},
+};
+
+/// A verb with --base reads a dump only there.
+constexpr Rule withoutBase = {
+    "--input,--hex-order,--stride,--first", [](const Arguments& a) { return a.base.empty(); },
+    "without --base; give both"};
+// clang-format on
+
+void apply(const Rule& rule, const Verb& verb, const Arguments& arguments) {
+  if (!rule.holds(arguments)) return;
+  const std::vector<std::string> names = split(rule.options, ',');
+  for (const Option& option : verb.options) {
+    const bool isMeant = std::count(names.begin(), names.end(), option.longName()) != 0;
+    if (!isMeant || !option.member.isGiven(arguments)) continue;
+    fail("{} has no effect {}", option.longName(), rule.when);
+  }
+}
+
+}  // namespace
+
+void checkEffects(const Verb& verb, const Arguments& arguments) {
+  for (const Rule& rule : rules) apply(rule, verb, arguments);
+  const bool hasBase =
+      std::any_of(verb.options.begin(), verb.options.end(),
+                  [](const Option& option) { return option.longName() == "--base"; });
+  if (hasBase) apply(withoutBase, verb, arguments);
+}
+
+}  // namespace Tool
