@@ -121,8 +121,12 @@ std::string reasonOf(const json::exception& error) {
 
 class JsonReader : public EntryReader {
  public:
-  JsonReader(std::unique_ptr<ByteStream> stream, const Layout& layout, U64 first)
-      : input_(std::move(stream), layout, first), builder_(layout) {}
+  JsonReader(std::unique_ptr<ByteStream> stream, const Layout& layout, const InputOptions& options)
+      : EntryReader(nullptr, layout, options),
+        input_(std::move(stream), layout, options.first),
+        builder_(layout) {
+    if (options.bigEndian) fail("--byte-order big does not apply to JSON; leave it out");
+  }
 
   bool read(Entry& entry) override {
     JsonInput::Object object;
@@ -145,6 +149,8 @@ class JsonReader : public EntryReader {
   }
 
  private:
+  const std::string& name() const override { return input_.name(); }
+
   JsonInput input_;
   EntryBuilder builder_;
 };
@@ -182,7 +188,7 @@ bool JsonInput::next(Object& object) {
 
 std::unique_ptr<EntryReader> openJson(std::unique_ptr<ByteStream> stream, const Layout& layout,
                                       const InputOptions& options) {
-  return std::make_unique<JsonReader>(std::move(stream), layout, options.first);
+  return std::make_unique<JsonReader>(std::move(stream), layout, options);
 }
 
 }  // namespace Tool

@@ -213,8 +213,8 @@ Verb decodeVerb() {
       "JSON entry may have up to 1 MiB.",
       {Positionals::table, Positionals::dump},
       {Options::chip, Options::variant, Options::index, Options::fields, Options::where,
-       Options::nonzero, Options::check, Options::input, Options::hexOrder, Options::stride,
-       Options::first, Options::listFormat, Options::output, Options::color},
+       Options::nonzero, Options::check, Options::input, Options::hexOrder, Options::byteOrder,
+       Options::stride, Options::first, Options::listFormat, Options::output, Options::color},
       {"velmar encode VlanEntry --chip 56990_B0 valid=1 stg=5 | velmar decode VlanEntry --chip "
        "56990_B0",
        "velmar encode VlanMpls --chip 56980 --index 7 mplsEnable=1 --whole -f raw | velmar "
