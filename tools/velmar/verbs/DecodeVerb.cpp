@@ -80,8 +80,7 @@ std::string onlyFile(const Arguments& arguments) {
 class Walk {
  public:
   Walk(const Arguments& arguments, const Layout& layout, Output& output)
-      : layout_(layout),
-        selection_(arguments, layout),
+      : selection_(arguments, layout),
         reader_(openEntries(
             std::make_unique<ByteStream>(onlyFile(arguments), [&output] { output.flush(); }),
             layout, inputOptionsOf(arguments))) {}
@@ -92,7 +91,6 @@ class Walk {
       if (entry.index > selection_.last() && reader_->isAscending()) break;
       if (!selection_.has(entry)) continue;
       ++selected_;
-      goesBeyond_ = goesBeyond_ || entry.index >= layout_.indexCount();
       return true;
     }
     return false;
@@ -100,23 +98,16 @@ class Walk {
 
   /// Notes what the result does not show.
   void report() const {
-    if (goesBeyond_) {
-      std::fprintf(stderr,
-                   "velmar: note: the dump extends beyond the end of %s on %s (%u entries)\n",
-                   layout_.name(), layout_.chip().name, layout_.indexCount());
-    }
     if (selected_ == 0 && selection_.isByIndex()) {
       std::fprintf(stderr, "velmar: note: no entry of the dump has an index of --index\n");
     }
   }
 
  private:
-  const Layout& layout_;
   Selection selection_;
   std::unique_ptr<EntryReader> reader_;
   Progress progress_;
   U64 selected_ = 0;
-  bool goesBeyond_ = false;
 };
 
 int decode(const Arguments& arguments, const Layout& layout, Output& output) {
