@@ -155,14 +155,19 @@ void JsonText::readString(std::string& text) {
     // What is neither the end nor a backslash is taken at once.
     const std::string_view ahead = stream_.text();
     const size_t most = std::min(ahead.size(), longestChunk + 1 - text.size());
-    const size_t plain = std::min(ahead.find_first_of("\"\\\n"), most);
+    size_t plain = 0;
+    while (plain < most && ahead[plain] != '"' && ahead[plain] != '\\' && ahead[plain] != '\n') {
+      ++plain;
+    }
+    const bool isEnd = plain < most && ahead[plain] == '"';
+    if (isEnd) ++plain;
     text.append(ahead.data(), plain);
     stream_.take(plain);
     column_ += plain;
+    if (isEnd) return;
     if (plain == most) continue;
     const char letter = take();
     text += letter;
-    if (letter == '"') return;
     if (letter != '\\') continue;
     if (peek() < 0) fail("a string ends early");
     text += take();

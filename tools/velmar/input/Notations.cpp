@@ -36,6 +36,7 @@ struct Head {
 Head headOf(ByteStream& stream) {
   stream.need(headBytes);
   Head head{stream.text().substr(0, headBytes), "", ""};
+  if (head.bytes.find('\0') != std::string_view::npos) return head;  // no text in bytes
   head.text = cleaned(head.bytes);
   std::string_view rest = head.text;
   while (!rest.empty()) {
