@@ -68,7 +68,10 @@ class HexReader : public TextReader {
       failLine("{} bytes, not {}; check table and chip", bytes_.size(),
                entrySizeText(stride_, layout_));
     }
-    if (index) index_ = *index;
+    if (index) {
+      checkOffset(line);
+      index_ = *index;
+    }
     pending_.insert(pending_.end(), bytes_.begin(), bytes_.end());
     return true;
   }
@@ -115,6 +118,23 @@ class HexReader : public TextReader {
       text = trim(text.substr(end));
     }
     failLine("{} is not data; remove the line", inQuotes(line));
+  }
+
+  /// Padded numbers that grow by the bytes of a line may be offsets.
+  void checkOffset(std::string_view line) {
+    const size_t digits = line.find_first_not_of("0123456789");
+    U64 offset = 0;
+    for (const char letter : line.substr(0, digits)) {
+      offset = 16 * offset + static_cast<U64>(hexDigit(letter));
+    }
+    const bool isPadded = line[0] == '0' && digits >= 4 && digits != std::string_view::npos;
+    if (isPadded && hasOffset_ && offset == offset_ + bytes_.size()) {
+      failLine(
+          "the numbers before the data may be offsets; give --input xxd if they are, or else "
+          "write indexes without zeros before them");
+    }
+    hasOffset_ = isPadded;
+    offset_ = offset;
   }
 
   void takeStreamLine() {
@@ -286,6 +306,8 @@ class HexReader : public TextReader {
   const size_t entryBytes_;
   U64 index_;
   Shape shape_ = Shape::unknown;
+  bool hasOffset_ = false;  ///< the last index has zeros before it, and may be an offset
+  U64 offset_ = 0;
   HexOrder numbers_ = HexOrder::byGroups;  ///< what numbers after 0x are, by the first line
   std::vector<HexGroup> groups_;
   std::vector<U8> bytes_;  ///< those of a line

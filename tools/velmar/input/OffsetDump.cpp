@@ -201,16 +201,22 @@ U32 OffsetReader::findBase() const {
   for (const Row& row : rows) {
     if (!row.offset.empty()) offset = row.offset;
   }
+  const auto valueOf = [offset](U32 base) {
+    U64 value = 0;
+    parseOffset(offset, base, value);
+    return value;
+  };
+  // One that goes beyond the end of the table is not meant.
+  const auto inTable = std::stable_partition(fitting.begin(), fitting.end(), [&](U32 base) {
+    return valueOf(base) / stride_ <= layout_.indexCount();
+  });
+  if (inTable != fitting.begin()) fitting.erase(inTable, fitting.end());
   for (const U32 base : fitting) {
-    U64 one = 0, other = 0;
-    parseOffset(offset, fitting.front(), one);
-    parseOffset(offset, base, other);
-    if (one != other) {
-      fail(
-          "{}: offset {} may be of base {} or {}; print the dump again with xxd, or with "
-          "od -A x -v -t x1",
-          stream_->name(), inQuotes(offset), fitting.front(), base);
-    }
+    if (valueOf(base) == valueOf(fitting.front())) continue;
+    fail(
+        "{}: offset {} may be of base {} or {}; print the dump again with xxd, or with od -A x -v "
+        "-t x1",
+        stream_->name(), inQuotes(offset), fitting.front(), base);
   }
   return fitting.front();
 }
