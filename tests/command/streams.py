@@ -24,7 +24,7 @@ def peak_memory(arguments, piece, count):
             pipe.write(piece)
     _, status, usage = os.wait4(process.pid, 0)
     process.returncode = os.waitstatus_to_exitcode(status)
-    check(process.returncode == 0, f"{arguments} ends with {process.returncode}")
+    check(process.returncode in (0, 1), f"{arguments} ends with {process.returncode}")
     return usage.ru_maxrss * 1024
 
 
@@ -34,10 +34,11 @@ def text_of(entry_format, entries):
     return subprocess.run(encode, stdout=subprocess.PIPE, check=True).stdout
 
 
-# Raw: 2 million entries. Text and JSON: tens of thousands. None may take more memory than a small
-# dump.
+# Raw: 2 million entries, which only --check takes, because they lie beyond the end of the table. Text
+# and JSON: tens of thousands. None may take more memory than a small dump.
 slack = 2 << 20
-for entry_format, options, count in (("raw", ["--where", "stg=6"], 250), ("raw", ["-f", "csv"], 40),
+for entry_format, options, count in (("raw", ["--check", "--where", "stg=6"], 250),
+                                     ("raw", ["--check", "-f", "csv"], 40),
                                      ("hex", ["-f", "jsonl"], 20), ("jsonl", ["--nonzero"], 8)):
     piece = text_of(entry_format, 8000)
     few = peak_memory(decode + options, piece, 1)
@@ -71,7 +72,7 @@ with tempfile.TemporaryDirectory() as directory:
     out = os.path.join(directory, "out")
     process = subprocess.Popen(decode + ["-f", "jsonl", "-o", out], stdin=subprocess.PIPE,
                                stderr=subprocess.PIPE)
-    process.stdin.write(b"\0" * 160000)
+    process.stdin.write(b"\0" * 128000)
     process.stdin.flush()
     for _ in range(200):
         if os.listdir(directory):

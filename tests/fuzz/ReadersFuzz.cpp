@@ -26,8 +26,9 @@ struct Dump {
 };
 
 /// The contents of standard input. A "*" of xxd may stand for a whole table: not all of it is read.
-Dump readDump(const Tool::Layout& layout, const Tool::InputOptions& options, size_t piece) {
+Dump readDump(const Tool::Layout& layout, Tool::InputOptions options, size_t piece) {
   constexpr size_t most = 16;
+  options.beyondEnd = true;
   Dump dump;
   dump.failure = failureOf([&] {
     const auto reader =

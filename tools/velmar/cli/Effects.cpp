@@ -27,13 +27,13 @@ constexpr Rule rules[] = {
      "without --chip; give both"},
     {"--hex-order", [](const Arguments& a) { return a.input == "raw" || a.input == "json"; },
      "with --input raw or json; give one of them"},
-    {"--stride", [](const Arguments& a) { return a.input == "json"; },
+    {"--stride,--byte-order", [](const Arguments& a) { return a.input == "json"; },
      "with --input json; give one of them"},
 };
 
 /// A verb with --base reads a dump only there.
 constexpr Rule withoutBase = {
-    "--input,--hex-order,--stride,--first", [](const Arguments& a) { return a.base.empty(); },
+    "--input,--hex-order,--byte-order,--stride,--first", [](const Arguments& a) { return a.base.empty(); },
     "without --base; give both"};
 // clang-format on
 

@@ -39,16 +39,25 @@ const char* const exitCodeText =
 
 const std::vector<Notation> notations = {
     {"raw", "binary, little-endian, entries one after another"},
-    {"bytes", "hex text, an entry on each line, in groups of two digits, the first byte first"},
+    {"bytes",
+     "hex text, an entry on each line, in groups of two digits, the first byte first; blanks, "
+     "commas, "
+     "semicolons, colons, brackets and \\x may stand between them"},
     {"words", "hex text, an entry on each line, in groups of eight digits, the first word first"},
     {"0x", "may stand before each group of hex text"},
     {"index:", "before an entry of hex text, such as 100: or 0x64:, gives its index"},
     {"#", "begins a comment in hex text; blank lines are skipped"},
     {"other groups",
      "give --hex-order, which says what the digits are; without it they are refused"},
-    {"xxd",
-     "its output, with offsets that must follow one another; for groups of eight digits, as "
-     "of xxd -e, give --hex-order"},
+    {"one line, one value",
+     "one word on each line, or after 0x all digits of an entry, the highest first; lines of one "
+     "length that is not an entry's are read as a stream, as of xxd -p"},
+    {"xxd, hexdump -C, od -t x1",
+     "their output, with offsets that must follow one another; for their words, as of xxd -e, "
+     "hexdump or od -t x4, give --hex-order, and --byte-order big for words of the other byte "
+     "order"},
+    {"other lines",
+     "before and after the data, such as a prompt, are skipped, and a note counts them"},
     {"JSON", "what decode prints with --format json or jsonl"},
 };
 

@@ -15,7 +15,7 @@ struct Arguments {
   std::vector<std::string> chips, fields, where;
   std::string variant, format, output, color;
   std::string index, array, identifier, find;
-  std::string input, hexOrder, stride, first, base;
+  std::string input, hexOrder, byteOrder, stride, first, base;
   bool nonzero = false, check = false, whole = false, quiet = false, diagram = false, help = false;
 };
 
@@ -104,6 +104,9 @@ inline constexpr Option
     hexOrder = oneOf("bytes,words,int", {"--hex-order", "ORDER", &Arguments::hexOrder,
                "how to read hex digits; bytes: the first byte first; words: 32-bit words, the "
                "first word first; int: one number, highest digit first"}),
+    byteOrder = oneOf("little,big", {"--byte-order", "ORDER", &Arguments::byteOrder,
+                "the byte of each 32-bit word that comes first in the dump: little (default) the "
+                "lowest, big the highest"}),
     stride{"--stride", "BYTES", &Arguments::stride,
            "bytes from one entry of the dump to the next, at most 65536 (default: the bytes of "
            "an entry)"},

@@ -89,8 +89,8 @@ bool LineReader::next(std::string_view& line) {
       return true;
     }
     if (text.size() > longestLine) {
-      fail("{}:{}: line longer than {} bytes; is this a text dump? --input raw reads binary dumps",
-           stream_.name(), number_, longestLine);
+      fail("{}:{}: line longer than {} bytes; break it into shorter ones", stream_.name(), number_,
+           longestLine);
     }
     searched = text.size();
     if (stream_.readMore()) continue;

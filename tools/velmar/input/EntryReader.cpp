@@ -9,51 +9,6 @@
 namespace Tool {
 namespace {
 
-/// The format is recognized by this many bytes, even if more are there: it must not depend on how a
-/// pipe delivers its bytes.
-constexpr size_t headBytes = 32;
-
-/// Whether a dump is text: its first bytes are ASCII, and no control character follows.
-bool isText(std::string_view head) {
-  constexpr size_t asciiBytes = 16;
-  const auto isForeign = [](char letter) { return static_cast<U8>(letter) >= 0x80; };
-  const auto isControl = [](char letter) {
-    return static_cast<U8>(letter) < ' ' && !isBlank(letter) && letter != '\n';
-  };
-  const std::string_view start = head.substr(0, asciiBytes);
-  return std::none_of(start.begin(), start.end(), isForeign) &&
-         std::none_of(head.begin(), head.end(), isControl);
-}
-
-/// Whether a line starts like one of xxd: an offset of 7 to 16 digits, and a colon. The first
-/// digit is 0, as it is up to 256 MiB, but not in an index before hex text.
-bool startsWithOffset(std::string_view text) {
-  const size_t digits = text.find_first_not_of("0123456789abcdefABCDEF");
-  return digits != std::string_view::npos && digits >= 7 && digits <= 16 && text[0] == '0' &&
-         text[digits] == ':';
-}
-
-std::string detectFormat(ByteStream& stream) {
-  stream.need(headBytes);
-  const std::string_view head = stream.text().substr(0, headBytes);
-  if (head.empty() || !isText(head)) return "raw";
-  const size_t first = head.find_first_not_of(" \t\r\n");
-  if (first == std::string_view::npos) return "hex";
-  if (head[first] == '{' || head[first] == '[') return "json";
-  return startsWithOffset(head.substr(first)) ? "xxd" : "hex";
-}
-
-}  // namespace
-
-bool EntryReader::next(Entry& entry) {
-  if (!read(entry)) return false;
-  if (entry.index > std::numeric_limits<U32>::max()) {
-    fail("entry {}: the largest index is {}; check --first, and the offsets or indexes of the dump",
-         entry.index, std::numeric_limits<U32>::max());
-  }
-  return true;
-}
-
 U32 strideOf(const InputOptions& options, const Layout& layout) {
   if (options.stride == 0) return layout.entryBytes();
   if (options.stride < layout.entryBytes()) {
@@ -64,18 +19,73 @@ U32 strideOf(const InputOptions& options, const Layout& layout) {
   return options.stride;
 }
 
+/// The chips on which the table has entries of this size and is long enough; with a `count`, those
+/// with as many entries.
+std::vector<std::string> fittingChips(const Layout& layout, U64 index, U64 count) {
+  std::vector<std::string> names;
+  for (const Catalogue::Chip& chip : allChips()) {
+    if (!layout.table().isOn(chip.number, layout.variant())) continue;
+    const Layout other(layout.table(), chip, layout.variant());
+    const bool fits = count != 0 ? other.indexCount() == count : other.indexCount() > index;
+    if (fits && other.entryBytes() == layout.entryBytes()) names.push_back(chip.name);
+  }
+  return names;
+}
+
+}  // namespace
+
+EntryReader::EntryReader(std::unique_ptr<ByteStream> stream, const Layout& layout,
+                         const InputOptions& options)
+    : stream_(std::move(stream)),
+      layout_(layout),
+      options_(options),
+      stride_(strideOf(options, layout)) {}
+
+bool EntryReader::next(Entry& entry) {
+  if (!read(entry)) return false;
+  if (entry.index >= layout_.indexCount()) {
+    if (!options_.beyondEnd) failBeyond(entry.index);
+    if (entry.index > std::numeric_limits<U32>::max()) {
+      fail(
+          "entry {}: the largest index is {}; check --first, and the offsets or indexes of the "
+          "dump",
+          entry.index, std::numeric_limits<U32>::max());
+    }
+  }
+  if (options_.bigEndian) {
+    swapped_.assign(entry.bytes, entry.bytes + layout_.entryBytes());
+    for (auto word = swapped_.begin(); word != swapped_.end(); word += 4) {
+      std::reverse(word, word + 4);
+    }
+    entry.bytes = swapped_.data();
+  }
+  return true;
+}
+
+void EntryReader::failBeyond(U64 index, U64 count) const {
+  const std::string where = count != 0
+                                ? formatText("{} entries are more", count)
+                                : formatText("entry {} (0x{:x}) is beyond the end", index, index);
+  const std::vector<std::string> chips = fittingChips(layout_, index, count);
+  const std::string remedy =
+      !chips.empty() ? formatText("{} {} as many as the dump: check --chip", join(chips, ", "),
+                                  chips.size() == 1 ? "has" : "have")
+      : count != 0   ? "check table and chip, or read a part of the dump"
+                     : "no chip has as many as the dump: if the numbers before the data are "
+                       "addresses, remove them";
+  fail("{}: {}{} {} on {}, which has {} {}; {}", name(), where,
+       count != 0 ? " than those of" : " of", layout_.name(), layout_.chip().name,
+       layout_.indexCount(), layout_.isRegisterArray() ? "elements" : "entries", remedy);
+}
+
+void EntryReader::failSize(U64 bytes) const {
+  fail("{}: {} bytes are not a multiple of {}; check table and chip, or give --stride",
+       stream_->name(), bytes, entrySizeText(stride_, layout_));
+}
+
 std::string entrySizeText(U32 stride, const Layout& layout) {
   if (stride != layout.entryBytes()) return formatText("{}, the stride", stride);
   return formatText("{}, an entry of {} on {}", stride, layout.name(), layout.chip().name);
-}
-
-std::unique_ptr<EntryReader> openEntries(std::unique_ptr<ByteStream> stream, const Layout& layout,
-                                         const InputOptions& options) {
-  const std::string format = options.format == "auto" ? detectFormat(*stream) : options.format;
-  if (format == "raw") return openRaw(std::move(stream), layout, options);
-  if (format == "xxd") return openXxd(std::move(stream), layout, options);
-  if (format == "json") return openJson(std::move(stream), layout, options);
-  return openHex(std::move(stream), layout, options);
 }
 
 }  // namespace Tool

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -15,22 +16,44 @@ enum class HexOrder { byGroups, bytes, words, integer };
 struct InputOptions {
   std::string format = "auto";
   HexOrder hexOrder = HexOrder::byGroups;
-  U32 stride = 0;  ///< bytes from one entry to the next; 0: the bytes of an entry
-  U64 first = 0;   ///< index of the first entry
+  bool bigEndian = false;  ///< the highest byte of each 32-bit word comes first
+  bool beyondEnd = false;  ///< entries beyond the end of the table are given, not refused
+  bool isForTwo = false;   ///< two dumps share the options: one of them may make no use of one
+  U32 stride = 0;          ///< bytes from one entry to the next; 0: the bytes of an entry
+  U64 first = 0;           ///< index of the first entry
+  std::function<void(const std::string&)> note;  ///< receives what is worth saying; may be empty
 };
 
 /// Reads the entries of a dump in bounded memory, whatever the size of the dump.
 class EntryReader {
  public:
+  EntryReader(std::unique_ptr<ByteStream> stream, const Layout& layout,
+              const InputOptions& options);
   virtual ~EntryReader() = default;
 
-  /// Reads the next entry; false at the end. Fails for an index of more than 32 bits.
+  /// Reads the next entry; false at the end. Fails for an entry beyond the end of the table, and
+  /// for an index of more than 32 bits.
   bool next(Entry& entry);
   /// Whether the format guarantees that indexes ascend.
   virtual bool isAscending() const { return false; }
 
+ protected:
+  /// Fails: the index is beyond the end. `count` is the number of entries, where it is known.
+  [[noreturn]] void failBeyond(U64 index, U64 count = 0) const;
+  /// Fails: entries do not fill this many bytes.
+  [[noreturn]] void failSize(U64 bytes) const;
+
+  const std::unique_ptr<ByteStream> stream_;
+  const Layout& layout_;
+  const InputOptions options_;
+  const U32 stride_;  ///< bytes from one entry to the next
+
  private:
   virtual bool read(Entry& entry) = 0;
+  /// What error messages call the dump.
+  virtual const std::string& name() const { return stream_->name(); }
+
+  std::vector<U8> swapped_;
 };
 
 /// Opens a dump in any of the formats.
@@ -38,17 +61,9 @@ std::unique_ptr<EntryReader> openEntries(std::unique_ptr<ByteStream> stream, con
                                          const InputOptions& options);
 
 // The formats, each in a file of its own.
-std::unique_ptr<EntryReader> openRaw(std::unique_ptr<ByteStream> stream, const Layout& layout,
-                                     const InputOptions& options);
-std::unique_ptr<EntryReader> openHex(std::unique_ptr<ByteStream> stream, const Layout& layout,
-                                     const InputOptions& options);
-std::unique_ptr<EntryReader> openXxd(std::unique_ptr<ByteStream> stream, const Layout& layout,
-                                     const InputOptions& options);
-std::unique_ptr<EntryReader> openJson(std::unique_ptr<ByteStream> stream, const Layout& layout,
-                                      const InputOptions& options);
-
-/// Bytes from one entry to the next; fails for a stride that is shorter than an entry.
-U32 strideOf(const InputOptions& options, const Layout& layout);
+using OpenFormat = std::unique_ptr<EntryReader>(std::unique_ptr<ByteStream> stream,
+                                                const Layout& layout, const InputOptions& options);
+OpenFormat openRaw, openHex, openXxd, openHexdump, openOd, openJson;
 
 /// The bytes of an entry in words, for messages: "16, an entry of VlanEntry on BCM56990_B0".
 std::string entrySizeText(U32 stride, const Layout& layout);

@@ -1,75 +1,88 @@
 #include "input/HexDigits.h"
 
 #include <algorithm>
+#include <array>
 
 #include "model/Text.h"
 
 namespace Tool {
 namespace {
 
+enum Kind : U8 { other, separator, digit };
+
+constexpr std::array<U8, 256> kinds = [] {
+  std::array<U8, 256> all{};
+  for (const char letter :
+       {' ', '\t', '\r', ',', ';', ':', '{', '}', '[', ']', '(', ')', '"', '\''})
+    all[static_cast<U8>(letter)] = separator;
+  for (const char letter : std::string_view("0123456789abcdefABCDEF"))
+    all[static_cast<U8>(letter)] = digit;
+  return all;
+}();
+
+Kind kindOf(char letter) { return static_cast<Kind>(kinds[static_cast<U8>(letter)]); }
+
 U8 byteAt(std::string_view digits, size_t at) {
   return static_cast<U8>(hexDigit(digits[at]) << 4 | hexDigit(digits[at + 1]));
 }
 
-std::string joined(const std::vector<std::string_view>& groups) {
-  std::string digits;
-  for (const std::string_view group : groups) digits += group;
-  return digits;
-}
-
 }  // namespace
 
-std::vector<std::string_view> hexGroups(std::string_view text, const LinePlace& place) {
-  std::vector<std::string_view> groups;
-  for (;;) {
-    text = trim(text);
-    if (text.empty()) return groups;
-    const size_t end = std::min(text.size(), text.find_first_of(" \t\r"));
-    std::string_view group = text.substr(0, end);
-    if (group.size() > 2 && group[0] == '0' && (group[1] == 'x' || group[1] == 'X')) {
-      group.remove_prefix(2);
+bool splitGroups(std::string_view text, std::vector<HexGroup>& groups) {
+  groups.clear();
+  for (size_t at = 0;;) {
+    while (at < text.size() && kindOf(text[at]) == separator) ++at;
+    if (at == text.size() || text[at] == '#') return true;
+    const bool isPython = text[at] == 'b' && text.substr(at + 1, 1).find_first_of("'\"") == 0;
+    if (isPython) {
+      ++at;
+      continue;
     }
-    const bool isHex =
-        std::all_of(group.begin(), group.end(), [](char letter) { return hexDigit(letter) >= 0; });
-    if (!isHex) {
-      place.fail("{} is not a hexadecimal number; --input raw reads binary dumps", inQuotes(group));
+    char prefix = 0;
+    const bool isPrefixed = at + 2 < text.size() && (text[at + 1] | 0x20) == 'x';
+    if (isPrefixed && (text[at] == '0' || text[at] == '\\')) {
+      prefix = text[at] == '0' ? 'x' : '\\';
+      at += 2;
     }
-    groups.push_back(group);
-    text.remove_prefix(end);
+    const size_t begin = at;
+    while (at < text.size() && kindOf(text[at]) == digit) ++at;
+    if (at == begin) return false;
+    if (at < text.size() && kindOf(text[at]) == other && text[at] != '\\' && text[at] != '#') {
+      return false;
+    }
+    groups.push_back({text.substr(begin, at - begin), prefix});
   }
 }
 
-bool haveDigits(const std::vector<std::string_view>& groups, size_t digits) {
+bool splitColumns(std::string_view text, std::vector<HexGroup>& groups, size_t gap) {
+  groups.clear();
+  for (size_t at = 0; at < text.size();) {
+    const size_t begin = text.find_first_not_of(' ', at);
+    if (begin != at + gap) return false;
+    at = begin;
+    while (at < text.size() && kindOf(text[at]) == digit) ++at;
+    if (at == begin) return false;
+    groups.push_back({text.substr(begin, at - begin), 0});
+  }
+  return true;
+}
+
+bool haveDigits(const std::vector<HexGroup>& groups, size_t digits) {
   return std::all_of(groups.begin(), groups.end(),
-                     [digits](std::string_view group) { return group.size() == digits; });
+                     [digits](const HexGroup& group) { return group.digits.size() == digits; });
 }
 
-void appendBytes(const std::vector<std::string_view>& groups, HexOrder order,
-                 const LinePlace& place, std::vector<U8>& bytes) {
-  const std::string digits = joined(groups);
-  const size_t unit = order == HexOrder::words ? 8 : 2;
-  if (digits.size() % unit != 0) {
-    place.fail("{} digits are not whole {}; check the line for lost digits", digits.size(),
-               unit == 2 ? "bytes" : "32-bit words");
-  }
-  for (size_t at = 0; at < digits.size(); at += unit) {
-    if (order == HexOrder::bytes) {
-      bytes.push_back(byteAt(digits, at));
-    } else {
-      for (size_t i = unit; i > 0; i -= 2) bytes.push_back(byteAt(digits, at + i - 2));
-    }
-  }
+void appendBytes(std::string_view digits, std::vector<U8>& bytes) {
+  for (size_t at = 0; at + 1 < digits.size(); at += 2) bytes.push_back(byteAt(digits, at));
 }
 
-void appendNumber(const std::vector<std::string_view>& groups, size_t count, const LinePlace& place,
-                  std::vector<U8>& bytes) {
-  std::string digits = joined(groups);
-  digits.erase(0, std::min(digits.find_first_not_of('0'), digits.size()));
-  if (digits.size() > 2 * count) {
-    place.fail("the number does not fit an entry of {} bytes; check table and chip", count);
+void appendNumber(std::string_view digits, size_t count, std::vector<U8>& bytes) {
+  const size_t end = bytes.size() + count;
+  for (; digits.size() >= 2; digits.remove_suffix(2)) {
+    bytes.push_back(byteAt(digits, digits.size() - 2));
   }
-  digits.insert(0, 2 * count - digits.size(), '0');
-  for (size_t i = digits.size(); i > 0; i -= 2) bytes.push_back(byteAt(digits, i - 2));
+  if (!digits.empty()) bytes.push_back(static_cast<U8>(hexDigit(digits[0])));
+  bytes.resize(end);
 }
 
 }  // namespace Tool

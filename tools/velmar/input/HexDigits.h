@@ -1,39 +1,34 @@
 #pragma once
 
-#include <string>
 #include <string_view>
 #include <vector>
 
-#include "input/EntryReader.h"
-#include "model/Failure.h"
+#include "AsicUtils/Types.h"
 
-// What hex text and xxd output share: groups of digits on a line.
+// Groups of hexadecimal digits, and the bytes that they are.
 
 namespace Tool {
 
-/// Names the line of an input that an error message is about.
-struct LinePlace {
-  const std::string& file;
-  U64 line;
-
-  template <class... Arguments>
-  [[noreturn]] void fail(fmt::format_string<Arguments...> text, Arguments&&... arguments) const {
-    Tool::fail("{}:{}: {}", file, line, formatted(text, fmt::make_format_args(arguments...)));
-  }
+struct HexGroup {
+  std::string_view digits;  ///< without what is before them
+  char prefix;              ///< 'x' after "0x", '\\' after "\x", otherwise 0
 };
 
-/// The groups of hexadecimal digits in a text, without "0x".
-std::vector<std::string_view> hexGroups(std::string_view text, const LinePlace& place);
+/// The groups of a text up to a "#", separated by blanks, commas, semicolons, colons, brackets and
+/// quotes; false where there is anything else.
+bool splitGroups(std::string_view text, std::vector<HexGroup>& groups);
+
+/// The groups of digits between single blanks; false where there is anything else. With a `gap`
+/// there are as many blanks before each group.
+bool splitColumns(std::string_view text, std::vector<HexGroup>& groups, size_t gap = 1);
 
 /// Whether each group has this many digits.
-bool haveDigits(const std::vector<std::string_view>& groups, size_t digits);
+bool haveDigits(const std::vector<HexGroup>& groups, size_t digits);
 
-/// Appends the bytes of the groups, read as bytes or as words.
-void appendBytes(const std::vector<std::string_view>& groups, HexOrder order,
-                 const LinePlace& place, std::vector<U8>& bytes);
+/// Appends bytes from digits of which the first byte comes first; the number of digits is even.
+void appendBytes(std::string_view digits, std::vector<U8>& bytes);
 
-/// Appends the `count` bytes of the number that all groups together make.
-void appendNumber(const std::vector<std::string_view>& groups, size_t count, const LinePlace& place,
-                  std::vector<U8>& bytes);
+/// Appends the `count` bytes, the lowest first, of a number of at most 2 * `count` digits.
+void appendNumber(std::string_view digits, size_t count, std::vector<U8>& bytes);
 
 }  // namespace Tool

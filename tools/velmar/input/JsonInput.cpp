@@ -3,7 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "input/EntryReader.h"
-
+#include "input/JsonSyntax.h"
 #include "model/Failure.h"
 #include "model/Text.h"
 
@@ -78,14 +78,57 @@ std::vector<U8> reservedBitsOf(const Layout& layout, const json& member) {
   return bits;
 }
 
-/// The table and chip of an entry must be those of the command line.
+/// Fails unless a member, where it is there, has this value.
+void checkMember(const json& object, const char* key, const json& expected) {
+  const auto member = object.find(key);
+  if (member == object.end() || *member == expected) return;
+  fail("{}: {}, not {}; check the file, and table, chip and variant", key,
+       printable(member->dump(-1, ' ', true)).substr(0, 60), expected.dump());
+}
+
+std::string textOf(const json& object, const char* key, const char* absent) {
+  const auto member = object.find(key);
+  if (member == object.end()) return absent;
+  if (!member->is_string()) fail("{}: not a text; give a name in quotes", key);
+  return member->get<std::string>();
+}
+
+/// The table, chip and variant of an entry must be those of the command line.
 void checkSource(const Layout& layout, const json& object) {
-  const std::string table = object.value("table", layout.name());
-  const std::string chip = object.value("chip", layout.chip().name);
+  const std::string table = textOf(object, "table", layout.name());
+  const std::string chip = textOf(object, "chip", layout.chip().name);
   if (simplified(table) != simplified(layout.name()) || chip != layout.chip().name) {
     fail("an entry of {} on {}, not of {} on {}; give that table and chip", inQuotes(table),
          inQuotes(chip), layout.name(), layout.chip().name);
   }
+  checkMember(object, "variant", layout.variant());
+}
+
+/// What a document says of itself must be true.
+void checkHead(const Layout& layout, const json& head) {
+  checkMember(head, "format", "velmar-entries");
+  checkMember(head, "version", 1);
+  checkSource(layout, head);
+  checkMember(head, "entryBytes", layout.entryBytes());
+  const auto fields = head.find("layout");
+  if (fields == head.end()) return;
+  if (!fields->is_object()) fail("layout: not an object; check the file");
+  for (const auto& [name, range] : fields->items()) {
+    const FieldPlace& place = layout.find(name);
+    const json expected = {{"offset", place.offset}, {"width", place.width}};
+    if (range != expected) {
+      fail("layout: {} is not at {} with width {}, where it is on {}; check the chip", place.name(),
+           place.offset, place.width, layout.chip().name);
+    }
+  }
+}
+
+/// Names in an object and in all objects in it.
+size_t countNames(const json& value) {
+  if (!value.is_structured()) return 0;
+  size_t count = value.is_object() ? value.size() : 0;
+  for (const json& member : value) count += countNames(member);
+  return count;
 }
 
 JsonInput::Object objectOf(const Layout& layout, const json& members, U64 nextIndex) {
@@ -112,17 +155,14 @@ JsonInput::Object objectOf(const Layout& layout, const json& members, U64 nextIn
   return object;
 }
 
-/// The JSON library's message without its error code.
-std::string reasonOf(const json::exception& error) {
-  const std::string text = printable(error.what());
-  const size_t end = text.find("] ");
-  return end == std::string::npos ? text : text.substr(end + 2);
-}
-
 class JsonReader : public EntryReader {
  public:
-  JsonReader(std::unique_ptr<ByteStream> stream, const Layout& layout, U64 first)
-      : input_(std::move(stream), layout, first), builder_(layout) {}
+  JsonReader(std::unique_ptr<ByteStream> stream, const Layout& layout, const InputOptions& options)
+      : EntryReader(nullptr, layout, options),
+        input_(std::move(stream), layout, options.first),
+        builder_(layout) {
+    if (options.bigEndian) fail("--byte-order big does not apply to JSON; leave it out");
+  }
 
   bool read(Entry& entry) override {
     JsonInput::Object object;
@@ -145,6 +185,8 @@ class JsonReader : public EntryReader {
   }
 
  private:
+  const std::string& name() const override { return input_.name(); }
+
   JsonInput input_;
   EntryBuilder builder_;
 };
@@ -163,17 +205,19 @@ bool JsonInput::next(Object& object) {
       return false;
     }
     isStarted_ = true;
+    const json members = json::parse(text, nullptr, false);
+    if (members.is_discarded() || countNames(members) != text_.names()) {
+      const JsonFault fault = faultOf(text);
+      text_.failAt(text, fault.at, fault.expected);
+    }
     try {
-      const json members = json::parse(text);
       if (kind == JsonText::Chunk::head) {
-        checkSource(layout_, members);
+        checkHead(layout_, members);
         continue;
       }
       object = objectOf(layout_, members, index_);
       if (object.index) index_ = *object.index + 1;
       return true;
-    } catch (const json::exception& error) {
-      fail("{}:{}: {}; check the JSON", name(), line(), reasonOf(error));
     } catch (const Failure& failure) {
       fail("{}:{}: {}", name(), line(), failure.what());
     }
@@ -182,7 +226,7 @@ bool JsonInput::next(Object& object) {
 
 std::unique_ptr<EntryReader> openJson(std::unique_ptr<ByteStream> stream, const Layout& layout,
                                       const InputOptions& options) {
-  return std::make_unique<JsonReader>(std::move(stream), layout, options.first);
+  return std::make_unique<JsonReader>(std::move(stream), layout, options);
 }
 
 }  // namespace Tool

@@ -9,13 +9,13 @@ namespace {
 class RawReader : public EntryReader {
  public:
   RawReader(std::unique_ptr<ByteStream> stream, const Layout& layout, const InputOptions& options)
-      : stream_(std::move(stream)),
-        layout_(layout),
-        stride_(strideOf(options, layout)),
-        index_(options.first) {
+      : EntryReader(std::move(stream), layout, options), index_(options.first) {
     // A file of a wrong size is refused before any of it is shown.
     const std::optional<U64> bytes = stream_->bytesLeftInFile();
-    if (bytes && *bytes % stride_ != 0) failSize(*bytes);
+    if (!bytes) return;
+    if (*bytes % stride_ != 0) failSize(*bytes);
+    const U64 end = index_ + *bytes / stride_;
+    if (end > layout.indexCount() && !options.beyondEnd) failBeyond(end - 1, end);
   }
 
   bool read(Entry& entry) override {
@@ -39,14 +39,6 @@ class RawReader : public EntryReader {
     return false;
   }
 
-  [[noreturn]] void failSize(U64 bytes) const {
-    fail("{}: {} bytes are not a multiple of {}; check table and chip, or give --stride",
-         stream_->name(), bytes, entrySizeText(stride_, layout_));
-  }
-
-  std::unique_ptr<ByteStream> stream_;
-  const Layout& layout_;
-  U32 stride_;
   U64 index_;
   U64 bytes_ = 0;
   size_t taken_ = 0;

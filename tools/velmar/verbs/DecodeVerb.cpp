@@ -80,8 +80,7 @@ std::string onlyFile(const Arguments& arguments) {
 class Walk {
  public:
   Walk(const Arguments& arguments, const Layout& layout, Output& output)
-      : layout_(layout),
-        selection_(arguments, layout),
+      : selection_(arguments, layout),
         reader_(openEntries(std::make_unique<ByteStream>(onlyFile(arguments),
                                                          [this, &output] {
                                                            if (selected_ != 0) output.flush();
@@ -95,7 +94,6 @@ class Walk {
       if (entry.index > selection_.last() && reader_->isAscending()) break;
       if (!selection_.has(entry)) continue;
       ++selected_;
-      goesBeyond_ = goesBeyond_ || entry.index >= layout_.indexCount();
       return true;
     }
     return false;
@@ -111,11 +109,6 @@ class Walk {
   /// Notes what the result does not show.
   void report() {
     progress_.clear();
-    if (goesBeyond_) {
-      std::fprintf(stderr,
-                   "velmar: note: the dump extends beyond the end of %s on %s (%u entries)\n",
-                   layout_.name(), layout_.chip().name, layout_.indexCount());
-    }
     if (selected_ == 0 && selection_.mayBeEmpty()) {
       std::fprintf(stderr,
                    "velmar: note: no entry of the dump is selected; check --index and --where\n");
@@ -123,12 +116,10 @@ class Walk {
   }
 
  private:
-  const Layout& layout_;
   Selection selection_;
   U64 selected_ = 0;
   std::unique_ptr<EntryReader> reader_;
   Progress progress_;
-  bool goesBeyond_ = false;
 };
 
 int decode(const Arguments& arguments, const Layout& layout, Output& output) {
@@ -224,8 +215,8 @@ Verb decodeVerb() {
           "stream and may be of any size; a line of text or a JSON entry may have up to 1 MiB.",
           {Positionals::table, Positionals::dump},
           {Options::chip, Options::variant, Options::index, Options::fields, Options::where,
-           Options::nonzero, Options::check, Options::input, Options::hexOrder, Options::stride,
-           Options::first, Options::listFormat, Options::output, Options::color},
+           Options::nonzero, Options::check, Options::input, Options::hexOrder, Options::byteOrder,
+           Options::stride, Options::first, Options::listFormat, Options::output, Options::color},
           {"velmar encode VlanEntry --chip 56990_B0 valid=1 stg=5 | velmar decode VlanEntry --chip "
            "56990_B0",
            "velmar encode VlanMpls --chip 56980 --index 7 mplsEnable=1 --whole -f raw | velmar "

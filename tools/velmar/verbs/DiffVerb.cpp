@@ -303,8 +303,8 @@ Verb diffVerb() {
           "that the dumps differ.",
           {Positionals::table, Positionals::oldAndNew},
           {Options::chip, Options::variant, Options::index, Options::fields, Options::quiet,
-           Options::input, Options::hexOrder, Options::stride, Options::first, Options::listFormat,
-           Options::output, Options::color},
+           Options::input, Options::hexOrder, Options::byteOrder, Options::stride, Options::first,
+           Options::listFormat, Options::output, Options::color},
           {"velmar diff VlanMpls --chip 56980 <(echo 00000000) <(echo 00000001)",
            "velmar diff VlanEntry --chip 56990_B0 <(velmar encode vlan --chip 56990_B0 stg=1) "
            "<(velmar encode vlan --chip 56990_B0 stg=2) --format jsonl"},

@@ -257,7 +257,7 @@ Verb encodeVerb() {
           "gives the same bytes. A JSON entry may have up to 1 MiB.",
           {Positionals::table, Positionals::assignments},
           {Options::chip, Options::variant, Options::base, Options::changeIndex, Options::whole,
-           Options::input, Options::hexOrder, Options::stride, Options::first,
+           Options::input, Options::hexOrder, Options::byteOrder, Options::stride, Options::first,
            Options::format("hex,words,raw,json,jsonl"), Options::output},
           {"velmar encode VlanEntry --chip BCM56960_A0 valid=1 fidId=100 portBitmap=0-3,17",
            "velmar encode VlanEntry --chip 56960 valid=1 | velmar encode VlanEntry --chip 56960 "

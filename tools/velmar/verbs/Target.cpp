@@ -1,5 +1,6 @@
 #include "verbs/Target.h"
 
+#include <cstdio>
 #include <limits>
 
 #include "model/Failure.h"
@@ -40,6 +41,12 @@ InputOptions inputOptionsOf(const Arguments& arguments) {
   if (arguments.hexOrder == "bytes") options.hexOrder = HexOrder::bytes;
   if (arguments.hexOrder == "words") options.hexOrder = HexOrder::words;
   if (arguments.hexOrder == "int") options.hexOrder = HexOrder::integer;
+  options.bigEndian = arguments.byteOrder == "big";
+  options.isForTwo = arguments.files.size() > 1;
+  options.beyondEnd = arguments.check;
+  options.note = [](const std::string& text) {
+    std::fprintf(stderr, "velmar: note: %s\n", text.c_str());
+  };
   options.stride = static_cast<U32>(numberOf("--stride", arguments.stride, longestStride, 0));
   options.first = numberOf("--first", arguments.first, std::numeric_limits<U32>::max(), 0);
   return options;
