@@ -1,8 +1,8 @@
 #include "support/GoldenData.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <fstream>
-#include <regex>
 #include <sstream>
 #include <stdexcept>
 
@@ -45,13 +45,15 @@ U32 number(const std::string& text) { return static_cast<U32>(std::stoul(text, n
 
 /// The value of a number, or of a rule such as 2n, 244+n or 2(n-136) for port n.
 U32 valueOf(const std::string& rule, U32 port) {
-  static const std::regex form(R"((?:(\d+)\+)?(\d*)(?:n|\(n-(\d+)\)))");
-  std::smatch parts;
-  if (!std::regex_match(rule, parts, form)) return number(rule);
-  const auto part = [&](std::size_t i, U32 other) {
-    return parts[i].length() ? number(parts[i]) : other;
-  };
-  return part(1, 0) + part(2, 1) * (port - part(3, 0));
+  const std::size_t n = rule.find('n');
+  if (n == std::string::npos) return number(rule);
+  const std::size_t plus = rule.find('+');
+  const std::size_t minus = rule.find('-');
+  const std::size_t begin = plus == std::string::npos ? 0 : plus + 1;
+  const std::string factor = rule.substr(begin, rule.find_first_of("(n") - begin);
+  const U32 term = plus == std::string::npos ? 0 : number(rule.substr(0, plus));
+  const U32 first = minus == std::string::npos ? 0 : number(rule.substr(minus + 1));
+  return term + (factor.empty() ? 1 : number(factor)) * (port - first);
 }
 
 U32 chipNumber(const std::string& name) {
@@ -70,15 +72,19 @@ void keep(std::map<U32, Value>& byChip, const Row& row, const Value& value) {
   }
 }
 
+/// A name with a port in place of the ports that it stands for: "spTreePort{0..135}".
+std::string nameOf(const std::string& name, U32 port) {
+  const std::size_t brace = name.find('{');
+  return brace == std::string::npos ? name : name.substr(0, brace) + std::to_string(port);
+}
+
 /// Adds one field from a row, the one of `port` if the row stands for many.
 void addField(GoldenClass& golden, const Row& row, U32 port) {
-  static const std::regex ports(R"(\{.*\})");
-  const std::string accessor = std::regex_replace(row.at("accessor"), ports, std::to_string(port));
+  const std::string accessor = nameOf(row.at("accessor"), port);
   auto field = std::find_if(golden.fields.begin(), golden.fields.end(),
                             [&](const GoldenField& each) { return each.accessor == accessor; });
   if (field == golden.fields.end()) {
-    const std::string name =
-        std::regex_replace(row.at("hardware_name"), ports, std::to_string(port));
+    const std::string name = nameOf(row.at("hardware_name"), port);
     golden.fields.push_back({accessor, name, valueOf(row.at("id"), port), row.at("type"), {}});
     field = golden.fields.end() - 1;
   }
@@ -110,16 +116,20 @@ std::vector<GoldenClass> readClasses() {
                               cell("raw_bytes_needed")};
     keep(classOf(name)->chips, row, facts);
   }
-  static const std::regex range(R"(.*\{(\d+)\.\.(\d+)\})");
   for (const Row& row : readRows("fields.tsv")) {
     const auto golden = classOf(row.at("class"));
     if (golden == classes.end()) {
       throw std::runtime_error("tables.tsv lacks a class of fields.tsv: " + row.at("class"));
     }
-    std::smatch ends;
-    const bool isFamily = std::regex_match(row.at("accessor"), ends, range);
-    const U32 last = isFamily ? number(ends[2]) : 0;
-    for (U32 n = isFamily ? number(ends[1]) : 0; n <= last; ++n) addField(*golden, row, n);
+    U32 first = 0;
+    U32 last = 0;
+    const std::string& accessor = row.at("accessor");
+    const std::size_t brace = accessor.find('{');
+    if (brace != std::string::npos &&
+        std::sscanf(accessor.c_str() + brace, "{%u..%u}", &first, &last) != 2) {
+      throw std::runtime_error("fields.tsv has an odd range: " + accessor);
+    }
+    for (U32 port = first; port <= last; ++port) addField(*golden, row, port);
   }
   return classes;
 }
