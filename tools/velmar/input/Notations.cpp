@@ -5,7 +5,7 @@
 #include "model/Failure.h"
 #include "model/Text.h"
 
-// What a dump is written in, told by its first bytes. Read without any option:
+// The notation of a dump is recognized by its first bytes. Read without any option:
 //   raw         entries one after another, in binary
 //   json        the JSON and JSON lines of decode
 //   xxd         xxd with any -c, with -g1, -g2, -a, -u and -d

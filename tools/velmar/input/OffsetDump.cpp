@@ -8,7 +8,7 @@
 namespace Tool {
 namespace {
 
-/// False where the text is no number of the base.
+/// False if the text is not a number of the base.
 bool parseOffset(std::string_view text, U32 base, U64& offset) {
   const char* const end = text.data() + text.size();
   const auto result = std::from_chars(text.data(), end, offset, static_cast<int>(base));

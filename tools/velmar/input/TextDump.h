@@ -13,7 +13,7 @@ namespace Tool {
 /// The text without UTF-8 marks and colour sequences, and with blanks for no-break spaces.
 std::string cleaned(std::string_view text);
 
-/// Whether a line is no data: a prompt, a command, a sentence. A line of data with a slip is not.
+/// Whether a line is a prompt, a command or a sentence. Mistyped data still counts as data.
 bool isForeign(std::string_view line);
 
 /// Whether a line may be base64: also one of letters A to F alone, as base64 has for zeros.
