@@ -99,7 +99,7 @@ inline constexpr Option
     check{"--check", nullptr, &Arguments::check,
           "instead of the entries, report those with bits set outside all fields or beyond the "
           "end of the table; exit 1 if there are any"},
-    input = oneOf("auto,raw,hex,xxd,json", {"--input", "FORMAT", &Arguments::input,
+    input = oneOf("auto,raw,hex,xxd,hexdump,od,json", {"--input", "FORMAT", &Arguments::input,
             "format of the dump (default: recognized by its first bytes)"}),
     hexOrder = oneOf("bytes,words,int", {"--hex-order", "ORDER", &Arguments::hexOrder,
                "how to read hex digits; bytes: the first byte first; words: 32-bit words, the "

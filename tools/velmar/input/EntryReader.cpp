@@ -78,6 +78,11 @@ void EntryReader::failBeyond(U64 index, U64 count) const {
        layout_.indexCount(), layout_.isRegisterArray() ? "elements" : "entries", remedy);
 }
 
+void EntryReader::checkFirst() const {
+  if (options_.first == 0 || options_.isForTwo) return;
+  fail("{}: --first has no effect where the entries have their indexes; leave it out", name());
+}
+
 void EntryReader::failSize(U64 bytes) const {
   fail("{}: {} bytes are not a multiple of {}; check table and chip, or give --stride",
        stream_->name(), bytes, entrySizeText(stride_, layout_));

@@ -40,6 +40,8 @@ class EntryReader {
  protected:
   /// Fails: the index is beyond the end. `count` is the number of entries, where it is known.
   [[noreturn]] void failBeyond(U64 index, U64 count = 0) const;
+  /// Fails if --first is given: the entries of the dump have their indexes.
+  void checkFirst() const;
   /// Fails: entries do not fill this many bytes.
   [[noreturn]] void failSize(U64 bytes) const;
 

@@ -58,7 +58,7 @@ class HexReader : public TextReader {
       shape_ = isEntry || index ? Shape::entries : Shape::stream;
       lineBytes_ = bytes_.size();
       isRun_ = groups_.size() == 1 && groups_[0].digits.size() != 8;
-      if (shape_ == Shape::stream && line.back() != ',') checkStream();
+      if (shape_ == Shape::stream && line.back() != ',') checkStream(line);
     }
     if (shape_ == Shape::stream) {
       if (index)
@@ -69,6 +69,7 @@ class HexReader : public TextReader {
                entrySizeText(stride_, layout_));
     }
     if (index) {
+      checkFirst();
       checkOffset(line);
       index_ = *index;
     }
@@ -147,8 +148,12 @@ class HexReader : public TextReader {
   }
 
   /// Lines that are no entries here may be entries on another chip. od indents a stream.
-  void checkStream() const {
+  void checkStream(std::string_view line) const {
     if (isIndented()) return;
+    if (lineBytes_ == stride_ + 1 && line.find(':') != std::string_view::npos) {
+      failLine("{} bytes, not {}; if the first is an index, put a blank after its colon",
+               lineBytes_, entrySizeText(stride_, layout_));
+    }
     for (const Catalogue::Chip& chip : allChips()) {
       if (!layout_.table().isOn(chip.number, layout_.variant())) continue;
       if (Layout(layout_.table(), chip, layout_.variant()).entryBytes() != lineBytes_) continue;

@@ -1,38 +1,39 @@
 #include "input/JsonInput.h"
 
-#include <nlohmann/json.hpp>
+#include <rapidjson/writer.h>
 
 #include "input/EntryReader.h"
-#include "input/JsonSyntax.h"
 #include "model/Failure.h"
 #include "model/Text.h"
 
 namespace Tool {
 namespace {
 
-using nlohmann::json;
+std::string_view textOf(const JsonValue& text) {
+  return {text.GetString(), text.GetStringLength()};
+}
 
 [[noreturn]] void failValue(const FieldPlace& place, const char* what) {
   fail("{}: {}; give a number, a text such as \"0x1f\" or \"0-3,17\", or a list of ports",
        place.name(), what);
 }
 
-Value portsValue(const FieldPlace& place, const json& list) {
+Value portsValue(const FieldPlace& place, const JsonValue& list) {
   if (!place.isBitmap()) failValue(place, "the field is not a bitmap");
   Value value(place.width);
-  for (const json& port : list) {
-    if (!port.is_number_unsigned()) failValue(place, "a port must be a number");
-    addPort(place, value, port.get<U64>());
+  for (const JsonValue& port : list.GetArray()) {
+    if (!port.IsUint64()) failValue(place, "a port must be a number");
+    addPort(place, value, port.GetUint64());
   }
   return value;
 }
 
-Value valueOf(const FieldPlace& place, const json& value);
+Value valueOf(const FieldPlace& place, const JsonValue& value);
 
 /// {"hex": ..., "decimal": ..., "ports": [...]}: one or more of them, with the same value.
-Value objectValue(const FieldPlace& place, const json& object) {
+Value objectValue(const FieldPlace& place, const JsonValue& object) {
   std::optional<Value> result;
-  for (const auto& [key, member] : object.items()) {
+  for (const auto& [key, member] : object.GetObject()) {
     if (key != "hex" && key != "decimal" && key != "ports") {
       failValue(place, "a value has the members hex, decimal and ports only");
     }
@@ -44,27 +45,28 @@ Value objectValue(const FieldPlace& place, const json& object) {
   return *result;
 }
 
-Value valueOf(const FieldPlace& place, const json& value) {
-  if (value.is_number_unsigned()) return makeValue(place, value.get<U64>());
-  if (value.is_boolean()) return makeValue(place, value.get<bool>() ? 1 : 0);
-  if (value.is_string()) return parseValue(place, value.get<std::string>());
-  if (value.is_array()) return portsValue(place, value);
-  if (value.is_object()) return objectValue(place, value);
-  failValue(place, value.is_number() ? "negative or fractional number" : "no value");
+Value valueOf(const FieldPlace& place, const JsonValue& value) {
+  if (value.IsUint64()) return makeValue(place, value.GetUint64());
+  if (value.IsBool()) return makeValue(place, value.GetBool() ? 1 : 0);
+  if (value.IsString()) return parseValue(place, textOf(value));
+  if (value.IsArray()) return portsValue(place, value);
+  if (value.IsObject()) return objectValue(place, value);
+  failValue(place, value.IsNumber() ? "not a whole number of up to 64 bits" : "no value");
 }
 
-std::vector<Assignment> assignmentsOf(const Layout& layout, const json& fields) {
+std::vector<Assignment> assignmentsOf(const Layout& layout, const JsonValue& fields) {
   std::vector<Assignment> assignments;
-  for (const auto& [name, value] : fields.items()) {
-    const FieldPlace& place = layout.find(name);
+  assignments.reserve(fields.MemberCount());
+  for (const auto& [name, value] : fields.GetObject()) {
+    const FieldPlace& place = layout.find(textOf(name));
     assignments.push_back({place, valueOf(place, value)});
   }
   return assignments;
 }
 
 /// The whole entry as a number, of which only reserved bits may be set.
-std::vector<U8> reservedBitsOf(const Layout& layout, const json& member) {
-  const std::string text = member.is_string() ? member.get<std::string>() : "";
+std::vector<U8> reservedBitsOf(const Layout& layout, const JsonValue& member) {
+  const std::string_view text = member.IsString() ? textOf(member) : "";
   FieldPlace whole = layout.wholeEntry();
   whole.field.accessor = "outsideFields";
   const Value value = parseValue(whole, text);
@@ -78,78 +80,81 @@ std::vector<U8> reservedBitsOf(const Layout& layout, const json& member) {
   return bits;
 }
 
-/// Fails unless a member, where it is there, has this value.
-void checkMember(const json& object, const char* key, const json& expected) {
-  const auto member = object.find(key);
-  if (member == object.end() || *member == expected) return;
-  fail("{}: {}, not {}; check the file, and table, chip and variant", key,
-       printable(member->dump(-1, ' ', true)).substr(0, 60), expected.dump());
+/// JSON as messages quote it.
+std::string shown(const JsonValue& value) {
+  JsonBuffer text;
+  rapidjson::Writer<JsonBuffer, rapidjson::UTF8<>, rapidjson::ASCII<>, JsonMemory> writer(text);
+  value.Accept(writer);
+  return printable(text.GetString()).substr(0, 60);
 }
 
-std::string textOf(const json& object, const char* key, const char* absent) {
-  const auto member = object.find(key);
-  if (member == object.end()) return absent;
-  if (!member->is_string()) fail("{}: not a text; give a name in quotes", key);
-  return member->get<std::string>();
+/// Fails unless a member, where it is there, has this value.
+void checkMember(const JsonValue& object, const char* key, const JsonValue& expected) {
+  const auto member = object.FindMember(key);
+  if (member == object.MemberEnd() || member->value == expected) return;
+  fail("{}: {}, not {}; check the file, and table, chip and variant", key, shown(member->value),
+       shown(expected));
+}
+
+std::string nameIn(const JsonValue& object, const char* key, const char* absent) {
+  const auto member = object.FindMember(key);
+  if (member == object.MemberEnd()) return absent;
+  if (!member->value.IsString()) fail("{}: not a text; give a name in quotes", key);
+  return std::string(textOf(member->value));
 }
 
 /// The table, chip and variant of an entry must be those of the command line.
-void checkSource(const Layout& layout, const json& object) {
-  const std::string table = textOf(object, "table", layout.name());
-  const std::string chip = textOf(object, "chip", layout.chip().name);
+void checkSource(const Layout& layout, const JsonValue& object) {
+  const std::string table = nameIn(object, "table", layout.name());
+  const std::string chip = nameIn(object, "chip", layout.chip().name);
   if (simplified(table) != simplified(layout.name()) || chip != layout.chip().name) {
     fail("an entry of {} on {}, not of {} on {}; give that table and chip", inQuotes(table),
          inQuotes(chip), layout.name(), layout.chip().name);
   }
-  checkMember(object, "variant", layout.variant());
+  checkMember(object, "variant", JsonValue(U32{layout.variant()}));
 }
 
 /// What a document says of itself must be true.
-void checkHead(const Layout& layout, const json& head) {
-  checkMember(head, "format", "velmar-entries");
-  checkMember(head, "version", 1);
+void checkHead(const Layout& layout, const JsonValue& head) {
+  checkMember(head, "format", JsonValue("velmar-entries"));
+  checkMember(head, "version", JsonValue(1));
   checkSource(layout, head);
-  checkMember(head, "entryBytes", layout.entryBytes());
-  const auto fields = head.find("layout");
-  if (fields == head.end()) return;
-  if (!fields->is_object()) fail("layout: not an object; check the file");
-  for (const auto& [name, range] : fields->items()) {
-    const FieldPlace& place = layout.find(name);
-    const json expected = {{"offset", place.offset}, {"width", place.width}};
-    if (range != expected) {
+  checkMember(head, "entryBytes", JsonValue(layout.entryBytes()));
+  const auto fields = head.FindMember("layout");
+  if (fields == head.MemberEnd()) return;
+  if (!fields->value.IsObject()) fail("layout: not an object; check the file");
+  for (const auto& [name, range] : fields->value.GetObject()) {
+    const FieldPlace& place = layout.find(textOf(name));
+    const bool isPlace = range.IsObject() && range.MemberCount() == 2 &&
+                         range.HasMember("offset") && range["offset"] == place.offset &&
+                         range.HasMember("width") && range["width"] == place.width;
+    if (!isPlace) {
       fail("layout: {} is not at {} with width {}, where it is on {}; check the chip", place.name(),
            place.offset, place.width, layout.chip().name);
     }
   }
 }
 
-/// Names in an object and in all objects in it.
-size_t countNames(const json& value) {
-  if (!value.is_structured()) return 0;
-  size_t count = value.is_object() ? value.size() : 0;
-  for (const json& member : value) count += countNames(member);
-  return count;
-}
-
-JsonInput::Object objectOf(const Layout& layout, const json& members, U64 nextIndex) {
-  if (!members.contains("fields")) return {std::nullopt, assignmentsOf(layout, members), {}};
+JsonInput::Object objectOf(const Layout& layout, const JsonValue& members, U64 nextIndex) {
+  if (!members.HasMember("fields"))
+    return {std::nullopt, false, assignmentsOf(layout, members), {}};
   checkSource(layout, members);
   JsonInput::Object object;
   object.index = nextIndex;
-  for (const auto& [key, member] : members.items()) {
+  for (const auto& [key, member] : members.GetObject()) {
     if (key == "index") {
-      if (!member.is_number_unsigned() || member.get<U64>() > 0xffffffff) {
-        fail("index: not a number; give the index of the entry");
-      }
-      object.index = member.get<U64>();
+      if (!member.IsUint()) fail("index: not a number; give the index of the entry");
+      object.index = member.GetUint();
+      object.isNumbered = true;
     } else if (key == "fields") {
-      if (!member.is_object()) fail("fields: not an object; give {{\"field\": value}}");
+      if (!member.IsObject()) fail("fields: not an object; give {{\"field\": value}}");
       object.assignments = assignmentsOf(layout, member);
     } else if (key == "outsideFields") {
       object.reservedBits = reservedBitsOf(layout, member);
     } else if (key != "table" && key != "chip" && key != "variant" && key != "address" &&
                key != "accessType" && key != "block") {
-      fail("unknown member {}; an entry has index, fields and outsideFields", inQuotes(key));
+      fail("unknown member {}; an entry has index, fields and outsideFields",
+           inQuotes(textOf(key)));
     }
   }
   return object;
@@ -173,6 +178,7 @@ class JsonReader : public EntryReader {
           "--format json prints",
           input_.name(), input_.line());
     }
+    if (object.isNumbered) checkFirst();
     builder_.startFromZero();
     try {
       for (const Assignment& assignment : object.assignments) builder_.set(assignment);
@@ -197,31 +203,81 @@ JsonInput::JsonInput(std::unique_ptr<ByteStream> stream, const Layout& layout, U
     : stream_(std::move(stream)), text_(*stream_), layout_(layout), index_(first) {}
 
 bool JsonInput::next(Object& object) {
-  std::string text;
   for (;;) {
-    const JsonText::Chunk kind = text_.next(text);
-    if (kind == JsonText::Chunk::end) {
-      if (!isStarted_) fail("{}: no entry; check the file", name());
-      return false;
-    }
-    isStarted_ = true;
-    const json members = json::parse(text, nullptr, false);
-    if (members.is_discarded() || countNames(members) != text_.names()) {
-      const JsonFault fault = faultOf(text);
-      text_.failAt(text, fault.at, fault.expected);
-    }
+    JsonDocument value;
+    const Part part = readPart(value);
+    if (part == Part::end) return false;
     try {
-      if (kind == JsonText::Chunk::head) {
-        checkHead(layout_, members);
+      if (part == Part::head) {
+        checkHead(layout_, value);
         continue;
       }
-      object = objectOf(layout_, members, index_);
+      object = objectOf(layout_, value, index_);
       if (object.index) index_ = *object.index + 1;
       return true;
     } catch (const Failure& failure) {
       fail("{}:{}: {}", name(), line(), failure.what());
     }
   }
+}
+
+JsonInput::Part JsonInput::readPart(JsonDocument& value) {
+  value.SetObject();
+  text_.startPart();
+  if (list_ != List::none) return readInList(value);
+  if (text_.peek() == '\0') {
+    if (!isStarted_) fail("{}: no entry; check the file", name());
+    return Part::end;
+  }
+  if (text_.takeIf('[')) {
+    startList(List::plain);
+    return readInList(value);
+  }
+  isStarted_ = true;
+  text_.expect('{', "an entry in braces is expected");
+  if (text_.takeIf('}')) return Part::entry;
+  return readMembers(value) ? Part::head : Part::entry;
+}
+
+JsonInput::Part JsonInput::readInList(JsonDocument& value) {
+  if (text_.takeIf(']')) {
+    const bool hasTail = std::exchange(list_, List::none) == List::ofDocument;
+    if (!hasTail || text_.takeIf('}')) return Part::head;
+    text_.expect(',', "a comma or } is expected after the entries");
+    if (readMembers(value)) text_.fail("a second list of entries");
+    return Part::head;
+  }
+  if (!std::exchange(isFirst_, false)) text_.expect(',', "a comma or ] is expected");
+  text_.startPart();
+  if (text_.peek() != '{') text_.fail("an entry in braces is expected");
+  isStarted_ = true;
+  text_.read(value);
+  return Part::entry;
+}
+
+bool JsonInput::readMembers(JsonDocument& object) {
+  auto& allocator = object.GetAllocator();
+  do {
+    JsonDocument name(&allocator), value(&allocator);
+    if (text_.peek() != '"') text_.fail("a name in quotes is expected");
+    text_.read(name);
+    text_.expect(':', "a colon is expected after the name");
+    if (name == "entries") {
+      text_.expect('[', "a list of the entries is expected");
+      startList(List::ofDocument);
+      return true;
+    }
+    if (object.HasMember(name)) text_.fail("the name before is given twice; give it once");
+    text_.read(value);
+    object.AddMember(name, value, allocator);
+  } while (text_.takeIf(','));
+  text_.expect('}', "a comma or } is expected");
+  return false;
+}
+
+void JsonInput::startList(List list) {
+  list_ = list;
+  isFirst_ = true;
 }
 
 std::unique_ptr<EntryReader> openJson(std::unique_ptr<ByteStream> stream, const Layout& layout,

@@ -17,6 +17,7 @@ class JsonInput {
   /// What one object says of an entry.
   struct Object {
     std::optional<U64> index;  ///< absent for a plain object of values
+    bool isNumbered = false;   ///< the object itself has the index
     std::vector<Assignment> assignments;
     std::vector<U8> reservedBits;  ///< empty where they are not given
   };
@@ -27,11 +28,26 @@ class JsonInput {
   U64 line() const { return text_.line(); }
 
  private:
+  enum class Part {
+    entry,
+    head,  ///< the members of a document that are not its entries, or none
+    end
+  };
+  enum class List { none, plain, ofDocument };
+
+  Part readPart(JsonDocument& value);
+  Part readInList(JsonDocument& value);
+  /// Reads the members of an object up to its end; true where it stops at a list of entries.
+  bool readMembers(JsonDocument& object);
+  void startList(List list);
+
   std::unique_ptr<ByteStream> stream_;
   JsonText text_;
   const Layout& layout_;
   U64 index_;
   bool isStarted_ = false;
+  List list_ = List::none;  ///< the list that is being read
+  bool isFirst_ = false;    ///< no entry of it was read
 };
 
 }  // namespace Tool

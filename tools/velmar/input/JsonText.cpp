@@ -6,172 +6,157 @@
 #include "model/Text.h"
 
 namespace Tool {
+namespace {
 
-int JsonText::peek() {
-  if (stream_.size() == 0 && !stream_.readMore()) return -1;
-  return *stream_.data();
-}
-
-char JsonText::take() {
-  const char letter = static_cast<char>(*stream_.data());
-  ++column_;
-  if (letter == '\n') {
-    ++line_;
-    column_ = 1;
-  }
-  stream_.take(1);
-  return letter;
-}
-
-void JsonText::startChunk() {
-  chunkLine_ = line_;
-  chunkColumn_ = column_;
-  names_ = 0;
-}
-
-void JsonText::skipBlanks() {
-  for (;;) {
-    const int letter = peek();
-    if (letter < 0 || (letter != '\n' && !isBlank(static_cast<char>(letter)))) return;
-    take();
-  }
-}
-
-void JsonText::fail(const char* what) const {
-  Tool::fail("{}:{}:{}: {}; give JSON such as decode --format json prints", stream_.name(), line_,
-             column_, what);
-}
-
-void JsonText::failAt(const std::string& text, size_t at, const std::string& what) const {
-  U64 line = chunkLine_, column = chunkColumn_;
-  for (size_t i = 0; i < at; ++i) {
-    ++column;
-    if (text[i] == '\n') {
-      ++line;
-      column = 1;
-    }
-  }
-  Tool::fail("{}:{}:{}: {}{}", stream_.name(), line, column, what,
-             what.find(';') == std::string::npos ? "; check the JSON" : "");
-}
-
-JsonText::Chunk JsonText::next(std::string& text) {
-  for (;;) {
-    skipBlanks();
-    startChunk();
-    const int letter = peek();
-    if (state_ == State::tail) {
-      if (letter < 0) fail("the document ends early");
-      text = "{";
-      const char separator = take();
-      if (separator != ',' && separator != '}') fail("a comma or } is missing after the entries");
-      if (separator == ',') {
-        skipBlanks();
-        startChunk();
-        if (chunkColumn_ > 1) --chunkColumn_;  // the brace that was put before
-        if (peek() != '"') fail("a name in quotes is expected after the comma");
-        if (readMembers(text)) fail("a second array of entries");
-      } else {
-        text += '}';
-      }
-      state_ = State::outside;
-      return Chunk::head;
-    }
-    if (letter < 0) {
-      if (state_ != State::outside) fail("the array ends early");
-      return Chunk::end;
-    }
-    if (state_ != State::outside && letter == ']') {
-      if (needsEntry_) fail("an entry is expected after the comma");
-      take();
-      state_ = state_ == State::entries ? State::tail : State::outside;
-      needsComma_ = false;
-      continue;
-    }
-    if (state_ != State::outside && needsComma_) {
-      if (letter != ',') fail("a comma is missing between two entries");
-      take();
-      needsComma_ = false;
-      needsEntry_ = true;
-      continue;
-    }
-    if (state_ == State::outside && letter == '[') {
-      take();
-      state_ = State::array;
-      continue;
-    }
-    if (letter != '{') fail("an entry must be an object in braces");
-    needsEntry_ = false;
-    text = take();
-    if (!readMembers(text)) {
-      needsComma_ = state_ != State::outside;
-      return Chunk::entry;
-    }
-    if (state_ != State::outside) fail("entries inside an entry");
-    state_ = State::entries;
-    return Chunk::head;
+const char* expectedAt(rapidjson::ParseErrorCode code) {
+  switch (code) {
+    case rapidjson::kParseErrorObjectMissName:
+      return "a name in quotes is expected";
+    case rapidjson::kParseErrorObjectMissColon:
+      return "a colon is expected after the name";
+    case rapidjson::kParseErrorObjectMissCommaOrCurlyBracket:
+      return "a comma or } is expected";
+    case rapidjson::kParseErrorArrayMissCommaOrSquareBracket:
+      return "a comma or ] is expected";
+    case rapidjson::kParseErrorStringUnicodeEscapeInvalidHex:
+    case rapidjson::kParseErrorStringUnicodeSurrogateInvalid:
+      return "the hexadecimal number of a letter is expected after \\u";
+    case rapidjson::kParseErrorStringEscapeInvalid:
+      return "one of \" \\ / b f n r t u is expected after a backslash";
+    case rapidjson::kParseErrorStringMissQuotationMark:
+      return "a closing quotation mark is expected";
+    case rapidjson::kParseErrorStringInvalidEncoding:
+      return "the text is not UTF-8";
+    case rapidjson::kParseErrorNumberTooBig:
+      return "the number is too large";
+    case rapidjson::kParseErrorNumberMissFraction:
+    case rapidjson::kParseErrorNumberMissExponent:
+      return "a digit is expected";
+    default:
+      return "a value is expected";
   }
 }
 
-bool JsonText::readMembers(std::string& text) {
+/// Checks the objects in a value: no name twice, and not too many in one another.
+/// Returns what is wrong; empty where nothing is.
+std::string faultIn(const JsonValue& value, U32 depth = 1) {
   constexpr U32 deepest = 16;
-  U32 depth = 1;
-  size_t key = 0;
-  while (depth > 0) {
-    const int letter = peek();
-    if (letter < 0) fail("an object ends early");
-    if (text.size() > longestChunk) fail("an entry has more than 1 MiB");
-    if (letter == '"') {
-      key = text.size();
-      readString(text);
-      skipBlanks();
-      const bool isEntriesKey =
-          depth == 1 && peek() == ':' && text.compare(key, std::string::npos, "\"entries\"") == 0;
-      if (!isEntriesKey) continue;
-      take();
-      skipBlanks();
-      if (peek() != '[') fail("\"entries\" must be an array");
-      take();
-      text.erase(key);
-      text.erase(text.find_last_not_of(" \t\r\n") + 1);
-      if (text.back() == ',') text.pop_back();
-      text += '}';
-      return true;
+  if (depth > deepest) return "objects nested too deeply";
+  std::string fault;
+  if (value.IsArray()) {
+    for (auto member = value.Begin(); fault.empty() && member != value.End(); ++member) {
+      fault = faultIn(*member, depth + 1);
     }
-    text += take();
-    if (letter == ':') ++names_;
-    if (letter == '{' || letter == '[') ++depth;
-    if (letter == '}' || letter == ']') --depth;
-    if (depth > deepest) fail("objects nested too deeply");
+  } else if (value.IsObject()) {
+    for (auto member = value.MemberBegin(); fault.empty() && member != value.MemberEnd();
+         ++member) {
+      const bool isFirst = value.FindMember(member->name) == member;
+      fault = isFirst ? faultIn(member->value, depth + 1)
+                      : formatText("the name {} is given twice; give it once",
+                                   inQuotes(member->name.GetString()));
+    }
   }
-  return false;
+  return fault;
 }
 
-void JsonText::readString(std::string& text) {
-  text += take();
-  for (;;) {
-    if (peek() < 0) fail("a string ends early");
-    if (text.size() > longestChunk) fail("an entry has more than 1 MiB");
-    // What is neither the end nor a backslash is taken at once.
-    const std::string_view ahead = stream_.text();
-    const size_t most = std::min(ahead.size(), longestChunk + 1 - text.size());
-    size_t plain = 0;
-    while (plain < most && ahead[plain] != '"' && ahead[plain] != '\\' && ahead[plain] != '\n') {
-      ++plain;
+}  // namespace
+
+/// The letters of the stream, as the library reads them.
+class JsonText::Source {
+ public:
+  using Ch = char;
+
+  explicit Source(JsonText& text) : text_(text) { update(); }
+
+  char Peek() {
+    if (text_.at_ == end_) {
+      if (!text_.readMore()) return '\0';
+      update();
     }
-    const bool isEnd = plain < most && ahead[plain] == '"';
-    if (isEnd) ++plain;
-    text.append(ahead.data(), plain);
-    stream_.take(plain);
-    column_ += plain;
-    if (isEnd) return;
-    if (plain == most) continue;
-    const char letter = take();
-    text += letter;
-    if (letter != '\\') continue;
-    if (peek() < 0) fail("a string ends early");
-    text += take();
+    return letters_[text_.at_];
   }
+  char Take() {
+    const char letter = Peek();
+    if (letter != '\0') ++text_.at_;
+    return letter;
+  }
+  size_t Tell() const { return text_.at_; }
+
+  // The library needs these for writing only.
+  char* PutBegin() { return nullptr; }
+  void Put(char) {}
+  size_t PutEnd(char*) { return 0; }
+
+ private:
+  void update() {
+    letters_ = text_.stream_.text().data();
+    end_ = std::min(text_.stream_.size(), longestPart);
+  }
+
+  JsonText& text_;
+  const char* letters_ = nullptr;
+  size_t end_ = 0;
+};
+
+bool JsonText::readMore() {
+  if (at_ >= longestPart) fail("an entry has more than 1 MiB");
+  return stream_.readMore();
+}
+
+char JsonText::peek() {
+  for (;; ++at_) {
+    if (at_ == stream_.size() && !readMore()) return '\0';
+    const char letter = stream_.text()[at_];
+    if (letter != '\n' && !isBlank(letter)) return letter;
+  }
+}
+
+bool JsonText::takeIf(char letter) {
+  if (peek() != letter) return false;
+  ++at_;
+  return true;
+}
+
+void JsonText::expect(char letter, const char* what) {
+  if (!takeIf(letter)) fail(what);
+}
+
+void JsonText::read(JsonDocument& value) {
+  constexpr unsigned flags = rapidjson::kParseIterativeFlag | rapidjson::kParseStopWhenDoneFlag |
+                             rapidjson::kParseValidateEncodingFlag;
+  peek();
+  const size_t begin = at_;
+  Source source(*this);
+  value.ParseStream<flags>(source);
+  if (value.HasParseError()) {
+    // An error of a text or number is where that begins.
+    failAt(std::max(begin, value.GetErrorOffset()), expectedAt(value.GetParseError()));
+  }
+  const std::string fault = faultIn(value);
+  if (!fault.empty()) failAt(begin, fault);
+}
+
+void JsonText::startPart() {
+  peek();
+  countLines(at_, line_, column_);
+  stream_.take(at_);
+  at_ = 0;
+}
+
+void JsonText::countLines(size_t end, U64& line, U64& column) const {
+  const std::string_view text = stream_.text().substr(0, end);
+  const size_t newLine = text.rfind('\n');
+  line += static_cast<U64>(std::count(text.begin(), text.end(), '\n'));
+  column = newLine == std::string_view::npos ? column + end : end - newLine;
+}
+
+void JsonText::failAt(size_t at, const std::string& what) const {
+  U64 line = line_, column = column_;
+  countLines(at, line, column);
+  const char* const remedy = what.find(';') != std::string::npos ? ""
+                             : at == stream_.size()              ? "; the JSON ends too early"
+                                                                 : "; check the JSON";
+  Tool::fail("{}:{}:{}: {}{}", stream_.name(), line, column, what, remedy);
 }
 
 }  // namespace Tool

@@ -3,53 +3,45 @@
 #include <string>
 
 #include "input/ByteStream.h"
+#include "model/Json.h"
 
 namespace Tool {
 
-/// Splits a stream of JSON into the objects of single entries, so that a document of any size is read
-/// in bounded memory. It takes objects one after another, arrays of objects, and documents with an
-/// array "entries".
+/// Reads the parts of a JSON document one after another, so that a document of any size is read in
+/// bounded memory. Its failures tell line and column.
 class JsonText {
  public:
   explicit JsonText(ByteStream& stream) : stream_(stream) {}
 
-  enum class Chunk {
-    entry,  ///< an object
-    head,   ///< an object with the members of a document that are not its entries
-    end
-  };
-  /// Reads the next chunk.
-  Chunk next(std::string& text);
-  /// Line on which the last chunk began.
-  U64 line() const { return chunkLine_; }
-  /// Number of the colons outside texts in the last chunk: one for each name.
-  size_t names() const { return names_; }
-  /// Fails with the place of a letter of the last chunk.
-  [[noreturn]] void failAt(const std::string& text, size_t at, const std::string& what) const;
+  /// The next letter that is not a blank; 0 at the end.
+  char peek();
+  /// Takes the next letter that is not a blank, if it is this one.
+  bool takeIf(char letter);
+  /// Takes it, or fails and says what is expected.
+  void expect(char letter, const char* what);
+  /// Reads a value. No object in it has a name twice.
+  void read(JsonDocument& value);
+
+  /// Begins a new part at the next letter that is not a blank. A part may not be longer than 1 MiB.
+  void startPart();
+  /// Line on which the part begins.
+  U64 line() const { return line_; }
+  /// Fails at the next letter.
+  [[noreturn]] void fail(const std::string& what) { failAt(at_, what); }
 
  private:
-  static constexpr size_t longestChunk = 1U << 20;
+  static constexpr size_t longestPart = 1U << 20;
 
-  enum class State { outside, array, entries, tail };
+  class Source;
 
-  int peek();
-  char take();
-  void skipBlanks();
-  void startChunk();
-  /// Reads the members of an object up to its end; true where it stops after `"entries": [`.
-  bool readMembers(std::string& text);
-  void readString(std::string& text);
-  [[noreturn]] void fail(const char* what) const;
+  bool readMore();
+  void countLines(size_t end, U64& line, U64& column) const;
+  [[noreturn]] void failAt(size_t at, const std::string& what) const;
 
   ByteStream& stream_;
-  State state_ = State::outside;
-  bool needsComma_ = false;
-  bool needsEntry_ = false;  ///< a comma was read, and an entry must follow
-  size_t names_ = 0;
-  U64 line_ = 1;
+  size_t at_ = 0;  ///< bytes of the part that were read
+  U64 line_ = 1;   ///< where the part begins
   U64 column_ = 1;
-  U64 chunkLine_ = 1;
-  U64 chunkColumn_ = 1;
 };
 
 }  // namespace Tool

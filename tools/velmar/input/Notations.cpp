@@ -139,9 +139,10 @@ struct Notation {
 
 // The first that fits is taken.
 constexpr Notation notations[] = {
-    {"", isUtf16, refuseUtf16},   {"raw", isRaw, openRaw},      {"json", isJson, openJson},
-    {"xxd", isXxd, openXxd},      {"", isHexdump, openHexdump}, {"", isOd, openOd},
-    {"", isBase64, refuseBase64}, {"hex", isHex, openHex},
+    {"", isUtf16, refuseUtf16},          {"raw", isRaw, openRaw},
+    {"json", isJson, openJson},          {"xxd", isXxd, openXxd},
+    {"hexdump", isHexdump, openHexdump}, {"od", isOd, openOd},
+    {"", isBase64, refuseBase64},        {"hex", isHex, openHex},
 };
 
 const Notation& notationOf(ByteStream& stream, const InputOptions& options) {

@@ -20,10 +20,6 @@ class WholeWriter : public EntryWriter {
       : writer_(std::move(writer)), layout_(layout), zeros_(layout.entryBytes()) {}
 
   void write(const Entry& entry) override {
-    if (entry.index >= layout_.indexCount()) {
-      fail("entry {} is beyond the {} of {} on {}; leave out --whole, or check table and chip",
-           entry.index, layout_.indexCount(), layout_.name(), layout_.chip().name);
-    }
     if (entry.index < next_) {
       fail("entry {} comes after entry {}; --whole needs the entries in ascending order",
            entry.index, next_ - 1);
@@ -179,6 +175,12 @@ class Encoder {
     builder_.setReservedBits(values_.object()->reservedBits);
   }
 
+  void checkIndex(U64 index) const {
+    if (index < layout_.indexCount()) return;
+    fail("{}: entry {} is beyond the end of {} on {}, which has {}; check table and chip",
+         values_.place(), index, layout_.name(), layout_.chip().name, layout_.indexCount());
+  }
+
   void makeSelected() {
     const U64 last = selected_.isAll() ? 0 : selected_.last();
     for (U64 index = selected_.first(); index <= last; ++index) {
@@ -191,6 +193,7 @@ class Encoder {
 
   void makeFromDocument() {
     for (; values_.object() != nullptr; values_.takeObject()) {
+      checkIndex(*values_.object()->index);
       builder_.startFromZero();
       setObject();
       setCommon(*values_.object()->index);

@@ -1,6 +1,7 @@
-#include <nlohmann/json.hpp>
+#include <rapidjson/prettywriter.h>
 
 #include "model/Failure.h"
+#include "model/Json.h"
 #include "model/Layout.h"
 #include "output/Output.h"
 #include "verbs/Target.h"
@@ -9,55 +10,102 @@
 namespace Tool {
 namespace {
 
-using Json = nlohmann::ordered_json;
+/// A JSON document that is being written.
+class Document {
+ public:
+  Document() : json_(text_) { json_.SetIndent(' ', 1); }
 
-Json fieldAsJson(const Catalogue::Field& field) {
-  return {{"accessor", field.accessor},
-          {"hardwareName", field.hardwareName},
-          {"id", field.id},
-          {"type", Catalogue::valueTypeName(field.type)},
-          {"overlaps", field.overlaps},
-          {"meaning", field.meaning}};
+  /// Writes {...} around what `members` writes, and [...] around what `elements` writes.
+  template <class Members>
+  void object(const Members& members) {
+    json_.StartObject();
+    members();
+    json_.EndObject();
+  }
+  template <class Elements>
+  void list(const char* name, const Elements& elements) {
+    json_.Key(name);
+    json_.StartArray();
+    elements();
+    json_.EndArray();
+  }
+
+  void name(const std::string& name) { json_.Key(name.c_str()); }
+  void text(const std::string& text) { json_.String(text.c_str()); }
+  void member(const char* key, const std::string& value) { name(key), text(value); }
+  void member(const char* key, U32 value) { name(key), json_.Uint(value); }
+  void flag(const char* key, bool value) { name(key), json_.Bool(value); }
+
+  const char* json() const { return text_.GetString(); }
+
+ private:
+  JsonBuffer text_;
+  rapidjson::PrettyWriter<JsonBuffer, rapidjson::UTF8<>, rapidjson::UTF8<>, JsonMemory> json_;
+};
+
+void writeField(Document& document, const Catalogue::Field& field) {
+  document.object([&] {
+    document.member("accessor", field.accessor);
+    document.member("hardwareName", field.hardwareName);
+    document.member("id", field.id);
+    document.member("type", Catalogue::valueTypeName(field.type));
+    document.flag("overlaps", field.overlaps);
+    document.member("meaning", field.meaning);
+  });
 }
 
-Json layoutAsJson(const Layout& layout) {
-  const Catalogue::Geometry& geometry = layout.geometry();
-  Json fields = Json::object();
-  for (const FieldPlace& place : layout.fields()) {
-    Json& bits = fields[place.name()] = {{"offset", place.offset}, {"width", place.width}};
+void writePlace(Document& document, const Layout& layout, const FieldPlace& place) {
+  document.name(place.name());
+  document.object([&] {
+    document.member("offset", place.offset);
+    document.member("width", place.width);
     const std::vector<std::string> others = layout.overlapsOf(place);
-    if (!others.empty()) bits["sharesBitsWith"] = others;
-  }
-  return {{"chip", layout.chip().name},
-          {"variants", geometry.variants == Catalogue::Variants::any ? "any" : "zeroOnly"},
-          {"entryBytes", 4U * geometry.words},
-          {"entries", geometry.entries},
-          {"arrayElements", geometry.arrayElements},
-          {"addrStride", geometry.addrStride},
-          {"identifiers", geometry.identifiers},
-          {"identifierTerm", geometry.identifierTerm},
-          {"base", addressText(geometry.base)},
-          {"accessType", geometry.accessType},
-          {"block", geometry.block},
-          {"fields", std::move(fields)}};
+    if (others.empty()) return;
+    document.list("sharesBitsWith", [&] {
+      for (const std::string& other : others) document.text(other);
+    });
+  });
 }
 
-Json tableAsJson(const Catalogue::Table& table, const std::vector<Catalogue::Chip>& chips,
-                 U8 variant) {
-  Json fields = Json::array();
-  for (U32 i = 0; i < table.fieldCount(); ++i) fields.push_back(fieldAsJson(table.field(i)));
-  Json layouts = Json::array();
-  for (const Catalogue::Chip& chip : chips) {
-    if (table.isOn(chip.number, variant))
-      layouts.push_back(layoutAsJson(Layout(table, chip, variant)));
-  }
-  return {{"name", table.name()},
-          {"purpose", table.purpose()},
-          {"kind", table.kind() == Catalogue::Kind::table ? "table" : "registerArray"},
-          {"rawBytes", table.rawBytes()},
-          {"allFieldsBytes", table.allFieldsBytes()},
-          {"fields", std::move(fields)},
-          {"layouts", std::move(layouts)}};
+void writeLayout(Document& document, const Layout& layout) {
+  const Catalogue::Geometry& geometry = layout.geometry();
+  document.object([&] {
+    document.member("chip", layout.chip().name);
+    document.member("variants", geometry.variants == Catalogue::Variants::any ? "any" : "zeroOnly");
+    document.member("entryBytes", 4U * geometry.words);
+    document.member("entries", geometry.entries);
+    document.member("arrayElements", geometry.arrayElements);
+    document.member("addrStride", geometry.addrStride);
+    document.member("identifiers", geometry.identifiers);
+    document.member("identifierTerm", geometry.identifierTerm);
+    document.member("base", addressText(geometry.base));
+    document.member("accessType", geometry.accessType);
+    document.member("block", geometry.block);
+    document.name("fields");
+    document.object([&] {
+      for (const FieldPlace& place : layout.fields()) writePlace(document, layout, place);
+    });
+  });
+}
+
+void writeTable(Document& document, const Catalogue::Table& table,
+                const std::vector<Catalogue::Chip>& chips, U8 variant) {
+  document.object([&] {
+    document.member("name", table.name());
+    document.member("purpose", table.purpose());
+    document.member("kind", table.kind() == Catalogue::Kind::table ? "table" : "registerArray");
+    document.member("rawBytes", table.rawBytes());
+    document.member("allFieldsBytes", table.allFieldsBytes());
+    document.list("fields", [&] {
+      for (U32 i = 0; i < table.fieldCount(); ++i) writeField(document, table.field(i));
+    });
+    document.list("layouts", [&] {
+      for (const Catalogue::Chip& chip : chips) {
+        if (!table.isOn(chip.number, variant)) continue;
+        writeLayout(document, Layout(table, chip, variant));
+      }
+    });
+  });
 }
 
 std::vector<Catalogue::Chip> chipsOf(const Arguments& arguments) {
@@ -78,17 +126,26 @@ std::vector<Catalogue::Table> tablesOf(const Arguments& arguments,
 
 int run(const Arguments& arguments) {
   const std::vector<Catalogue::Chip> chips = chipsOf(arguments);
-  Json document = {{"format", "velmar-catalogue"}, {"version", 1}};
-  document["chips"] = Json::array();
-  for (const Catalogue::Chip& chip : chips) {
-    document["chips"].push_back({{"name", chip.name}, {"number", chip.number}});
-  }
-  document["tables"] = Json::array();
-  for (const Catalogue::Table& table : tablesOf(arguments, chips)) {
-    document["tables"].push_back(tableAsJson(table, chips, variantOf(arguments)));
-  }
+  Document document;
+  document.object([&] {
+    document.member("format", "velmar-catalogue");
+    document.member("version", 1);
+    document.list("chips", [&] {
+      for (const Catalogue::Chip& chip : chips) {
+        document.object([&] {
+          document.member("name", chip.name);
+          document.member("number", chip.number);
+        });
+      }
+    });
+    document.list("tables", [&] {
+      for (const Catalogue::Table& table : tablesOf(arguments, chips)) {
+        writeTable(document, table, chips, variantOf(arguments));
+      }
+    });
+  });
   Output output(arguments.output, "never");
-  output.print("{}\n", document.dump(1));
+  output.print("{}\n", document.json());
   output.finish();
   return exitSuccess;
 }
