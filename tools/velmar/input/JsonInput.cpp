@@ -33,7 +33,8 @@ Value valueOf(const FieldPlace& place, const JsonValue& value);
 /// {"hex": ..., "decimal": ..., "ports": [...]}: one or more of them, with the same value.
 Value objectValue(const FieldPlace& place, const JsonValue& object) {
   std::optional<Value> result;
-  for (const auto& [key, member] : object.GetObject()) {
+  for (const auto& [name, member] : object.GetObject()) {
+    const std::string_view key = textOf(name);
     if (key != "hex" && key != "decimal" && key != "ports") {
       failValue(place, "a value has the members hex, decimal and ports only");
     }
@@ -141,7 +142,8 @@ JsonInput::Object objectOf(const Layout& layout, const JsonValue& members, U64 n
   checkSource(layout, members);
   JsonInput::Object object;
   object.index = nextIndex;
-  for (const auto& [key, member] : members.GetObject()) {
+  for (const auto& [name, member] : members.GetObject()) {
+    const std::string_view key = textOf(name);
     if (key == "index") {
       if (!member.IsUint()) fail("index: not a number; give the index of the entry");
       object.index = member.GetUint();
@@ -153,8 +155,7 @@ JsonInput::Object objectOf(const Layout& layout, const JsonValue& members, U64 n
       object.reservedBits = reservedBitsOf(layout, member);
     } else if (key != "table" && key != "chip" && key != "variant" && key != "address" &&
                key != "accessType" && key != "block") {
-      fail("unknown member {}; an entry has index, fields and outsideFields",
-           inQuotes(textOf(key)));
+      fail("unknown member {}; an entry has index, fields and outsideFields", inQuotes(key));
     }
   }
   return object;
@@ -204,7 +205,8 @@ JsonInput::JsonInput(std::unique_ptr<ByteStream> stream, const Layout& layout, U
 
 bool JsonInput::next(Object& object) {
   for (;;) {
-    JsonDocument value;
+    pool_.Clear();
+    JsonDocument value(&pool_);
     const Part part = readPart(value);
     if (part == Part::end) return false;
     try {

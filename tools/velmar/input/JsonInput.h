@@ -43,6 +43,7 @@ class JsonInput {
 
   std::unique_ptr<ByteStream> stream_;
   JsonText text_;
+  JsonPool pool_;  ///< memory for a part
   const Layout& layout_;
   U64 index_;
   bool isStarted_ = false;

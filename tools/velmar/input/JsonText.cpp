@@ -25,8 +25,6 @@ const char* expectedAt(rapidjson::ParseErrorCode code) {
       return "one of \" \\ / b f n r t u is expected after a backslash";
     case rapidjson::kParseErrorStringMissQuotationMark:
       return "a closing quotation mark is expected";
-    case rapidjson::kParseErrorStringInvalidEncoding:
-      return "the text is not UTF-8";
     case rapidjson::kParseErrorNumberTooBig:
       return "the number is too large";
     case rapidjson::kParseErrorNumberMissFraction:
@@ -122,8 +120,7 @@ void JsonText::expect(char letter, const char* what) {
 }
 
 void JsonText::read(JsonDocument& value) {
-  constexpr unsigned flags = rapidjson::kParseIterativeFlag | rapidjson::kParseStopWhenDoneFlag |
-                             rapidjson::kParseValidateEncodingFlag;
+  constexpr unsigned flags = rapidjson::kParseIterativeFlag | rapidjson::kParseStopWhenDoneFlag;
   peek();
   const size_t begin = at_;
   Source source(*this);
@@ -144,10 +141,12 @@ void JsonText::startPart() {
 }
 
 void JsonText::countLines(size_t end, U64& line, U64& column) const {
-  const std::string_view text = stream_.text().substr(0, end);
-  const size_t newLine = text.rfind('\n');
-  line += static_cast<U64>(std::count(text.begin(), text.end(), '\n'));
-  column = newLine == std::string_view::npos ? column + end : end - newLine;
+  std::string_view text = stream_.text().substr(0, end);
+  for (size_t length; (length = text.find('\n')) != std::string_view::npos; ++line) {
+    text.remove_prefix(length + 1);
+    column = 1;
+  }
+  column += text.size();
 }
 
 void JsonText::failAt(size_t at, const std::string& what) const {

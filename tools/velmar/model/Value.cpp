@@ -125,12 +125,17 @@ bool Value::setHexDigits(std::string_view digits) {
   U32 bit = 0;
   for (size_t i = digits.size(); i-- > 0; bit += 4) {
     const U32 digit = static_cast<U32>(hexDigit(digits[i]));
-    for (U32 j = 0; j < 4; ++j) {
-      if ((digit >> j & 1U) == 0) continue;
-      if (bit + j >= width_) return false;
-      setBit(bit + j);
-    }
+    if (digit == 0) continue;
+    if (bit >= width_ || (width_ - bit < 4 && digit >> (width_ - bit) != 0)) return false;
+    words_[bit / 32] |= digit << bit % 32;
   }
+  return true;
+}
+
+bool Value::setNumber(U64 number) {
+  if (width_ < 64 && number >> width_ != 0) return false;
+  words_[0] = static_cast<U32>(number);
+  if (wordCount() > 1) words_[1] = static_cast<U32>(number >> 32);
   return true;
 }
 
@@ -144,9 +149,7 @@ U64 readScalar(const FieldPlace& place, const U8* entry, U32 entryBytes) {
 
 Value makeValue(const FieldPlace& place, U64 number) {
   Value value(place.width);
-  if (!value.setHexDigits(formatText("{:x}", number))) {
-    failTooLarge(place, formatText("{}", number));
-  }
+  if (!value.setNumber(number)) failTooLarge(place, formatText("{}", number));
   return value;
 }
 

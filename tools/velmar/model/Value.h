@@ -34,6 +34,8 @@ class Value {
   std::string portRanges() const;
 
   void setBit(U32 bit);
+  /// Sets a value of zero to a number; false where it does not fit the width.
+  bool setNumber(U64 number);
   /// Sets the value from hexadecimal digits; false where it does not fit the width.
   bool setHexDigits(std::string_view digits);
 
