@@ -1,40 +1,17 @@
 #!/usr/bin/env python3
-"""The exported catalogue conforms to its JSON Schema and has exactly the golden numbers.
+"""The exported catalogue has exactly the golden numbers.
 
 usage: catalogue_export.py SOURCE_DIR BUILD_DIR"""
 
 import json
-import os
 
-import jsonschema
-
-from command import check, finish, golden_tables, run, source
-
-
-def without_others(schema):
-    """The schema, with only the members allowed that it names."""
-    if isinstance(schema, list):
-        return [without_others(each) for each in schema]
-    if not isinstance(schema, dict):
-        return schema
-    strict = {name: without_others(each) for name, each in schema.items()}
-    return {"additionalProperties": False, **strict} if "properties" in strict else strict
-
-
-with open(os.path.join(source, "docs", "schema", "catalogue.schema.json"), encoding="utf-8") as file:
-    schema = json.load(file)
-jsonschema.Draft202012Validator.check_schema(schema)
-validator = jsonschema.Draft202012Validator(without_others(schema))
+from command import check, finish, golden_tables, run
 
 
 def exported(*arguments):
-    """The output of export, checked against the schema."""
     code, text, errors = run("export", *arguments)
     check(code == 0 and errors == "", errors)
-    document = json.loads(text)
-    for error in validator.iter_errors(document):
-        check(False, f"{error.json_path}: {error.message}")
-    return document
+    return json.loads(text)
 
 
 spelling = {"raw128": "Raw128", "bitmap": "Oru::PerUnitBitmap"}

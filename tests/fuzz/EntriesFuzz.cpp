@@ -19,7 +19,10 @@ void copyByTexts(const Tool::Layout& layout, const std::vector<U8>& entry, std::
       text = value.portRanges();
     else if (!inHex && value.number())
       text = std::to_string(*value.number());
-    builder.set(Tool::parseAssignment(layout, std::string(place.name()) + " = " + text));
+    for (const Tool::Assignment& assignment :
+         Tool::parseAssignments(layout, std::string(place.name()) + " = " + text)) {
+      builder.set(assignment);
+    }
   }
   std::copy(builder.bytes().begin(), builder.bytes().end(), copy.begin());
 }

@@ -57,7 +57,7 @@ void printHex(Tool::Output& output, const Dump& dump, U32 group) {
 
 void printJson(Tool::Output& output, const Dump& dump, const Tool::Layout& layout,
                Tool::Format format) {
-  const auto writer = Tool::makeEntryWriter(output, layout, layout.fields(), format);
+  const auto writer = Tool::makeEntryWriter(output, layout, layout.fields(), {format, dump.entries.size() % 2 == 0, true});
   for (size_t i = 0; i < dump.entries.size(); ++i) {
     writer->write({dump.indexes[i], dump.entries[i].data()});
   }

@@ -46,7 +46,10 @@ void checkBuilt(const Tool::Layout& layout, const std::vector<Tool::Assignment>&
 void typeAssignments(const Tool::Layout& layout, const std::string& text) {
   std::vector<Tool::Assignment> assignments;
   for (const std::string& line : Tool::split(text, '\n')) {
-    assignments.push_back(Tool::parseAssignment(layout, line));
+    for (Tool::Assignment& assignment : Tool::parseAssignments(layout, line)) {
+      if (assignment.kind != Tool::Assignment::Kind::set) return;
+      assignments.push_back(std::move(assignment));
+    }
   }
   checkBuilt(layout, assignments);
 }
@@ -62,7 +65,8 @@ void typeIndexes(const std::string& text) {
   std::vector<std::pair<U64, U64>> ranges;
   for (const std::string& part : Tool::split(text, ',')) {
     const std::vector<std::string> ends = Tool::split(part, '-');
-    ranges.emplace_back(*Tool::parseNumber(ends.front()), *Tool::parseNumber(ends.back()));
+    ranges.emplace_back(*Tool::parseNumber(ends.front()),
+                        Tool::parseNumber(ends.back()).value_or(0xffffffff));
   }
   U64 first = ranges.front().first;
   U64 last = 0;

@@ -1,5 +1,6 @@
 #include "cli/CommandLine.h"
 
+#include <algorithm>
 #include <cstdio>
 
 #include "cli/Completion.h"
@@ -14,11 +15,24 @@
 namespace Tool {
 namespace {
 
-int print(const std::string& text) {
+constexpr size_t usualWidth = 80;
+
+/// Prints what a function makes for the width of a line.
+template <class Maker>
+int print(const Maker& textFor) {
   Output output("", "never");
-  output.write(text);
+  const size_t columns = output.columns();
+  output.write(textFor(columns == 0 ? usualWidth : std::min(columns, usualWidth)));
   output.finish();
   return exitSuccess;
+}
+
+int printHelp(const Verb& verb) {
+  return print([&](size_t width) { return helpOf(verb, width); });
+}
+
+int print(const std::string& text) {
+  return print([&](size_t) { return text; });
 }
 
 Verb findVerb(const VerbList& verbs, const std::string& name) {
@@ -35,7 +49,7 @@ Verb findVerb(const VerbList& verbs, const std::string& name) {
 
 int runCommandLine(const VerbList& verbs, const std::vector<std::string>& words) {
   if (words.empty()) {
-    std::fputs(overview(verbs).c_str(), stderr);
+    std::fputs(overview(verbs, usualWidth).c_str(), stderr);
     return exitFailure;
   }
   const std::string& first = words[0];
@@ -45,15 +59,15 @@ int runCommandLine(const VerbList& verbs, const std::vector<std::string>& words)
   if ((first == "help" || first == "--version") && rest.size() > most) {
     fail("unexpected argument {}; leave it out", inQuotes(rest.back()));
   }
-  if (first == "help" && !rest.empty()) return print(helpOf(findVerb(verbs, rest[0])));
-  if (asksForHelp) return print(overview(verbs));
+  if (first == "help" && !rest.empty()) return printHelp(findVerb(verbs, rest[0]));
+  if (asksForHelp) return print([&](size_t width) { return overview(verbs, width); });
   if (first == "--version") return print(formatText("velmar {}\n", VELMAR_VERSION));
   // For the build and for the shell, not for people.
   if (first == "__man") return print(manPage(verbs));
   if (first == "__complete") return print(completion(verbs, rest));
   const Verb verb = findVerb(verbs, first);
   const Arguments arguments = parseArguments(verb, rest);
-  return arguments.help ? print(helpOf(verb)) : verb.run(arguments);
+  return arguments.help ? printHelp(verb) : verb.run(arguments);
 }
 
 }  // namespace Tool

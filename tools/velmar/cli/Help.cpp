@@ -8,13 +8,12 @@
 namespace Tool {
 namespace {
 
-constexpr size_t lineWidth = 80;
 constexpr size_t headingWidth = 26;
 
 /// A text in lines; those after the first are indented.
-std::string paragraph(const std::string& text, size_t indent = 0) {
+std::string paragraph(const std::string& text, size_t lineWidth, size_t indent = 0) {
   std::string lines;
-  for (const std::string& line : wrap(text, lineWidth - indent)) {
+  for (const std::string& line : wrap(text, lineWidth - std::min(indent, lineWidth - 1))) {
     if (!lines.empty()) lines.append(indent, ' ');
     lines += line.substr(0, line.find_last_not_of(' ') + 1) + '\n';
   }
@@ -22,10 +21,13 @@ std::string paragraph(const std::string& text, size_t indent = 0) {
 }
 
 /// A heading with its meaning beside it.
-std::string item(const std::string& heading, const std::string& meaning, size_t width) {
+std::string item(const std::string& heading, const std::string& meaning, size_t width,
+                 size_t lineWidth) {
   std::string text = "  " + heading;
-  text.resize(std::max(text.size() + 2, width), ' ');
-  return text + paragraph(meaning, width);
+  // A long heading has a line of its own.
+  const bool fits = text.size() + 2 <= width;
+  text += fits ? std::string(width - text.size(), ' ') : '\n' + std::string(width, ' ');
+  return text + paragraph(meaning, lineWidth, width);
 }
 
 }  // namespace
@@ -91,29 +93,32 @@ std::string usageOf(const Verb& verb) {
   return usage + " [OPTION...]" + last;
 }
 
-std::string overview(const VerbList& verbs) {
-  std::string text = "Usage: velmar VERB [ARGUMENT...]\n\n" + paragraph(purposeText) + "\nVerbs:\n";
-  for (const VerbName& name : verbs) text += item(name.name, name.make().summary, 12);
+std::string overview(const VerbList& verbs, size_t lineWidth) {
+  std::string text =
+      "Usage: velmar VERB [ARGUMENT...]\n\n" + paragraph(purposeText, lineWidth) + "\nVerbs:\n";
+  for (const VerbName& name : verbs) text += item(name.name, name.make().summary, 13, lineWidth);
   text += "\n\"velmar VERB --help\" explains a verb; \"velmar --version\" prints the version.\n";
   text += paragraph(
       "Names are forgiving: VlanEntry, vlan and VLAN are one table; BCM56990_B0, 56990 and 33 one "
-      "chip; fidId, FID_ID and 90 one field.");
-  return text + paragraph(exitCodeText);
+      "chip; fidId, FID_ID and 90 one field.",
+      lineWidth);
+  return text + paragraph(exitCodeText, lineWidth);
 }
 
-std::string helpOf(const Verb& verb) {
-  std::string text = "Usage: " + usageOf(verb) + "\n\n" + paragraph(verb.summary);
-  if (verb.details[0] != '\0') text += "\n" + paragraph(verb.details);
+std::string helpOf(const Verb& verb, size_t lineWidth) {
+  std::string text =
+      paragraph("Usage: " + usageOf(verb), lineWidth) + "\n" + paragraph(verb.summary, lineWidth);
+  if (verb.details[0] != '\0') text += "\n" + paragraph(verb.details, lineWidth);
   if (!verb.positionals.empty()) text += "\nArguments:\n";
   for (const Positional& positional : verb.positionals) {
-    text += item(positional.value, positional.meaning, headingWidth);
+    text += item(positional.value, positional.meaning, headingWidth, lineWidth);
   }
   text += "\nOptions:\n";
   for (const Option& option : verb.options) {
-    text += item(headingOf(option), meaningOf(option), headingWidth);
+    text += item(headingOf(option), meaningOf(option), headingWidth, lineWidth);
   }
-  text += item(headingOf(Options::help), meaningOf(Options::help), headingWidth);
-  text += "\n" + paragraph(exitCodeText) + "\nExamples:\n";
+  text += item(headingOf(Options::help), meaningOf(Options::help), headingWidth, lineWidth);
+  text += "\n" + paragraph(exitCodeText, lineWidth) + "\nExamples:\n";
   for (const char* example : verb.examples) text += formatText("  {}\n", example);
   return text;
 }

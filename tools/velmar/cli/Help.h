@@ -7,10 +7,10 @@
 
 namespace Tool {
 
-/// What "velmar --help" prints.
-std::string overview(const VerbList& verbs);
+/// What "velmar --help" prints, in lines of a width.
+std::string overview(const VerbList& verbs, size_t lineWidth);
 /// What "velmar VERB --help" prints.
-std::string helpOf(const Verb& verb);
+std::string helpOf(const Verb& verb, size_t lineWidth);
 
 /// The command line of a verb, such as "velmar decode TABLE --chip CHIP [OPTION...] [FILE]".
 std::string usageOf(const Verb& verb);

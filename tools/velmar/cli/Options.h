@@ -7,16 +7,26 @@
 
 namespace Tool {
 
+struct Arguments;
+
+/// An option of one of two dumps, such as --old-first.
+struct SideValue {
+  bool isNew;
+  std::string Arguments::*member;
+  std::string value;
+};
+
 /// What a command line holds, as it was typed.
 struct Arguments {
   std::string table, pattern;
   std::vector<std::string> files, assignments;
 
-  std::vector<std::string> chips, fields, where;
-  std::string variant, format, output, color;
-  std::string index, array, identifier, find;
+  std::vector<std::string> chips, fields, where, index, find;
+  std::string tableOption, variant, format, output, color, array, identifier, limit, from, to;
   std::string input, hexOrder, byteOrder, stride, first, base;
+  std::vector<SideValue> sides;
   bool nonzero = false, check = false, whole = false, quiet = false, diagram = false, help = false;
+  bool plain = false, expand = false, common = false, stat = false, lossy = false;
 };
 
 /// What the shell can propose for a value.
@@ -47,6 +57,7 @@ struct Option {
   Proposal proposal = Proposal::nothing;
   bool required = false;
   const char* choices = "";  ///< the only values, separated by commas; empty: any
+  bool isOfDump = false;     ///< where there are two dumps, --old-NAME and --new-NAME are for one
 
   /// The name as the help and the messages use it, such as "--output".
   std::string longName() const { return split(names, ',').back(); }
@@ -59,10 +70,15 @@ struct Positional {
   const char* meaning;
   Proposal proposal = Proposal::nothing;
   bool required = false;
+  bool hasTwoDumps = false;
 };
 
 constexpr Option oneOf(const char* choices, Option option) {
   option.choices = choices;
+  return option;
+}
+constexpr Option ofDump(Option option) {
+  option.isOfDump = true;
   return option;
 }
 
@@ -82,36 +98,53 @@ inline constexpr Option
     color = oneOf("auto,always,never", {"--color", "WHEN", &Arguments::color,
             "colours, by default on a terminal, unless NO_COLOR is set"}),
     index{"--index", "LIST", &Arguments::index,
-          "only these entries, such as 100, 0-99 or 1,5,100-199"},
+          "only these entries, such as 100, 0-99, 100- or 1,5,100-199; may be repeated"},
     changeIndex{"--index", "LIST", &Arguments::index,
-          "the entries to make, or with --base to change, such as 100 or 1,5,100-199"},
-    entryIndex{"--index", "N", &Arguments::index, "the entry; for a register array its element"},
-    array{"--array", "N", &Arguments::array, "the element of a register array"},
+          "the entries to make, or with --base to change, such as 100 or 1,5,100-199; may be "
+          "repeated"},
+    entryIndex{"--index", "LIST", &Arguments::index,
+          "the entries, or elements of a register array, such as 100 or 1,5,100-199; may be "
+          "repeated"},
+    array{"--array", "LIST", &Arguments::array, "the elements of a register array"},
     identifier{"--identifier", "N", &Arguments::identifier, "the instance (default 0)"},
     find{"--find", "ADDRESS", &Arguments::find,
-         "print what has this address, such as 0x0c7c0064"},
-    fields{"--fields", "NAMES", &Arguments::fields, "only these fields, separated by commas",
-           Proposal::fields},
-    where{"--where", "FIELD=VALUE", &Arguments::where,
-          "only entries where the field has the value or, with !=, does not have it; may be "
-          "repeated: all must hold", Proposal::assignments},
+         "print what has this address, such as 0x0c7c0064; may be repeated"},
+    limit{"--limit", "N", &Arguments::limit, "stop after N entries"},
+    fields{"--fields", "NAMES", &Arguments::fields,
+           "only these fields, separated by commas; a name may have * and ?, or numbers such as "
+           "spTreePort0-3", Proposal::fields},
+    where{"--where", "CONDITION", &Arguments::where,
+          "only entries where it holds: FIELD=VALUE or != < <= > >=, with = and != also several "
+          "values such as stg=2,3; BITMAP~PORTS: it has these ports; may be repeated: all must "
+          "hold", Proposal::assignments},
+    tableOption{"--table", "TABLE", &Arguments::tableOption, "this table only", Proposal::tables},
+    from{"--from", "CHIP", &Arguments::from, "the chip of the dump", Proposal::chips, true},
+    to{"--to", "CHIP", &Arguments::to, "the chip of the result", Proposal::chips, true},
+    lossy{"--lossy", nullptr, &Arguments::lossy, "write the result though something gets lost"},
+    plain{"--plain", nullptr, &Arguments::plain,
+          "JSON with values alone: numbers, bitmaps as lists of ports, wide values as text"},
+    expand{"--expand", nullptr, &Arguments::expand,
+           "the fields of all ports one by one, not as a family"},
+    common{"--common", nullptr, &Arguments::common, "only entries that both dumps have"},
+    stat{"--stat", nullptr, &Arguments::stat,
+         "instead of the entries, print how many differ in each field"},
     nonzero{"--nonzero", nullptr, &Arguments::nonzero, "skip entries that are all zero"},
     check{"--check", nullptr, &Arguments::check,
           "instead of the entries, report those with bits set outside all fields or beyond the "
           "end of the table; exit 1 if there are any"},
-    input = oneOf("auto,raw,hex,xxd,hexdump,od,json", {"--input", "FORMAT", &Arguments::input,
-            "format of the dump (default: recognized by its first bytes)"}),
-    hexOrder = oneOf("bytes,words,int", {"--hex-order", "ORDER", &Arguments::hexOrder,
+    input = ofDump(oneOf("auto,raw,hex,xxd,hexdump,od,json", {"--input", "FORMAT",
+            &Arguments::input, "format of the dump (default: recognized by its first bytes)"})),
+    hexOrder = ofDump(oneOf("bytes,words,int", {"--hex-order", "ORDER", &Arguments::hexOrder,
                "how to read hex digits; bytes: the first byte first; words: 32-bit words, the "
-               "first word first; int: one number, highest digit first"}),
-    byteOrder = oneOf("little,big", {"--byte-order", "ORDER", &Arguments::byteOrder,
+               "first word first; int: one number, highest digit first"})),
+    byteOrder = ofDump(oneOf("little,big", {"--byte-order", "ORDER", &Arguments::byteOrder,
                 "the byte of each 32-bit word that comes first in the dump: little (default) the "
-                "lowest, big the highest"}),
-    stride{"--stride", "BYTES", &Arguments::stride,
+                "lowest, big the highest"})),
+    stride = ofDump({"--stride", "BYTES", &Arguments::stride,
            "bytes from one entry of the dump to the next, at most 65536 (default: the bytes of "
-           "an entry)"},
-    first{"--first", "N", &Arguments::first,
-          "index of the first entry of a partial dump (default 0)"},
+           "an entry)"}),
+    first = ofDump({"--first", "N", &Arguments::first,
+          "index of the first entry of a partial dump (default 0)"}),
     base{"--base", "FILE", &Arguments::base,
          "change the entries of this dump instead of making new ones", Proposal::files},
     whole{"--whole", nullptr, &Arguments::whole,
@@ -136,10 +169,16 @@ inline constexpr Positional
           Proposal::tables, true},
     tableIfAny{"TABLE", &Arguments::table, "this table only", Proposal::tables},
     dump{"FILE", &Arguments::files, "the dump; - or nothing: standard input", Proposal::files},
-    oldAndNew{"OLD NEW", &Arguments::files, "two dumps; - is standard input",
-              Proposal::files, true},
+    oldAndNew{"OLD NEW", &Arguments::files,
+              "two dumps; - is standard input; --input, --hex-order, --byte-order, --stride and "
+              "--first are for both, --old-input, --new-input and so on for one of them",
+              Proposal::files, true, true},
     pattern{"PATTERN", &Arguments::pattern,
-            "part of a field's name, a name with * and ?, or an identifier"},
+            "a field's name or a part of it, a name with * and ?, or an identifier; nothing: all"},
+    tablePattern{"PATTERN", &Arguments::pattern, "part of a table's name, or a name with * and ?",
+                 Proposal::tables},
+    fieldOfTable{"FIELD", &Arguments::pattern,
+                 "only this field, or those that match a name with * and ?", Proposal::fields},
     assignments{"FIELD=VALUE", &Arguments::assignments,
                 "fields to set; @FILE takes them from a JSON file, @- from standard input",
                 Proposal::assignments};

@@ -1,6 +1,7 @@
 #include "cli/Parser.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "cli/Effects.h"
 #include "model/Failure.h"
@@ -54,10 +55,27 @@ class Parser {
   void takeLong(const std::string& word) {
     const size_t sign = word.find('=');
     const std::string name = word.substr(0, sign);
+    const bool isNew = name.rfind("--new-", 0) == 0;
+    if ((isNew || name.rfind("--old-", 0) == 0) && hasTwoDumps(verb_)) {
+      return takeOfSide(isNew, name, word);
+    }
     const Option& option = find(name);
     if (sign == std::string::npos) return take(option);
     if (option.member.flag != nullptr) fail("{} takes no value; give {} alone", name, name);
     put(option, word.substr(sign + 1));
+  }
+
+  /// Takes "--old-first" or "--new-first", as --first of one dump.
+  void takeOfSide(bool isNew, const std::string& name, const std::string& word) {
+    const Option& option = find("--" + name.substr(std::strlen("--old-")));
+    if (!option.isOfDump) fail("{} is for both dumps; give {}", name, option.longName());
+    for (const SideValue& side : arguments_.sides) {
+      if (side.isNew == isNew && side.member == option.member.text) failTwice(name);
+    }
+    const bool hasValue = word.size() > name.size();
+    const std::string value = hasValue ? word.substr(name.size() + 1) : nextWord(option);
+    checkValue(option, value);
+    arguments_.sides.push_back({isNew, option.member.text, value});
   }
 
   void takeShort(const std::string& word) {
@@ -85,29 +103,40 @@ class Parser {
   void take(const Option& option) {
     if (option.member.flag != nullptr) {
       arguments_.*option.member.flag = true;
-    } else if (next_ == words_.size()) {
-      fail("{} is given without its {}; {}", option.longName(), option.value, seeHelp());
     } else {
-      put(option, words_[next_++]);
+      put(option, nextWord(option));
     }
   }
 
-  void put(const Option& option, const std::string& value) {
+  const std::string& nextWord(const Option& option) {
+    if (next_ == words_.size()) {
+      fail("{} is given without its {}; {}", option.longName(), option.value, seeHelp());
+    }
+    return words_[next_++];
+  }
+
+  static void checkValue(const Option& option, const std::string& value) {
     if (value.empty()) {
       fail("{} is given an empty {}; give one, or leave it out", option.longName(), option.value);
     }
-    if (option.member.list != nullptr) return (arguments_.*option.member.list).push_back(value);
-    if (std::count(given_.begin(), given_.end(), &option) != 0) {
-      fail("{} is given twice; give it once", option.longName());
-    }
-    given_.push_back(&option);
     const std::vector<std::string> choices = split(option.choices, ',');
     const bool isFree = option.choices[0] == '\0';
     if (!isFree && std::count(choices.begin(), choices.end(), value) == 0) {
       fail("{} {}: no such choice; give {}", option.longName(), inQuotes(value),
            join(choices, ", "));
     }
+  }
+
+  void put(const Option& option, const std::string& value) {
+    checkValue(option, value);
+    if (option.member.list != nullptr) return (arguments_.*option.member.list).push_back(value);
+    if (std::count(given_.begin(), given_.end(), &option) != 0) failTwice(option.longName());
+    given_.push_back(&option);
     arguments_.*option.member.text = value;
+  }
+
+  [[noreturn]] static void failTwice(const std::string& name) {
+    fail("{} is given twice; give it once", name);
   }
 
   void checkComplete() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <vector>
 
 #include "cli/Options.h"
@@ -16,6 +17,12 @@ struct Verb {
   std::vector<const char*> examples;
   int (*run)(const Arguments& arguments);
 };
+
+/// Whether a verb takes two dumps, each with its own --old- and --new- options.
+inline bool hasTwoDumps(const Verb& verb) {
+  return std::any_of(verb.positionals.begin(), verb.positionals.end(),
+                     [](const Positional& one) { return one.hasTwoDumps; });
+}
 
 /// A verb that is made only when it is needed.
 struct VerbName {

@@ -18,6 +18,8 @@ bool isFile(int descriptor) {
   return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
 }
 
+constexpr int noDescriptor = -1;
+
 bool isReady(int descriptor) {
   pollfd query{descriptor, POLLIN, 0};
   return poll(&query, 1, 0) == 1;
@@ -41,8 +43,16 @@ ByteStream::ByteStream(const std::string& path, std::function<void()> beforeWait
   mayWait_ = !isFile(descriptor_);
 }
 
+ByteStream::ByteStream(std::string_view text)
+    : name_("the dump"),
+      descriptor_(noDescriptor),
+      mayWait_(false),
+      piece_(0),
+      buffer_(text.begin(), text.end()),
+      end_(text.size()) {}
+
 ByteStream::~ByteStream() {
-  if (descriptor_ != STDIN_FILENO) close(descriptor_);
+  if (descriptor_ > STDIN_FILENO) close(descriptor_);
 }
 
 std::optional<U64> ByteStream::bytesLeftInFile() const {
@@ -56,6 +66,7 @@ std::optional<U64> ByteStream::bytesLeftInFile() const {
 }
 
 bool ByteStream::readMore() {
+  if (descriptor_ == noDescriptor) return false;
   if (begin_ > 0) {
     std::memmove(buffer_.data(), buffer_.data() + begin_, size());
     end_ -= begin_;

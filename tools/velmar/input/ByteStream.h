@@ -16,6 +16,8 @@ class ByteStream {
   /// `path` "-" or empty: standard input. `beforeWait` is called before a read that may wait for
   /// more input, so that the result so far can be shown. A read asks for `piece` bytes or more.
   ByteStream(const std::string& path, std::function<void()> beforeWait, size_t piece = 1U << 17);
+  /// Text in memory, instead of a file.
+  explicit ByteStream(std::string_view text);
   ~ByteStream();
   ByteStream(const ByteStream&) = delete;
   ByteStream& operator=(const ByteStream&) = delete;
@@ -25,11 +27,21 @@ class ByteStream {
   /// Bytes that are left, if the input is a file of known size.
   std::optional<U64> bytesLeftInFile() const;
 
+  /// Bytes of the whole input, if it is a file of known size, otherwise 0.
+  U64 sizeInBytes() const {
+    const std::optional<U64> left = bytesLeftInFile();
+    return left ? *left + bytesTaken_ : 0;
+  }
+  U64 bytesTaken() const { return bytesTaken_; }
+
   /// What was read and not yet taken.
   const U8* data() const { return buffer_.data() + begin_; }
   size_t size() const { return end_ - begin_; }
   std::string_view text() const { return {reinterpret_cast<const char*>(data()), size()}; }
-  void take(size_t count) { begin_ += count; }
+  void take(size_t count) {
+    begin_ += count;
+    bytesTaken_ += count;
+  }
   /// Reads more; false at the end of the input.
   bool readMore();
   /// Reads until `count` bytes are there; false where the input ends before.
@@ -49,6 +61,7 @@ class ByteStream {
   std::vector<U8> buffer_;
   size_t begin_ = 0;
   size_t end_ = 0;
+  U64 bytesTaken_ = 0;
 };
 
 /// The lines of a stream.

@@ -70,7 +70,7 @@ void EntryReader::failBeyond(U64 index, U64 count) const {
   const std::string remedy =
       !chips.empty() ? formatText("{} {} as many as the dump: check --chip", join(chips, ", "),
                                   chips.size() == 1 ? "has" : "have")
-      : count != 0   ? "check table and chip, or read a part of the dump"
+      : count != 0   ? "check table and chip, which \"velmar identify\" lists"
                      : "no chip has as many as the dump: if the numbers before the data are "
                        "addresses, remove them";
   fail("{}: {}{} {} on {}, which has {} {}; {}", name(), where,
@@ -84,8 +84,11 @@ void EntryReader::checkFirst() const {
 }
 
 void EntryReader::failSize(U64 bytes) const {
-  fail("{}: {} bytes are not a multiple of {}; check table and chip, or give --stride",
-       stream_->name(), bytes, entrySizeText(stride_, layout_));
+  fail(
+      "{}: {} bytes are not a multiple of {}; check table and chip, which \"velmar identify\" "
+      "lists, "
+      "or give --stride",
+      stream_->name(), bytes, entrySizeText(stride_, layout_));
 }
 
 std::string entrySizeText(U32 stride, const Layout& layout) {

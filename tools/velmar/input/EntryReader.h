@@ -34,6 +34,10 @@ class EntryReader {
   /// Reads the next entry; false at the end. Fails for an entry beyond the end of the table, and
   /// for an index of more than 32 bits.
   bool next(Entry& entry);
+  /// Bytes of the dump, where it is a file; 0 where that is not known.
+  virtual U64 sizeInBytes() const { return stream_->sizeInBytes(); }
+  /// Bytes of it that were read and used.
+  virtual U64 bytesTaken() const { return stream_->bytesTaken(); }
   /// Whether the format guarantees that indexes ascend.
   virtual bool isAscending() const { return false; }
 

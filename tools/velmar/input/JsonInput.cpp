@@ -33,13 +33,17 @@ Value valueOf(const FieldPlace& place, const JsonValue& value);
 /// {"hex": ..., "decimal": ..., "ports": [...]}: one or more of them, with the same value.
 Value objectValue(const FieldPlace& place, const JsonValue& object) {
   std::optional<Value> result;
+  std::string_view first;
   for (const auto& [name, member] : object.GetObject()) {
     const std::string_view key = textOf(name);
     if (key != "hex" && key != "decimal" && key != "ports") {
       failValue(place, "a value has the members hex, decimal and ports only");
     }
     const Value value = valueOf(place, member);
-    if (result && *result != value) failValue(place, "hex, decimal and ports disagree");
+    if (result && *result != value) {
+      fail("{}: {} and {} disagree; change both, or remove one", place.name(), first, key);
+    }
+    if (!result) first = key;
     result = value;
   }
   if (!result) failValue(place, "there is no value");
@@ -169,6 +173,9 @@ class JsonReader : public EntryReader {
         builder_(layout) {
     if (options.bigEndian) fail("--byte-order big does not apply to JSON; leave it out");
   }
+
+  U64 sizeInBytes() const override { return input_.stream().sizeInBytes(); }
+  U64 bytesTaken() const override { return input_.stream().bytesTaken(); }
 
   bool read(Entry& entry) override {
     JsonInput::Object object;

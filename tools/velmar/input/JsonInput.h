@@ -24,6 +24,7 @@ class JsonInput {
 
   /// Reads the next object; false at the end.
   bool next(Object& object);
+  const ByteStream& stream() const { return *stream_; }
   const std::string& name() const { return stream_->name(); }
   U64 line() const { return text_.line(); }
 

@@ -1,6 +1,7 @@
 #include "model/EntryBuilder.h"
 
 #include "model/Failure.h"
+#include "model/Families.h"
 #include "model/Text.h"
 
 namespace Tool {
@@ -15,12 +16,23 @@ void EntryBuilder::startFromZero() {
   forget();
 }
 
+Value EntryBuilder::newValueOf(const Assignment& assignment) const {
+  if (assignment.kind == Assignment::Kind::set) return assignment.value;
+  Value value = Value::read(assignment.place, bytes_.data(), layout_.entryBytes());
+  if (assignment.kind == Assignment::Kind::add) value.add(assignment.value);
+  if (assignment.kind == Assignment::Kind::remove) value.remove(assignment.value);
+  return value;
+}
+
 void EntryBuilder::set(const Assignment& assignment) {
   const FieldPlace& place = assignment.place;
+  const Assignment change = {place, newValueOf(assignment)};
   for (const FieldPlace& earlier : set_) {
-    if (earlier.sharesBitsWith(place)) checkAgainst(earlier, assignment);
+    const bool isSame = earlier.field.id == place.field.id;
+    if (isSame && assignment.kind != Assignment::Kind::set) continue;
+    if (earlier.sharesBitsWith(place)) checkAgainst(earlier, change);
   }
-  assignment.value.write(place, bytes_.data(), layout_.entryBytes());
+  change.value.write(place, bytes_.data(), layout_.entryBytes());
   set_.push_back(place);
 }
 
@@ -43,13 +55,62 @@ void EntryBuilder::setReservedBits(const std::vector<U8>& bits) {
   }
 }
 
-Assignment parseAssignment(const Layout& layout, const std::string& text) {
-  const size_t sign = text.find('=');
-  if (sign == std::string::npos || sign == 0) {
+namespace {
+
+Assignment assignmentOf(const FieldPlace& place, std::string_view value, Assignment::Kind kind) {
+  if (kind != Assignment::Kind::set && !place.isBitmap()) {
+    fail("{} is not a bitmap, only ports are added and removed; give {}=VALUE", place.name(),
+         place.name());
+  }
+  return {place, parseValue(place, value), kind};
+}
+
+}  // namespace
+
+std::vector<Assignment> parseAssignments(const Layout& layout, const std::string& text) {
+  size_t end = text.find('=');
+  if (end == std::string::npos || end == 0) {
     fail("{} sets no field; give FIELD=VALUE, or @FILE", inQuotes(text));
   }
-  const FieldPlace& place = layout.find(trim(std::string_view(text).substr(0, sign)));
-  return {place, parseValue(place, trim(std::string_view(text).substr(sign + 1)))};
+  const std::string_view value = std::string_view(text).substr(end + 1);
+  auto kind = Assignment::Kind::set;
+  if (text[end - 1] == '+') kind = Assignment::Kind::add;
+  if (text[end - 1] == '-') kind = Assignment::Kind::remove;
+  if (kind != Assignment::Kind::set) --end;
+  const std::string_view name = trim(std::string_view(text).substr(0, end));
+  // "spTreePort0-3,7=3,10=2": the numbers before a sign get the value after it.
+  const size_t comma = name.find(',');
+  const std::optional<NumberedName> numbered =
+      numberedName(name.substr(0, name.find_first_of(",-")));
+  const bool isList =
+      numbered && (comma != std::string_view::npos || value.find('=') != value.npos);
+  std::vector<Assignment> assignments;
+  if (!isList) {
+    for (const FieldPlace& place : findFields(layout, name)) {
+      assignments.push_back(assignmentOf(place, trim(value), kind));
+    }
+    return assignments;
+  }
+  std::vector<FieldPlace> places;
+  for (const std::string& part :
+       split(std::string_view(text).substr(numbered->prefix.size()), ',')) {
+    const size_t sign = part.find('=');
+    const std::string numbers(trim(std::string_view(part).substr(0, sign)));
+    for (const FieldPlace& place : findFields(layout, std::string(numbered->prefix) + numbers)) {
+      places.push_back(place);
+    }
+    if (sign == std::string::npos) continue;
+    for (const FieldPlace& place : places) {
+      assignments.push_back(
+          assignmentOf(place, trim(std::string_view(part).substr(sign + 1)), kind));
+    }
+    places.clear();
+  }
+  if (!places.empty()) {
+    fail("{}: {} is given no value; give {}=VALUE", inQuotes(text), places.front().name(),
+         places.front().name());
+  }
+  return assignments;
 }
 
 }  // namespace Tool

@@ -7,10 +7,13 @@
 
 namespace Tool {
 
-/// A field and the value that it is to have.
+/// A field and the value that it is to have, or ports that a bitmap is to gain or lose.
 struct Assignment {
+  enum class Kind : U8 { set, add, remove };
+
   FieldPlace place;
   Value value;
+  Kind kind = Kind::set;
 };
 
 /// An entry that is being encoded.
@@ -33,13 +36,15 @@ class EntryBuilder {
 
  private:
   void checkAgainst(const FieldPlace& earlier, const Assignment& assignment) const;
+  Value newValueOf(const Assignment& assignment) const;
 
   const Layout& layout_;
   std::vector<U8> bytes_;
   std::vector<FieldPlace> set_;
 };
 
-/// "field=value" as it is typed.
-Assignment parseAssignment(const Layout& layout, const std::string& text);
+/// What is typed: "field=value"; "bitmap+=ports" and "bitmap-=ports"; for a family of fields
+/// "spTreePort0-3=3,10=2".
+std::vector<Assignment> parseAssignments(const Layout& layout, const std::string& text);
 
 }  // namespace Tool

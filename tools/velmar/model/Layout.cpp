@@ -64,8 +64,12 @@ const FieldPlace& Layout::find(std::string_view name) const {
 void Layout::failUnknown(std::string_view name) const {
   std::vector<std::string> names;
   for (const FieldPlace& place : fields_) names.emplace_back(place.name());
-  fail("{} has no field {}; {}\"velmar layout {} --chip {}\" lists the fields", this->name(),
-       inQuotes(name), didYouMean(name, names), this->name(), chip_.name);
+  fail("{} has no field {}; {}{}", this->name(), inQuotes(name), didYouMean(name, names),
+       seeFields());
+}
+
+std::string Layout::seeFields() const {
+  return formatText("\"velmar layout {} --chip {}\" lists the fields", name(), chip_.name);
 }
 
 bool Layout::hasReservedBits(const U8* entry) const {

@@ -58,6 +58,8 @@ class Layout {
 
   /// The field of a name; fails for a field that the class or the chip does not have.
   const FieldPlace& find(std::string_view name) const;
+  /// For messages: the command that lists the fields.
+  std::string seeFields() const;
 
   /// The reserved bits of an entry: its set bits are those outside all fields of the chip.
   const std::vector<U8>& reservedMask() const { return reservedMask_; }

@@ -1,5 +1,7 @@
 #include "model/Names.h"
 
+#include <fnmatch.h>
+
 #include <algorithm>
 #include <numeric>
 
@@ -173,5 +175,29 @@ std::optional<U32> findField(const Catalogue::Table& table, std::string_view nam
   }
   return std::nullopt;
 }
+
+std::string chipsText(const std::vector<std::string>& chips) {
+  constexpr size_t few = 4;
+  std::vector<std::string> others = chipNames();
+  others.erase(std::remove_if(others.begin(), others.end(),
+                              [&chips](const std::string& name) {
+                                return std::count(chips.begin(), chips.end(), name) != 0;
+                              }),
+               others.end());
+  if (others.empty()) return "all";
+  return others.size() <= few ? "all but " + join(others, " ") : join(chips, " ");
+}
+
+NamePattern::NamePattern(std::string_view pattern)
+    : pattern_(simplified(pattern)),
+      hasWildcard_(pattern_.find_first_of("*?[") != std::string::npos) {}
+
+bool NamePattern::matches(std::string_view name) const {
+  const std::string simple = simplified(name);
+  return hasWildcard_ ? fnmatch(pattern_.c_str(), simple.c_str(), 0) == 0
+                      : simple.find(pattern_) != std::string::npos;
+}
+
+bool NamePattern::isExactly(std::string_view name) const { return simplified(name) == pattern_; }
 
 }  // namespace Tool

@@ -41,4 +41,20 @@ std::vector<std::string> fieldNames(const Catalogue::Table& table);
 std::vector<std::string> chipsOf(const Catalogue::Table& table);
 std::vector<std::string> chipsOf(const Catalogue::Table& table, U32 field);
 
+/// "all", "all but ..." where few are missing, or the chips.
+std::string chipsText(const std::vector<std::string>& chips);
+
+/// A pattern for names: the name itself or a part of it, or a name with * and ?.
+class NamePattern {
+ public:
+  explicit NamePattern(std::string_view pattern);
+  bool matches(std::string_view name) const;
+  /// Whether it is the whole name, without * and ?.
+  bool isExactly(std::string_view name) const;
+
+ private:
+  std::string pattern_;
+  bool hasWildcard_;
+};
+
 }  // namespace Tool

@@ -63,12 +63,15 @@ std::vector<std::string> wrap(const std::string& text, size_t width) {
   std::vector<std::string> lines;
   size_t from = 0;
   while (text.size() - from > width) {
-    size_t to = from + width;
-    const size_t soft = text.find_last_of(" ,", to - 1);
-    if (soft != std::string::npos && soft > from) to = soft + 1;
-    if (text[to] == ' ') ++to;
+    size_t to = text.rfind(' ', from + width);
+    if (to == std::string::npos || to <= from) {
+      // A list that is longer than the line.
+      to = text.rfind(',', from + width - 1) + 1;
+      if (to <= from) to = text.find_first_of(" ,", from + width);
+      if (to == std::string::npos) break;
+    }
     lines.push_back(text.substr(from, to - from));
-    from = to;
+    from = to + (text[to] == ' ' ? 1 : 0);
   }
   lines.push_back(text.substr(from));
   return lines;

@@ -24,7 +24,8 @@ bool isBlank(char letter);
 /// Value of a hexadecimal digit; negative for any other letter.
 int hexDigit(char letter);
 
-/// Cuts a text into lines of at most `width` columns, preferably after a blank or comma.
+/// Cuts a text into lines of at most `width` columns at blanks; a word that is longer is cut
+/// after a comma, or stays whole.
 std::vector<std::string> wrap(const std::string& text, size_t width);
 
 /// A number in decimal, or in hexadecimal where `typed` has a hexadecimal number.

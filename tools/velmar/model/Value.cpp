@@ -1,5 +1,7 @@
 #include "model/Value.h"
 
+#include <algorithm>
+
 #include "Detail/CopyBits.h"
 #include "model/Failure.h"
 #include "model/Text.h"
@@ -83,6 +85,13 @@ bool Value::isZero() const {
   return true;
 }
 
+std::optional<Value> Value::resized(U32 width) const {
+  Value value(width);
+  if (nextBit(std::min(width, width_), true) != width_) return std::nullopt;
+  for (U32 i = 0; i < std::min(wordCount(), value.wordCount()); ++i) value.words_[i] = words_[i];
+  return value;
+}
+
 bool operator==(const Value& a, const Value& b) {
   if (a.width_ != b.width_) return false;
   for (U32 i = 0; i < a.wordCount(); ++i) {
@@ -91,13 +100,36 @@ bool operator==(const Value& a, const Value& b) {
   return true;
 }
 
-std::string Value::hexDigits() const {
-  std::string digits;
-  for (U32 i = wordCount(); i-- > 0;) {
-    if (digits.empty() && words_[i] == 0) continue;
-    digits += digits.empty() ? formatText("{:x}", words_[i]) : formatText("{:08x}", words_[i]);
+bool operator<(const Value& a, const Value& b) {
+  for (U32 i = a.wordCount(); i-- > 0;) {
+    if (a.words_[i] != b.words_[i]) return a.words_[i] < b.words_[i];
   }
-  return digits.empty() ? "0" : digits;
+  return false;
+}
+
+bool Value::contains(const Value& other) const {
+  Value both = *this;
+  both.add(other);
+  return both == *this;
+}
+
+void Value::add(const Value& other) {
+  for (U32 i = 0; i < wordCount(); ++i) words_[i] |= other.words_[i];
+}
+
+void Value::remove(const Value& other) {
+  for (U32 i = 0; i < wordCount(); ++i) words_[i] &= ~other.words_[i];
+}
+
+std::string Value::hexDigits() const {
+  char digits[8 * maxWords];
+  char* const end = digits + 8 * wordCount();
+  char* at = end;
+  for (U32 i = 0; i < wordCount(); ++i) {
+    for (U32 shift = 0; shift < 32; shift += 4) *--at = "0123456789abcdef"[words_[i] >> shift & 15];
+  }
+  while (at + 1 < end && *at == '0') ++at;
+  return {at, end};
 }
 
 std::optional<U64> Value::number() const {
@@ -115,8 +147,25 @@ Oru::PerUnitBitmap Value::ports() const {
 }
 
 std::string Value::portRanges() const {
-  if (isZero()) return "none";
-  return ports().ranges().c_str();
+  std::string text;
+  for (U32 bit = nextBit(0, true); bit < width_;) {
+    const U32 end = nextBit(bit, false);
+    if (!text.empty()) text += ',';
+    text += std::to_string(bit);
+    if (end > bit + 1) text += '-' + std::to_string(end - 1);
+    bit = nextBit(end, true);
+  }
+  return text.empty() ? "none" : text;
+}
+
+U32 Value::nextBit(U32 bit, bool isSet) const {
+  while (bit < width_) {
+    const U32 word = isSet ? words_[bit / 32] : ~words_[bit / 32];
+    const U32 rest = word >> bit % 32;
+    if (rest != 0) return std::min(width_, bit + static_cast<U32>(__builtin_ctz(rest)));
+    bit = (bit / 32 + 1) * 32;
+  }
+  return width_;
 }
 
 void Value::setBit(U32 bit) { words_[bit / 32] |= 1U << bit % 32; }

@@ -20,8 +20,17 @@ class Value {
   void write(const FieldPlace& place, U8* entry, U32 entryBytes) const;
 
   bool isZero() const;
+  /// The same number as a value of another width; nothing where it does not fit.
+  std::optional<Value> resized(U32 width) const;
   friend bool operator==(const Value& a, const Value& b);
   friend bool operator!=(const Value& a, const Value& b) { return !(a == b); }
+  /// Compares the numbers.
+  friend bool operator<(const Value& a, const Value& b);
+  /// Whether all bits of the other are set.
+  bool contains(const Value& other) const;
+  /// Sets or clears the bits of the other, which has the same width.
+  void add(const Value& other);
+  void remove(const Value& other);
 
   /// Hexadecimal digits without leading zeros and without "0x".
   std::string hexDigits() const;
@@ -33,6 +42,8 @@ class Value {
   /// The ports as ranges such as "0-3,17"; "none" for no ports.
   std::string portRanges() const;
 
+  /// The first bit from `bit` on that is set, or clear; the width where there is none.
+  U32 nextBit(U32 bit, bool isSet) const;
   void setBit(U32 bit);
   /// Sets a value of zero to a number; false where it does not fit the width.
   bool setNumber(U64 number);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "output/Output.h"
@@ -14,20 +15,21 @@ class CsvRows {
     endRow();
   }
 
-  /// Appends a field to the row, in quotes where it needs them.
-  void field(std::string_view text) {
-    separate();
-    if (text.find_first_of(",\"\n") == std::string_view::npos) return output_.write(text);
-    output_.write("\"");
+  /// A text, in quotes where it needs them.
+  static std::string quoted(const std::string& text) {
+    if (text.find_first_of(",\"\n") == std::string::npos) return text;
+    std::string safe = "\"";
     for (const char letter : text) {
-      if (letter == '"') output_.write("\"");
-      output_.write({&letter, 1});
+      if (letter == '"') safe += '"';
+      safe += letter;
     }
-    output_.write("\"");
+    return safe + '"';
   }
-  void field(U64 number) {
-    separate();
-    output_.print("{}", number);
+
+  void field(const std::string& text) {
+    if (!isFirst_) output_.write(",");
+    isFirst_ = false;
+    output_.write(quoted(text));
   }
   void endRow() {
     output_.write("\n");
@@ -35,11 +37,6 @@ class CsvRows {
   }
 
  private:
-  void separate() {
-    if (!isFirst_) output_.write(",");
-    isFirst_ = false;
-  }
-
   Output& output_;
   bool isFirst_ = true;
 };

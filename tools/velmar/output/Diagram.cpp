@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "model/Families.h"
+
 namespace Tool {
 namespace {
 
@@ -9,9 +11,9 @@ constexpr U32 rowBits = 32;
 constexpr U32 bitColumns = 2;
 constexpr size_t marginColumns = 9;
 
-/// The part of a field that lies in one row.
+/// The part of a field that lies in one row, or of neighbours of a family.
 struct Piece {
-  const FieldPlace* place;
+  FieldGroup group;
   U32 low;   ///< lowest bit, counted from the row's lowest
   U32 high;  ///< highest bit
 };
@@ -41,18 +43,36 @@ std::vector<std::vector<const FieldPlace*>> lanesOf(const Layout& layout) {
   return lanes;
 }
 
-std::vector<Piece> piecesIn(const std::vector<const FieldPlace*>& lane, U32 row) {
+bool areNeighbours(const FieldPlace& high, const FieldPlace& low) {
+  return low.offset + low.width == high.offset && low.width == high.width &&
+         areOfOneFamily(low.field, high.field);
+}
+
+std::vector<Piece> piecesIn(const std::vector<const FieldPlace*>& lane, U32 row, bool asFamilies) {
   std::vector<Piece> pieces;
   const U32 first = row * rowBits;
   const U32 last = first + rowBits - 1;
   for (const FieldPlace* place : lane) {
     if (place->offset > last || place->lastBit() < first) continue;
-    pieces.push_back(
-        {place, std::max(place->offset, first) - first, std::min(place->lastBit(), last) - first});
+    pieces.push_back({{{*place}},
+                      std::max(place->offset, first) - first,
+                      std::min(place->lastBit(), last) - first});
   }
   std::sort(pieces.begin(), pieces.end(),
             [](const Piece& a, const Piece& b) { return a.high > b.high; });
-  return pieces;
+  if (!asFamilies) return pieces;
+  std::vector<Piece> joined;
+  for (const Piece& piece : pieces) {
+    const bool goesOn =
+        !joined.empty() && areNeighbours(joined.back().group.back(), piece.group.front());
+    if (!goesOn) {
+      joined.push_back(piece);
+      continue;
+    }
+    joined.back().group.members.push_back(piece.group.front());
+    joined.back().low = piece.low;
+  }
+  return joined;
 }
 
 /// Draws one row, lane by lane, and collects the meanings of the letters.
@@ -88,8 +108,8 @@ class Row {
     const size_t left = columnOf(piece.high);
     const size_t right = columnOf(piece.low) + bitColumns;
     const size_t room = right - left - 1;
-    std::string label = piece.place->name();
-    if (label.size() > room) label = letterFor(*piece.place);
+    std::string label = piece.group.name();
+    if (label.size() > room) label = letterFor(piece.group);
     line[left] = line[right] = '|';
     std::fill(line.begin() + static_cast<long>(left) + 1, line.begin() + static_cast<long>(right),
               ' ');
@@ -97,11 +117,11 @@ class Row {
   }
 
   /// A letter for a name that does not fit; explain() says what it means.
-  std::string letterFor(const FieldPlace& place) {
+  std::string letterFor(const FieldGroup& group) {
     static const std::string letters =
         "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
     const char letter = letters[legend_.size() % letters.size()];
-    legend_.push_back(formatText("{} = {} [{}]", letter, place.name(), place.bits()));
+    legend_.push_back(formatText("{} = {} [{}]", letter, group.name(), group.bits()));
     return std::string(1, letter);
   }
 
@@ -112,13 +132,13 @@ class Row {
 
 }  // namespace
 
-void drawDiagram(Output& output, const Layout& layout) {
+void drawDiagram(Output& output, const Layout& layout, bool asFamilies) {
   const auto lanes = lanesOf(layout);
   for (U32 word = 0; word < layout.geometry().words; ++word) {
     Row row(output, word);
     for (const auto& lane : lanes) {
       const bool isFirstLane = &lane == &lanes.front();
-      const std::vector<Piece> pieces = piecesIn(lane, word);
+      const std::vector<Piece> pieces = piecesIn(lane, word, asFamilies);
       if (isFirstLane || !pieces.empty()) row.draw(pieces, isFirstLane);
     }
     row.explain();

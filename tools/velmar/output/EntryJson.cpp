@@ -10,11 +10,12 @@ namespace {
 class JsonWriter : public EntryWriter {
  public:
   JsonWriter(Output& output, const Layout& layout, const std::vector<FieldPlace>& fields,
-             bool asLines)
+             const EntryStyle& style)
       : layout_(layout),
+        isPlain_(style.isPlain),
         showsReservedBits_(fields.size() == layout.fields().size()),
-        rows_(output, asLines, {asLines ? "" : documentHead(layout, fields), "]}", ""}) {
-    if (asLines) {
+        rows_(output, style.format == Format::jsonl, {documentHead(layout, fields), "]}", ""}) {
+    if (style.format == Format::jsonl) {
       lineHead_ = formatText(R"({{"table":"{}","chip":"{}","variant":{},"index":)", layout.name(),
                              layout.chip().name, layout.variant());
     } else {
@@ -26,8 +27,8 @@ class JsonWriter : public EntryWriter {
     size_t longestEntry =
         lineHead_.size() + addressTail_.size() + numbers + 2 * layout.entryBytes();
     for (const FieldPlace& place : fields) {
-      const std::string key =
-          formatText(R"({}"{}":{{"hex":"0x)", fields_.empty() ? "" : ",", place.name());
+      const std::string key = formatText(R"({}"{}":{})", fields_.empty() ? "" : ",", place.name(),
+                                         isPlain_ ? "" : R"({"hex":"0x)");
       longestEntry += key.size() + longestValueJson(place);
       fields_.push_back({place, key});
     }
@@ -65,9 +66,8 @@ class JsonWriter : public EntryWriter {
     at = append(at, R"(,"address":)");
     if (entry.index < layout_.indexCount()) {
       const U32 address = layout_.addressOf(static_cast<U32>(entry.index)).address;
-      at = append(at, "\"0x");
-      for (int shift = 28; shift >= 0; shift -= 4)
-        *at++ = "0123456789abcdef"[address >> shift & 15];
+      *at++ = '"';
+      at = appendAddress(at, address);
       *at++ = '"';
     } else {
       at = append(at, "null");
@@ -75,7 +75,8 @@ class JsonWriter : public EntryWriter {
     at = append(at, addressTail_);
     for (const JsonField& field : fields_) {
       at = append(at, field.key);
-      at = appendValueJson(at, field.place, entry.bytes, layout_.entryBytes());
+      at = isPlain_ ? appendPlainJson(at, field.place, entry.bytes, layout_.entryBytes())
+                    : appendValueJson(at, field.place, entry.bytes, layout_.entryBytes());
     }
     *at++ = '}';
     if (showsReservedBits_ && layout_.hasReservedBits(entry.bytes)) {
@@ -88,6 +89,7 @@ class JsonWriter : public EntryWriter {
   }
 
   const Layout& layout_;
+  bool isPlain_;
   bool showsReservedBits_;
   JsonRows rows_;
   std::string lineHead_;
@@ -99,8 +101,9 @@ class JsonWriter : public EntryWriter {
 }  // namespace
 
 std::unique_ptr<EntryWriter> makeJsonWriter(Output& output, const Layout& layout,
-                                            const std::vector<FieldPlace>& fields, bool asLines) {
-  return std::make_unique<JsonWriter>(output, layout, fields, asLines);
+                                            const std::vector<FieldPlace>& fields,
+                                            const EntryStyle& style) {
+  return std::make_unique<JsonWriter>(output, layout, fields, style);
 }
 
 }  // namespace Tool

@@ -11,41 +11,59 @@ namespace {
 /// all fields are shown, the last column has the reserved bits that are set.
 class CsvWriter : public EntryWriter {
  public:
-  CsvWriter(Output& output, const Layout& layout, std::vector<FieldPlace> fields)
-      : layout_(layout),
-        showsReservedBits_(fields.size() == layout.fields().size()),
-        rows_(output, columns(fields, showsReservedBits_)),
-        fields_(std::move(fields)) {}
+  CsvWriter(Output& output, const Layout& layout, const std::vector<FieldPlace>& fields)
+      : output_(output),
+        layout_(layout),
+        fields_(fields),
+        showsReservedBits_(fields.size() == layout.fields().size()) {
+    CsvRows head(output, columns());
+    size_t longest = 80 + 3 * layout.entryBytes();
+    for (const FieldPlace& place : fields) longest += longestValueJson(place);
+    row_.resize(longest);
+  }
 
   void write(const Entry& entry) override {
-    const bool isInTable = entry.index < layout_.indexCount();
-    const Address address = layout_.addressOf(isInTable ? static_cast<U32>(entry.index) : U32{0});
-    rows_.field(entry.index);
-    rows_.field(isInTable ? addressText(address.address) : "");
-    rows_.field(address.accessType);
-    rows_.field(address.block);
-    for (const FieldPlace& place : fields_) {
-      rows_.field(plainText(place, Value::read(place, entry.bytes, layout_.entryBytes())));
-    }
-    if (showsReservedBits_) {
-      rows_.field(layout_.hasReservedBits(entry.bytes) ? reservedBits(layout_, entry.bytes) : "");
-    }
-    rows_.endRow();
+    const char* const end = appendRow(row_.data(), entry);
+    output_.write({row_.data(), static_cast<size_t>(end - row_.data())});
   }
 
  private:
-  static std::vector<std::string> columns(const std::vector<FieldPlace>& fields,
-                                          bool showsReservedBits) {
+  std::vector<std::string> columns() const {
     std::vector<std::string> names = {"index", "address", "accessType", "block"};
-    for (const FieldPlace& place : fields) names.emplace_back(place.name());
-    if (showsReservedBits) names.emplace_back("outsideFields");
+    for (const FieldPlace& place : fields_) names.emplace_back(place.name());
+    if (showsReservedBits_) names.emplace_back("outsideFields");
     return names;
   }
 
+  char* appendRow(char* at, const Entry& entry) const {
+    const U32 size = layout_.entryBytes();
+    const Catalogue::Geometry& geometry = layout_.geometry();
+    at = append(appendDecimal(at, entry.index), ",");
+    if (entry.index < layout_.indexCount()) {
+      at = appendAddress(at, layout_.addressOf(static_cast<U32>(entry.index)).address);
+    }
+    at = appendDecimal(append(at, ","), geometry.accessType);
+    at = appendDecimal(append(at, ","), geometry.block);
+    for (const FieldPlace& place : fields_) {
+      *at++ = ',';
+      if (place.isScalar() && isExactInJson(place.width)) {
+        at = appendDecimal(at, readScalar(place, entry.bytes, size));
+      } else {
+        at = append(at, CsvRows::quoted(plainText(place, Value::read(place, entry.bytes, size))));
+      }
+    }
+    if (showsReservedBits_) {
+      *at++ = ',';
+      if (layout_.hasReservedBits(entry.bytes)) at = append(at, reservedBits(layout_, entry.bytes));
+    }
+    return append(at, "\n");
+  }
+
+  Output& output_;
   const Layout& layout_;
-  bool showsReservedBits_;
-  CsvRows rows_;
   std::vector<FieldPlace> fields_;
+  bool showsReservedBits_;
+  std::vector<char> row_;  ///< room for the longest
 };
 
 /// Writes encoded entries as bytes: hex text or raw.
@@ -100,15 +118,13 @@ class BytesWriter : public EntryWriter {
 }  // namespace
 
 std::unique_ptr<EntryWriter> makeEntryWriter(Output& output, const Layout& layout,
-                                             std::vector<FieldPlace> fields, Format format) {
-  switch (format) {
-    case Format::table:
-      return makeTableWriter(output, layout, std::move(fields));
-    case Format::csv:
-      return std::make_unique<CsvWriter>(output, layout, std::move(fields));
-    default:
-      return makeJsonWriter(output, layout, fields, format == Format::jsonl);
+                                             const std::vector<FieldPlace>& fields,
+                                             const EntryStyle& style) {
+  if (style.format == Format::table) {
+    return makeTableWriter(output, layout, grouped(fields, style.asFamilies));
   }
+  if (style.format == Format::csv) return std::make_unique<CsvWriter>(output, layout, fields);
+  return makeJsonWriter(output, layout, fields, style);
 }
 
 std::unique_ptr<EntryWriter> makeBytesWriter(Output& output, const Layout& layout, Format format,

@@ -6,10 +6,17 @@ namespace Tool {
 
 /// What surrounds the rows of a JSON document.
 struct JsonFrame {
-  std::string head = "[";
-  std::string tail = "]";
+  std::string head;
+  std::string tail = "]}";
   std::string indent = "  ";
 };
+
+/// A document that begins with its format and version: {"format": "velmar-tables", ...}. `members`
+/// come before the rows, which are those of its last member: `"chip": "BCM56990_B0"`.
+inline JsonFrame frameOf(const char* name, const char* rows, const std::string& members = "") {
+  return {formatText(R"({{"format": "velmar-{}", "version": 1,{}{} "{}": [)", name,
+                     members.empty() ? "" : " ", members.empty() ? "" : members + ",", rows)};
+}
 
 /// JSON objects as the array of one document, or as lines that are documents of their own.
 class JsonRows {
@@ -19,7 +26,7 @@ class JsonRows {
         asLines_(asLines),
         separator_(",\n" + frame.indent),
         tail_("\n" + frame.tail + "\n") {
-    if (!asLines_) output_.write(frame.head);
+    if (!asLines) output_.write(frame.head);
   }
 
   void write(std::string_view object) {

@@ -13,7 +13,7 @@ namespace Tool {
 class RowWriter {
  public:
   RowWriter(Output& output, Format format, std::vector<std::string> columns,
-            const JsonFrame& frame = {});
+            const JsonFrame& frame);
 
   /// A row may be shorter than the columns: the last members are then missing, or fields empty.
   void write(const Row& row);
@@ -31,13 +31,14 @@ class Listing {
   explicit Listing(std::vector<std::string> columns) : columns_(std::move(columns)) {}
 
   void add(Row row) { rows_.push_back(std::move(row)); }
+  void add(Listing rows) {
+    for (Row& row : rows.rows_) rows_.push_back(std::move(row));
+  }
   bool isEmpty() const { return rows_.empty(); }
 
-  void print(Output& output, Format format, const JsonFrame& frame = {}) const;
+  void print(Output& output, Format format, const JsonFrame& frame) const;
 
  private:
-  void printTable(Output& output) const;
-
   std::vector<std::string> columns_;
   std::vector<Row> rows_;
 };

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
@@ -141,10 +142,26 @@ void Output::finish() {
 }
 
 void Output::write(std::string_view piece, Style style) {
-  if (!colored_ || style == Style::plain) return write(piece);
+  if (!colored_ || style == Style::plain || piece.empty()) return write(piece);
   write(escapeOf(style));
   write(piece);
   write("\033[0m");
+}
+
+void Output::writeLine(const std::string& heading, const std::string& rest, size_t indent) {
+  const std::string text = heading + rest;
+  if (columns_ == 0 || text.size() <= columns_) {
+    write(heading, Style::strong);
+    write(rest);
+    return write("\n");
+  }
+  // The heading is shorter than any terminal that it is read on.
+  std::vector<std::string> lines = wrap(text, columns_ - std::min<size_t>(columns_ - 1, indent));
+  const bool isWhole = lines.front().rfind(heading, 0) == 0;
+  write(isWhole ? heading : lines.front(), Style::strong);
+  if (isWhole) write(lines.front().substr(heading.size()));
+  for (size_t i = 1; i < lines.size(); ++i) print("\n{:{}}{}", "", indent, lines[i]);
+  write("\n");
 }
 
 void installSignalHandlers() {

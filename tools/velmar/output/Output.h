@@ -33,6 +33,9 @@ class Output {
   /// Writes the piece in a style, where colours are on.
   void write(std::string_view piece, Style style);
 
+  /// Writes a line that begins with a heading. On a terminal it is folded at blanks.
+  void writeLine(const std::string& heading, const std::string& rest, size_t indent = 4);
+
   void flushIfLarge() {
     if (text_.size() >= flushSize) flush();
   }

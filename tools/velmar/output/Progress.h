@@ -11,26 +11,29 @@ namespace Tool {
 /// result appears on a terminal too.
 class Progress {
  public:
-  explicit Progress(const Output& output);
+  /// `size`: the bytes that are to be read; 0 where that is not known.
+  explicit Progress(const Output& output, U64 size = 0);
   ~Progress();
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
 
   /// Removes the counter, so that the line is free for a note.
   void clear();
-  /// One more entry is done.
-  void step() {
-    if ((++count_ & 0xfff) == 0 && enabled_) show();
+  /// One more entry is done; so many bytes were read.
+  void step(U64 bytes = 0) {
+    if ((++count_ & 0xfff) == 0 && enabled_) show(bytes);
   }
 
  private:
   using Clock = std::chrono::steady_clock;
 
-  void show();
+  void show(U64 bytes);
 
   bool enabled_;
+  U64 size_;
   bool shown_ = false;
   U64 count_ = 0;
+  Clock::time_point start_;
   Clock::time_point next_;
 };
 

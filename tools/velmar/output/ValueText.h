@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Families.h"
+#include "model/Formatting.h"
 #include "model/Value.h"
 #include "output/Append.h"
 
@@ -10,8 +12,19 @@ namespace Tool {
 /// Whether a decimal number of so many bits is exact in every JSON reader.
 constexpr bool isExactInJson(U32 bits) { return bits <= 53; }
 
+/// The type of a value for people, such as "U16" or "bitmap".
+inline const char* shortNameOf(Catalogue::ValueType type) {
+  return type == Catalogue::ValueType::bitmap ? "bitmap" : Catalogue::valueTypeName(type);
+}
+
 /// A value for spreadsheets: decimal where that is exact, bitmaps as ports.
 std::string plainText(const FieldPlace& place, const Value& value);
+
+/// The values of a family, the fields of one value together: "3: 1-9,11-20  0: 0,10".
+std::string familyText(const FieldGroup& family, const U8* entry, U32 entryBytes);
+
+/// Bit ranges as tables show them, with the colons below each other.
+std::string alignedBits(const Layout& layout, const std::string& bits);
 
 /// The value of a field as a JSON object.
 std::string valueJson(const FieldPlace& place, const U8* entry, U32 entryBytes);
@@ -26,6 +39,10 @@ inline char* appendValueJson(char* at, const FieldPlace& place, const U8* entry,
   *at++ = '}';
   return at;
 }
+/// Appends the value alone: a number where it is exact, a list of ports, or hexadecimal text.
+char* appendPlainJson(char* at, const FieldPlace& place, const U8* entry, U32 entryBytes);
+/// The members that say of which table a document is: "table", "chip" and "variant".
+std::string sourceJson(const Layout& layout);
 /// Room for any value of a field.
 size_t longestValueJson(const FieldPlace& place);
 

@@ -1,3 +1,5 @@
+#include <set>
+
 #include "model/Failure.h"
 #include "model/Text.h"
 #include "output/Listing.h"
@@ -20,31 +22,29 @@ void add(Listing& listing, const Layout& layout, U32 index, U32 identifier) {
                address.accessType, Cell(address.block).shownAs(blockText(address.block))});
 }
 
-U32 indexOf(const Arguments& arguments, const Layout& layout) {
+Listing addressesOfEntries(const Arguments& arguments) {
+  if (arguments.table.empty()) fail("TABLE is missing; name a table, or give --find");
+  const Layout layout = layoutOf(arguments);
   if (!arguments.array.empty() && !arguments.index.empty()) {
     fail("--index and --array exclude each other; give one of them");
   }
-  if (!arguments.array.empty() && !layout.isRegisterArray()) {
+  const bool byArray = !arguments.array.empty();
+  if (byArray && !layout.isRegisterArray()) {
     fail("{} is a table, not a register array; give --index instead of --array", layout.name());
   }
-  const bool byArray = !arguments.array.empty();
-  const std::string& text = byArray ? arguments.array : arguments.index;
-  if (text.empty()) {
+  if (!byArray && arguments.index.empty()) {
     fail("nothing to look up; give {}, or --find with an address",
          layout.isRegisterArray() ? "--array N" : "--index N");
   }
-  return static_cast<U32>(
-      numberOf(byArray ? "--array" : "--index", text, layout.indexCount() - 1, 0));
-}
-
-Listing addressOfEntry(const Arguments& arguments) {
-  if (arguments.table.empty()) fail("TABLE is missing; name a table, or give --find");
-  const Layout layout = layoutOf(arguments);
-  const U32 index = indexOf(arguments, layout);
+  const std::string typed = byArray ? arguments.array : join(arguments.index, ",");
+  const IndexSet indexes(typed);
+  checkIndexes(layout, indexes, byArray ? "--array" : "--index", typed);
   const U64 largest = layout.geometry().identifiers - 1;
   const U64 identifier = numberOf("--identifier", arguments.identifier, largest, 0);
   Listing listing = newListing();
-  add(listing, layout, index, static_cast<U32>(identifier));
+  for (const U64 index : indexes.below(layout.indexCount())) {
+    add(listing, layout, static_cast<U32>(index), static_cast<U32>(identifier));
+  }
   return listing;
 }
 
@@ -59,55 +59,67 @@ void addMatches(Listing& listing, const Layout& layout, U32 address) {
   }
 }
 
-/// The entries of a table, or of all tables of the chip.
-Listing matchesOf(const std::vector<Catalogue::Table>& tables, const Arguments& arguments) {
-  const U64 address = numberOf("--find", arguments.find, 0xffffffff, 0);
-  Listing listing = newListing();
-  for (const Catalogue::Table& table : tables) {
-    addMatches(listing, Layout(table, chipOf(arguments), variantOf(arguments)),
-               static_cast<U32>(address));
-  }
-  return listing;
+/// The chips to look at: the one of --chip, or all.
+std::vector<Catalogue::Chip> chipsOf(const Arguments& arguments) {
+  return arguments.chips.empty() ? allChips() : std::vector{chipOf(arguments)};
 }
 
-std::vector<Catalogue::Table> tablesOfChip(const Arguments& arguments) {
-  return tablesOn(chipOf(arguments), variantOf(arguments));
+/// Adds what has an address in a table, or in all tables where none is named; returns the names of
+/// the tables that have it.
+std::set<std::string> findAddress(Listing& listing, const Arguments& arguments,
+                                  const std::string& table, U32 address) {
+  std::set<std::string> names;
+  for (const Catalogue::Chip& chip : chipsOf(arguments)) {
+    for (const Catalogue::Table& candidate : tablesOn(chip, variantOf(arguments))) {
+      if (!table.empty() && findTable(table).name() != std::string_view(candidate.name())) continue;
+      Listing found = newListing();
+      addMatches(found, Layout(candidate, chip, variantOf(arguments)), address);
+      if (!found.isEmpty()) names.insert(candidate.name());
+      listing.add(std::move(found));
+    }
+  }
+  return names;
 }
 
-Listing entriesAtAddress(const Arguments& arguments) {
-  if (!arguments.index.empty() || !arguments.array.empty() || !arguments.identifier.empty()) {
-    fail("--find excludes --index, --array and --identifier; give --find alone");
-  }
-  const bool isNamed = !arguments.table.empty();
-  return matchesOf(isNamed ? std::vector{findTable(arguments.table)} : tablesOfChip(arguments),
-                   arguments);
-}
-
-/// Says that nothing has the address or, where the table is named, who else has it.
-void noteNotFound(const Arguments& arguments) {
-  std::vector<std::string> others;
-  for (const Catalogue::Table& table : tablesOfChip(arguments)) {
-    if (!matchesOf({table}, arguments).isEmpty()) others.emplace_back(table.name());
-  }
+/// Says that nothing has the address or, where the table is named, that others have it.
+void noteNotFound(const Arguments& arguments, const std::string& typed, U32 address) {
+  Listing ignored = newListing();
+  const std::set<std::string> others = findAddress(ignored, arguments, "", address);
   const std::string text =
       others.empty()
-          ? formatText("no table of the chip has an entry at {}", arguments.find)
+          ? formatText("no table of {} has an entry at {}",
+                       arguments.chips.empty() ? "a chip" : "the chip", typed)
           : formatText("{} has no entry at {}, but {} has; leave out the table to see it",
-                       findTable(arguments.table).name(), arguments.find, join(others, " and "));
+                       findTable(arguments.table).name(), typed,
+                       join({others.begin(), others.end()}, " and "));
   std::fprintf(stderr, "velmar: %s\n", text.c_str());
 }
 
 int run(const Arguments& arguments) {
-  const bool find = !arguments.find.empty();
-  const Listing listing = find ? entriesAtAddress(arguments) : addressOfEntry(arguments);
+  const bool finds = !arguments.find.empty();
+  const bool namesEntries = !arguments.index.empty() || !arguments.array.empty();
+  if (finds && (namesEntries || !arguments.identifier.empty())) {
+    fail("--find excludes --index, --array and --identifier; give --find alone");
+  }
+  if (!finds && arguments.chips.empty()) fail("--chip is missing; see \"velmar addr --help\"");
+  // A table that the chip does not have is an error.
+  if (finds && !arguments.table.empty() && !arguments.chips.empty()) layoutOf(arguments);
+  Listing listing = finds ? newListing() : addressesOfEntries(arguments);
+  std::vector<std::pair<std::string, U32>> missing;
+  for (const std::string& typed : arguments.find) {
+    const U32 address = static_cast<U32>(numberOf("--find", typed, 0xffffffff, 0));
+    if (findAddress(listing, arguments, arguments.table, address).empty()) {
+      missing.emplace_back(typed, address);
+    }
+  }
   Output output(arguments.output, arguments.color);
-  if (!listing.isEmpty() || formatOf(arguments.format) != Format::table) {
-    listing.print(output, formatOf(arguments.format));
+  const Format format = formatOf(arguments.format);
+  if (!listing.isEmpty() || format != Format::table) {
+    listing.print(output, format, frameOf("addresses", "addresses"));
   }
   output.finish();
-  if (!listing.isEmpty()) return exitSuccess;
-  noteNotFound(arguments);
-  return exitFinding;
+  for (const auto& [typed, address] : missing) noteNotFound(arguments, typed, address);
+  return missing.empty() ? exitSuccess : exitFinding;
 }
 
 }  // namespace
@@ -116,13 +128,13 @@ Verb addrVerb() {
   return {
       "addr",
       "Prints the S-channel address of an entry, or the entry of an address.",
-      "With --find, all entries that have the address are printed: tables may share one. Exit "
-      "code 1 says that none has it.",
+      "With --find, all entries that have the address are printed: tables may share one. Without "
+      "--chip, all chips are searched. Exit code 1 says that none has it.",
       {Positionals::tableIfAny},
-      {Options::chip, Options::variant, Options::entryIndex, Options::array, Options::identifier,
-       Options::find, Options::listFormat, Options::output, Options::color},
+      {Options::chipIfAny, Options::variant, Options::entryIndex, Options::array,
+       Options::identifier, Options::find, Options::listFormat, Options::output, Options::color},
       {"velmar addr VlanEntry --chip BCM56990_B0 --index 100",
-       "velmar addr --find 0x0c7c0064 --chip BCM56990_B0"},
+       "velmar addr --find 0x0c7c0064 --chip BCM56990_B0", "velmar addr --find 0x0c7c0064"},
       run};
 }
 

@@ -10,7 +10,7 @@ int run(const Arguments& arguments) {
   for (const Catalogue::Chip& chip : allChips()) {
     listing.add({chip.name, chip.number, static_cast<U32>(tablesOn(chip).size())});
   }
-  print(arguments, listing);
+  print(arguments, listing, frameOf("chips", "chips"));
   return exitSuccess;
 }
 

@@ -1,5 +1,5 @@
 #include "model/Failure.h"
-#include "model/Layout.h"
+#include "model/Families.h"
 #include "output/Listing.h"
 #include "verbs/Target.h"
 #include "verbs/Verbs.h"
@@ -11,11 +11,16 @@ using Geometry = Catalogue::Geometry;
 
 class ChipComparison {
  public:
-  ChipComparison(const Catalogue::Chip& before, const Catalogue::Chip& after, U8 variant)
+  ChipComparison(const Catalogue::Chip& before, const Catalogue::Chip& after, U8 variant,
+                 bool isForPeople, bool asFamilies)
       : before_(before),
         after_(after),
         variant_(variant),
-        listing_({"table", "part", "change", "old", "new"}) {}
+        isForPeople_(isForPeople),
+        asFamilies_(asFamilies),
+        // For people old and new stand beside each other also where the line is short.
+        listing_(isForPeople ? std::vector<std::string>{"table", "part", "old", "new", "change"}
+                             : std::vector<std::string>{"table", "part", "change", "old", "new"}) {}
 
   void compare(const Catalogue::Table& table) {
     const bool wasThere = table.isOn(before_.number, variant_);
@@ -28,7 +33,7 @@ class ChipComparison {
       return;
     }
     compareGeometry(table);
-    for (U32 i = 0; i < table.fieldCount(); ++i) compareField(table, i);
+    compareFields(table);
   }
 
   const Listing& listing() const { return listing_; }
@@ -36,6 +41,7 @@ class ChipComparison {
  private:
   void add(const Catalogue::Table& table, const std::string& part, const char* change,
            const Cell& before, const Cell& after) {
+    if (isForPeople_) return listing_.add({table.name(), part, before, after, change});
     listing_.add({table.name(), part, change, before, after});
   }
 
@@ -67,11 +73,43 @@ class ChipComparison {
     return geometry.variants == Catalogue::Variants::any ? "any" : "0 only";
   }
 
-  void compareField(const Catalogue::Table& table, U32 index) {
-    const FieldPlace before = placeOn(table, index, before_);
-    const FieldPlace after = placeOn(table, index, after_);
-    if (before.offset == after.offset && before.width == after.width) return;
-    add(table, before.name(), changeOf(before, after), bitsCell(before), bitsCell(after));
+  /// A field that differs, or members of a family that differ alike.
+  struct Difference {
+    FieldGroup before, after;
+    const char* change;
+  };
+
+  void compareFields(const Catalogue::Table& table) {
+    std::vector<Difference> differences;
+    for (U32 i = 0; i < table.fieldCount(); ++i) {
+      const FieldPlace before = placeOn(table, i, before_);
+      const FieldPlace after = placeOn(table, i, after_);
+      if (before.offset == after.offset && before.width == after.width) continue;
+      const char* const change = changeOf(before, after);
+      if (asFamilies_ && !differences.empty() &&
+          goesOn(differences.back(), before, after, change)) {
+        differences.back().before.members.push_back(before);
+        differences.back().after.members.push_back(after);
+      } else {
+        differences.push_back({{{before}}, {{after}}, change});
+      }
+    }
+    for (const Difference& difference : differences) {
+      add(table, difference.before.name(), difference.change, bitsCell(difference.before),
+          bitsCell(difference.after));
+    }
+  }
+
+  /// Whether the next field of the table is of the same family and differs in the same way.
+  static bool goesOn(const Difference& difference, const FieldPlace& before,
+                     const FieldPlace& after, const char* change) {
+    const FieldPlace& lastBefore = difference.before.back();
+    const FieldPlace& lastAfter = difference.after.back();
+    const bool isOnBoth = before.width != 0 && after.width != 0;
+    return areOfOneFamily(lastBefore.field, before.field) &&
+           std::string_view(difference.change) == change && lastBefore.width == before.width &&
+           lastAfter.width == after.width &&
+           (!isOnBoth || lastAfter.offset - lastBefore.offset == after.offset - before.offset);
   }
 
   static FieldPlace placeOn(const Catalogue::Table& table, U32 index, const Catalogue::Chip& chip) {
@@ -83,17 +121,21 @@ class ChipComparison {
     if (before.width == 0) return "added";
     if (after.width == 0) return "gone";
     if (before.width == after.width) return "moved";
-    return before.offset == after.offset ? "resized" : "moved, resized";
+    return before.offset == after.offset ? "resized" : "moved and resized";
   }
 
-  static Cell bitsCell(const FieldPlace& place) {
-    if (place.width == 0) return nullptr;
-    return place.bits();
+  static Cell bitsCell(const FieldGroup& group) {
+    const FieldPlace& first = group.front();
+    if (first.width == 0) return nullptr;
+    return Cell::ofJson(formatText(R"({{"offset":{},"width":{}}})", first.offset, first.width))
+        .shownAs(group.bits());
   }
 
   Catalogue::Chip before_;
   Catalogue::Chip after_;
   U8 variant_;
+  bool isForPeople_;
+  bool asFamilies_;
   Listing listing_;
 };
 
@@ -104,7 +146,10 @@ int run(const Arguments& arguments) {
   }
   const Catalogue::Chip before = findChip(arguments.chips[0]);
   const Catalogue::Chip after = findChip(arguments.chips[1]);
-  ChipComparison comparison(before, after, variantOf(arguments));
+  const Format format = formatOf(arguments.format);
+  const bool isForPeople = format == Format::table;
+  ChipComparison comparison(before, after, variantOf(arguments), isForPeople,
+                            isForPeople && !arguments.expand);
   if (arguments.table.empty()) {
     for (const Catalogue::Table& table : allTables()) comparison.compare(table);
   } else {
@@ -116,8 +161,11 @@ int run(const Arguments& arguments) {
   const Listing& listing = comparison.listing();
   if (!arguments.quiet) {
     Output output(arguments.output, arguments.color);
-    const Format format = formatOf(arguments.format);
-    if (!listing.isEmpty() || format != Format::table) listing.print(output, format);
+    if (!listing.isEmpty() || format != Format::table) {
+      const std::string chips =
+          formatText(R"("oldChip": "{}", "newChip": "{}")", before.name, after.name);
+      listing.print(output, format, frameOf("comparison", "differences", chips));
+    }
     output.finish();
   }
   return listing.isEmpty() ? exitSuccess : exitFinding;
@@ -131,8 +179,8 @@ Verb compareVerb() {
           "Without TABLE all tables are compared. What is the same is not printed. Exit code 1 "
           "says that there are differences.",
           {Positionals::tableIfAny},
-          {Options::chips, Options::variant, Options::quiet, Options::listFormat, Options::output,
-           Options::color},
+          {Options::chips, Options::variant, Options::expand, Options::quiet, Options::listFormat,
+           Options::output, Options::color},
           {"velmar compare VlanEntry --chip BCM56980_A0 --chip BCM56990_B0",
            "velmar compare --chip BCM56275_A0 --chip BCM56175_A0 --format csv"},
           run};

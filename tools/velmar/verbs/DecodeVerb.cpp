@@ -1,54 +1,24 @@
 #include <algorithm>
+#include <limits>
 
+#include "model/Condition.h"
 #include "model/Failure.h"
-#include "model/IndexSet.h"
 #include "model/Text.h"
-#include "model/Value.h"
 #include "output/EntryWriter.h"
 #include "output/Listing.h"
 #include "output/Progress.h"
+#include "output/ValueText.h"
 #include "verbs/Target.h"
 #include "verbs/Verbs.h"
 
 namespace Tool {
 namespace {
 
-/// A condition of --where.
-class Condition {
- public:
-  Condition(const Layout& layout, const std::string& text)
-      : entryBytes_(layout.entryBytes()), place_(parsePlace(layout, text)), value_(place_.width) {
-    const size_t sign = text.find('=');
-    value_ = parseValue(place_, trim(std::string_view(text).substr(sign + 1)));
-    wantsEqual_ = text[sign - 1] != '!';
-  }
-
-  bool holdsFor(const U8* bytes) const {
-    return (Value::read(place_, bytes, entryBytes_) == value_) == wantsEqual_;
-  }
-
- private:
-  static FieldPlace parsePlace(const Layout& layout, const std::string& text) {
-    size_t end = text.find('=');
-    if (end == std::string::npos || end == 0) {
-      fail("--where {}: no condition; give FIELD=VALUE or FIELD!=VALUE", inQuotes(text));
-    }
-    if (text[end - 1] == '!') --end;
-    return layout.find(trim(std::string_view(text).substr(0, end)));
-  }
-
-  U32 entryBytes_;
-  FieldPlace place_;
-  Value value_;
-  bool wantsEqual_;
-};
-
 /// The entries to show.
 class Selection {
  public:
   Selection(const Arguments& arguments, const Layout& layout)
-      : nonzero_(arguments.nonzero), zeros_(layout.entryBytes()) {
-    if (!arguments.index.empty()) indexes_ = IndexSet(arguments.index);
+      : nonzero_(arguments.nonzero), zeros_(layout.entryBytes()), indexes_(indexesOf(arguments)) {
     for (const std::string& text : arguments.where) conditions_.emplace_back(layout, text);
   }
 
@@ -59,7 +29,7 @@ class Selection {
         conditions_.begin(), conditions_.end(),
         [&entry](const Condition& condition) { return condition.holdsFor(entry.bytes); });
   }
-  U64 last() const { return indexes_.last(); }
+  const IndexSet& indexes() const { return indexes_; }
   bool mayBeEmpty() const { return !indexes_.isAll() || !conditions_.empty(); }
 
  private:
@@ -86,12 +56,16 @@ class Walk {
                                                            if (selected_ != 0) output.flush();
                                                          }),
                             layout, inputOptionsOf(arguments))),
-        progress_(output) {}
+        limit_(numberOf("--limit", arguments.limit, std::numeric_limits<U32>::max(),
+                        std::numeric_limits<U64>::max())),
+        progress_(output, reader_->sizeInBytes()) {
+    if (limit_ == 0) fail("--limit 0 shows nothing; give 1 or more");
+  }
 
   bool next(Entry& entry) {
-    while (reader_->next(entry)) {
-      progress_.step();
-      if (entry.index > selection_.last() && reader_->isAscending()) break;
+    while (selected_ < limit_ && reader_->next(entry)) {
+      progress_.step(reader_->bytesTaken());
+      if (entry.index > selection_.indexes().last() && reader_->isAscending()) break;
       if (!selection_.has(entry)) continue;
       ++selected_;
       return true;
@@ -109,9 +83,12 @@ class Walk {
   /// Notes what the result does not show.
   void report() {
     progress_.clear();
+    const std::string unmet = selected_ < limit_ ? selection_.indexes().unmet() : "";
     if (selected_ == 0 && selection_.mayBeEmpty()) {
       std::fprintf(stderr,
                    "velmar: note: no entry of the dump is selected; check --index and --where\n");
+    } else if (!unmet.empty()) {
+      std::fprintf(stderr, "velmar: note: the dump has no entry with index %s\n", unmet.c_str());
     }
   }
 
@@ -119,14 +96,14 @@ class Walk {
   Selection selection_;
   U64 selected_ = 0;
   std::unique_ptr<EntryReader> reader_;
+  U64 limit_;
   Progress progress_;
 };
 
 int decode(const Arguments& arguments, const Layout& layout, Output& output) {
-  std::vector<FieldPlace> fields = fieldsOf(arguments, layout);
+  const std::vector<FieldPlace> fields = fieldsOf(arguments, layout);
   Walk walk(arguments, layout, output);
-  const auto writer =
-      makeEntryWriter(output, layout, std::move(fields), formatOf(arguments.format));
+  const auto writer = makeEntryWriter(output, layout, fields, styleOf(arguments));
   for (Entry entry; walk.next(entry); output.flushIfLarge()) writer->write(entry);
   if (formatOf(arguments.format) == Format::json) walk.checkAny();
   writer->end();
@@ -158,7 +135,8 @@ class Findings {
       : output_(output),
         layout_(layout),
         isTable_(format == Format::table),
-        rows_(output, format, {"index", "beyondEnd", "bits"}) {}
+        rows_(output, format, {"index", "beyondEnd", "bits"},
+              frameOf("findings", "findings", sourceJson(layout))) {}
 
   void examine(const Entry& entry) {
     const std::vector<std::string> bits = setReservedBits(layout_, entry.bytes);
@@ -215,8 +193,9 @@ Verb decodeVerb() {
           "stream and may be of any size; a line of text or a JSON entry may have up to 1 MiB.",
           {Positionals::table, Positionals::dump},
           {Options::chip, Options::variant, Options::index, Options::fields, Options::where,
-           Options::nonzero, Options::check, Options::input, Options::hexOrder, Options::byteOrder,
-           Options::stride, Options::first, Options::listFormat, Options::output, Options::color},
+           Options::nonzero, Options::limit, Options::plain, Options::expand, Options::check,
+           Options::input, Options::hexOrder, Options::byteOrder, Options::stride, Options::first,
+           Options::listFormat, Options::output, Options::color},
           {"velmar encode VlanEntry --chip 56990_B0 valid=1 stg=5 | velmar decode VlanEntry --chip "
            "56990_B0",
            "velmar encode VlanMpls --chip 56980 --index 7 mplsEnable=1 --whole -f raw | velmar "

@@ -1,7 +1,9 @@
+#include <algorithm>
 #include <cstring>
+#include <optional>
 
 #include "model/Failure.h"
-#include "model/IndexSet.h"
+#include "model/Families.h"
 #include "model/Value.h"
 #include "output/EntryWriter.h"
 #include "output/Listing.h"
@@ -24,6 +26,8 @@ class Side {
 
   bool hasEntry() const { return hasEntry_; }
   const Entry& entry() const { return entry_; }
+  U64 sizeInBytes() const { return reader_->sizeInBytes(); }
+  U64 bytesTaken() const { return reader_->bytesTaken(); }
   void take() {
     const bool checks = hasEntry_ && !reader_->isAscending();
     const U64 last = entry_.index;
@@ -52,7 +56,8 @@ struct Change {
   std::string name;
   std::string bits;
   ValueForms old, now;
-  std::string note;  ///< for a bitmap the ports that were removed and added
+  std::string note;       ///< for a bitmap the ports that were removed and added
+  bool isFamily = false;  ///< a member of a family
 };
 
 std::string valueText(const FieldPlace& place, const Value& value) {
@@ -76,22 +81,24 @@ class EntryComparison {
  public:
   EntryComparison(const Arguments& arguments, const Layout& layout)
       : layout_(layout),
-        fields_(fieldsOf(arguments, layout)),
+        groups_(grouped(fieldsOf(arguments, layout), styleOf(arguments).asFamilies)),
         comparesAll_(arguments.fields.empty()) {}
 
   /// What differs between two entries.
   std::vector<Change> changes(const U8* before, const U8* after) const {
     std::vector<Change> changes;
     const U32 size = layout_.entryBytes();
-    for (const FieldPlace& place : fields_) {
-      const Value old = Value::read(place, before, size);
-      const Value now = Value::read(place, after, size);
-      if (old == now) continue;
-      const auto forms = [&](const Value& value, const U8* entry) -> ValueForms {
-        return {valueText(place, value), plainText(place, value), valueJson(place, entry, size)};
-      };
-      changes.push_back({place.name(), place.bits(), forms(old, before), forms(now, after),
-                         place.isBitmap() ? portNote(old, now) : ""});
+    for (const FieldGroup& group : groups_) {
+      for (const FieldPlace& place : group.members) {
+        const Value old = Value::read(place, before, size);
+        const Value now = Value::read(place, after, size);
+        if (old == now) continue;
+        const auto forms = [&](const Value& value, const U8* entry) -> ValueForms {
+          return {valueText(place, value), plainText(place, value), valueJson(place, entry, size)};
+        };
+        changes.push_back({place.name(), place.bits(), forms(old, before), forms(now, after),
+                           place.isBitmap() ? portNote(old, now) : "", group.isFamily()});
+      }
     }
     if (comparesAll_)
       addReserved(changes, reservedBits(layout_, before), reservedBits(layout_, after));
@@ -118,24 +125,54 @@ class EntryComparison {
   }
 
   const Layout& layout_;
-  std::vector<FieldPlace> fields_;
+  std::vector<FieldGroup> groups_;
   bool comparesAll_;
 };
 
-/// Prints differences in one of the formats: as CSV a row per field, otherwise per entry.
+/// Members of a family that change alike become one change, such as that of "spTreePort0-3".
+std::vector<Change> joined(const std::vector<Change>& changes) {
+  std::vector<Change> result;
+  std::vector<std::vector<U32>> numbers;
+  for (const Change& change : changes) {
+    const auto isAlike = [&change](const Change& other) {
+      return other.isFamily && change.isFamily && other.old.text == change.old.text &&
+             other.now.text == change.now.text &&
+             numberedName(other.name)->prefix == numberedName(change.name)->prefix;
+    };
+    const auto found = std::find_if(result.begin(), result.end(), isAlike);
+    const size_t at = static_cast<size_t>(found - result.begin());
+    if (found == result.end()) {
+      result.push_back(change);
+      numbers.emplace_back();
+    }
+    if (change.isFamily) numbers[at].push_back(numberedName(change.name)->number);
+  }
+  for (size_t i = 0; i < result.size(); ++i) {
+    if (numbers[i].size() < 2) continue;
+    result[i].name = std::string(numberedName(result[i].name)->prefix) + rangesText(numbers[i]);
+    result[i].bits.clear();
+  }
+  return result;
+}
+
+/// How an entry differs, as JSON and CSV say it.
+constexpr const char *changed = "changed", *onlyInOld = "only in OLD", *onlyInNew = "only in NEW";
+
+/// Prints differences in one of the formats: as CSV a row per field, otherwise per entry. For people
+/// entries that follow each other and are in one dump only share a line.
 class Report {
  public:
   Report(Output& output, const Layout& layout, Format format)
       : output_(output),
         layout_(layout),
         format_(format),
-        rows_(output, format, columns(format), {"[", "]", ""}) {}
+        rows_(output, format, columns(format), frameOf("diff", "entries", sourceJson(layout))) {}
 
-  void changed(U64 index, const std::vector<Change>& changes) {
-    if (format_ == Format::table) return changedTable(index, changes);
+  void differs(U64 index, const std::vector<Change>& changes) {
+    if (format_ == Format::table) return writeChanges(index, changes);
     if (format_ == Format::csv) {
       for (const Change& change : changes) {
-        rows_.write({index, "changed", change.name, change.old.plain, change.now.plain});
+        rows_.write({index, changed, change.name, change.old.plain, change.now.plain});
       }
       return;
     }
@@ -144,37 +181,50 @@ class Report {
       fields += formatText(R"({}"{}":{{"old":{},"new":{}}})", fields.empty() ? '{' : ',',
                            change.name, change.old.json, change.now.json);
     }
-    writeObject(index, "changed", Cell::ofJson(fields + "}"));
+    writeObject(index, changed, Cell::ofJson(fields + "}"));
   }
 
   /// An entry that one of the dumps does not have.
   void onlyIn(U64 index, const char* change) {
-    if (format_ == Format::table) {
-      writeEntryHead(output_, layout_, index);
-      output_.print("  {}\n", change);
-    } else if (format_ == Format::csv) {
-      rows_.write({index, change});
-    } else {
-      writeObject(index, change);
+    if (format_ == Format::csv) return rows_.write({index, change});
+    if (format_ != Format::table) return writeObject(index, change);
+    if (missing_ != change || index != lastMissing_ + 1) {
+      endMissing();
+      missing_ = change;
+      firstMissing_ = index;
     }
+    lastMissing_ = index;
   }
 
-  void end(U64 differing, U64 compared) {
+  void end() {
+    endMissing();
     rows_.end();
-    if (format_ == Format::table && differing != 0) {
-      output_.print("{} of {} entries differ\n", differing, compared);
-    }
   }
 
  private:
   static std::vector<std::string> columns(Format format) {
     if (format == Format::csv) return {"index", "change", "field", "old", "new"};
+    if (format == Format::json) return {"index", "change", "fields"};
     return {"table", "chip", "variant", "index", "change", "fields"};
   }
 
-  void changedTable(U64 index, const std::vector<Change>& changes) {
+  void endMissing() {
+    if (missing_ == nullptr) return;
+    if (firstMissing_ == lastMissing_) {
+      writeEntryHead(output_, layout_, firstMissing_);
+      output_.print("  {}\n", missing_);
+    } else {
+      output_.write(formatText("{} {}-{}", layout_.name(), firstMissing_, lastMissing_),
+                    Style::strong);
+      output_.print("  {} entries {}\n", lastMissing_ - firstMissing_ + 1, missing_);
+    }
+    missing_ = nullptr;
+  }
+
+  void writeChanges(U64 index, const std::vector<Change>& changes) {
+    endMissing();
     writeEntryHead(output_, layout_, index);
-    for (const Change& change : changes) {
+    for (const Change& change : joined(changes)) {
       output_.print("  {}{}{}  ", change.name, change.bits.empty() ? "" : " ",
                     change.bits.empty() ? "" : "[" + change.bits + "]");
       output_.write(change.old.text, Style::removed);
@@ -186,98 +236,149 @@ class Report {
 
   template <class... Fields>
   void writeObject(U64 index, const char* change, Fields... fields) {
-    rows_.write({layout_.name(), layout_.chip().name, U32{layout_.variant()}, index, change,
-                 std::move(fields)...});
+    Row row;
+    if (format_ == Format::jsonl) {
+      row = {layout_.name(), layout_.chip().name, U32{layout_.variant()}};
+    }
+    row.emplace_back(index);
+    row.emplace_back(change);
+    (row.push_back(std::move(fields)), ...);
+    rows_.write(row);
   }
 
   Output& output_;
   const Layout& layout_;
   Format format_;
   RowWriter rows_;
+  const char* missing_ = nullptr;  ///< of a range that is not written yet: in which dump it is
+  U64 firstMissing_ = 0;
+  U64 lastMissing_ = 0;
+};
+
+/// --stat: how many entries differ in each field.
+class Statistics {
+ public:
+  void count(const std::vector<Change>& changes) {
+    for (const Change& change : changes) {
+      const auto found = std::find_if(counts_.begin(), counts_.end(), [&change](const auto& one) {
+        return one.first == change.name;
+      });
+      if (found == counts_.end()) {
+        counts_.emplace_back(change.name, 1);
+      } else {
+        ++found->second;
+      }
+    }
+  }
+
+  Listing listing() const {
+    Listing listing({"field", "entries"});
+    for (const auto& [name, count] : counts_) listing.add({name, count});
+    return listing;
+  }
+
+ private:
+  std::vector<std::pair<std::string, U64>> counts_;
 };
 
 class Diff {
  public:
   Diff(const Arguments& arguments, const Layout& layout)
-      : layout_(layout),
-        quiet_(arguments.quiet),
-        old_(arguments.files[0], layout, inputOptionsOf(arguments)),
-        new_(arguments.files[1], layout, inputOptionsOf(arguments)),
+      : arguments_(arguments),
+        layout_(layout),
+        format_(formatOf(arguments.format)),
+        selected_(indexesOf(arguments)),
+        old_(arguments.files[0], layout, inputOptionsOf(arguments, false)),
+        new_(arguments.files[1], layout, inputOptionsOf(arguments, true)),
         comparison_(arguments, layout),
         output_(arguments.output, arguments.color),
-        report_(output_, layout, formatOf(arguments.format)),
-        index_(arguments.index),
-        progress_(output_) {
-    if (!index_.empty()) selected_ = IndexSet(index_);
-    hasCompared_ = selected_.isAll();
+        progress_(output_, old_.sizeInBytes()) {
+    const bool reports = !arguments.quiet && !arguments.stat;
+    if (reports) report_.emplace(output_, layout, format_);
   }
 
   int run() {
-    while ((old_.hasEntry() || new_.hasEntry()) && !(quiet_ && differing_ != 0)) {
+    while ((old_.hasEntry() || new_.hasEntry()) && !(arguments_.quiet && differing_ != 0)) {
       compareNext();
-      ++compared_;
-      progress_.step();
+      progress_.step(old_.bytesTaken());
     }
-    if (!hasCompared_) {
-      fail("nothing was compared: no entry has an index in {}; check --index", index_);
+    const bool isDone = !arguments_.quiet || differing_ == 0;
+    if (isDone && compared_ + missing_ == 0) {
+      fail("nothing was compared: {}; check {}",
+           arguments_.common ? "the dumps have no entry in common"
+                             : "no entry has an index in " + selected_.unmet(),
+           arguments_.common ? "--old-first and --new-first" : "--index");
     }
-    if (quiet_) return differing_ != 0 ? exitFinding : exitSuccess;
-    report_.end(differing_, compared_);
-    output_.finish();
-    return differing_ != 0 ? exitFinding : exitSuccess;
+    if (isDone && !selected_.unmet().empty()) {
+      fail("neither dump has an entry with index {}; check --index", selected_.unmet());
+    }
+    if (!arguments_.quiet) finish();
+    return differing_ + missing_ != 0 ? exitFinding : exitSuccess;
   }
 
  private:
+  void finish() {
+    if (report_) {
+      report_->end();
+    } else {
+      statistics_.listing().print(output_, format_,
+                                  frameOf("diff-stat", "fields", sourceJson(layout_)));
+    }
+    if (format_ == Format::table && differing_ + missing_ != 0) {
+      if (compared_ != 0) output_.print("{} of {} entries differ\n", differing_, compared_);
+      if (missing_ != 0) {
+        output_.print("{} {} in one dump only\n", missing_,
+                      missing_ == 1 ? "entry is" : "entries are");
+      }
+    }
+    output_.finish();
+  }
+
   void compareNext() {
     const bool takesOld =
         old_.hasEntry() && (!new_.hasEntry() || old_.entry().index <= new_.entry().index);
     const bool takesNew =
         new_.hasEntry() && (!old_.hasEntry() || new_.entry().index <= old_.entry().index);
     const U64 index = takesOld ? old_.entry().index : new_.entry().index;
-    hasCompared_ = hasCompared_ || selected_.has(index);
-    if (takesOld && takesNew) {
-      comparePair();
-    } else {
-      if (selected_.has(index)) reportOnlyIn(index, takesOld ? "only in OLD" : "only in NEW");
+    if (selected_.has(index)) {
+      if (takesOld && takesNew) {
+        comparePair(index);
+      } else if (!arguments_.common) {
+        ++missing_;
+        if (report_) report_->onlyIn(index, takesOld ? onlyInOld : onlyInNew);
+      }
+      output_.flushIfLarge();
     }
     if (takesOld) old_.take();
     if (takesNew) new_.take();
   }
 
-  void comparePair() {
+  void comparePair(U64 index) {
     const U8* before = old_.entry().bytes;
     const U8* after = new_.entry().bytes;
+    ++compared_;
     if (std::memcmp(before, after, layout_.entryBytes()) == 0) return;
-    const U64 index = old_.entry().index;
-    if (!selected_.has(index)) return;
     const std::vector<Change> changes = comparison_.changes(before, after);
     if (changes.empty()) return;
     ++differing_;
-    if (quiet_) return;
-    report_.changed(index, changes);
-    output_.flushIfLarge();
+    if (report_) report_->differs(index, changes);
+    if (arguments_.stat) statistics_.count(changes);
   }
 
-  void reportOnlyIn(U64 index, const char* change) {
-    ++differing_;
-    if (quiet_) return;
-    report_.onlyIn(index, change);
-    output_.flushIfLarge();
-  }
-
+  const Arguments& arguments_;
   const Layout& layout_;
-  bool quiet_;
+  Format format_;
+  IndexSet selected_;
   Side old_;
   Side new_;
   EntryComparison comparison_;
   Output output_;
-  Report report_;
-  const std::string& index_;
-  IndexSet selected_;
+  std::optional<Report> report_;
+  Statistics statistics_;
   Progress progress_;
-  U64 differing_ = 0;
-  U64 compared_ = 0;
-  bool hasCompared_ = false;  ///< where --index is given: an entry that it selects
+  U64 compared_ = 0;   ///< entries that both dumps have
+  U64 differing_ = 0;  ///< of them
+  U64 missing_ = 0;    ///< entries that one dump does not have
 };
 
 int run(const Arguments& arguments) {
@@ -302,9 +403,10 @@ Verb diffVerb() {
           "ascend. Bits outside all fields count too, unless --fields is given. Exit code 1 says "
           "that the dumps differ.",
           {Positionals::table, Positionals::oldAndNew},
-          {Options::chip, Options::variant, Options::index, Options::fields, Options::quiet,
-           Options::input, Options::hexOrder, Options::byteOrder, Options::stride, Options::first,
-           Options::listFormat, Options::output, Options::color},
+          {Options::chip, Options::variant, Options::index, Options::fields, Options::common,
+           Options::stat, Options::expand, Options::quiet, Options::input, Options::hexOrder,
+           Options::byteOrder, Options::stride, Options::first, Options::listFormat,
+           Options::output, Options::color},
           {"velmar diff VlanMpls --chip 56980 <(echo 00000000) <(echo 00000001)",
            "velmar diff VlanEntry --chip 56990_B0 <(velmar encode vlan --chip 56990_B0 stg=1) "
            "<(velmar encode vlan --chip 56990_B0 stg=2) --format jsonl"},

@@ -3,7 +3,6 @@
 #include "input/JsonInput.h"
 #include "model/EntryBuilder.h"
 #include "model/Failure.h"
-#include "model/IndexSet.h"
 #include "model/Text.h"
 #include "output/EntryWriter.h"
 #include "output/Progress.h"
@@ -53,7 +52,9 @@ class Values {
       if (text[0] == '@') {
         read(text.substr(1));
       } else {
-        common_.push_back(parseAssignment(layout, text));
+        for (Assignment& assignment : parseAssignments(layout, text)) {
+          common_.push_back(std::move(assignment));
+        }
       }
     }
   }
@@ -115,7 +116,8 @@ class Encoder {
     const bool withIndex =
         values_.hasEntries() || !arguments.base.empty() || !selected_.isAll() || arguments.whole;
     writer_ = isBytes ? makeBytesWriter(output, layout, format, withIndex)
-                      : makeEntryWriter(output, layout, layout.fields(), format);
+                      : makeEntryWriter(output, layout, layout.fields(),
+                                        {format, arguments.plain, false});
     if (arguments.whole) {
       writer_ = std::make_unique<WholeWriter>(std::move(writer_), layout);
     }
@@ -129,9 +131,9 @@ class Encoder {
     } else {
       makeSelected();
     }
-    if (!changed_ && !selected_.isAll()) {
+    if (!selected_.unmet().empty()) {
       fail("{}: no entry has an index in {}; check --index",
-           arguments_.base.empty() ? values_.place() : arguments_.base, arguments_.index);
+           arguments_.base.empty() ? values_.place() : arguments_.base, selected_.unmet());
     }
     writer_->end();
     output_.finish();
@@ -139,22 +141,18 @@ class Encoder {
 
  private:
   void select() {
-    selected_ = IndexSet(arguments_.index);
+    selected_ = indexesOf(arguments_);
     const bool choosesChanges = !arguments_.base.empty() || values_.hasEntries();
     if (choosesChanges && values_.common().empty()) {
       fail("--index has no effect without FIELD=VALUE; give both");
     }
-    if (selected_.last() >= layout_.indexCount()) {
-      fail("--index {}: {} on {} has the entries {} to {}; give one of them",
-           numberLike(arguments_.index, selected_.last()), layout_.name(), layout_.chip().name,
-           numberLike(arguments_.index, 0), numberLike(arguments_.index, layout_.indexCount() - 1));
-    }
+    checkIndexes(layout_, selected_, "--index", join(arguments_.index, ","));
   }
 
   void write(U64 index) {
     writer_->write({index, builder_.bytes().data()});
-    // Nothing is shown before it is known that --index selects something.
-    if (changed_ || selected_.isAll()) output_.flushIfLarge();
+    // Nothing is shown before it is known that --index selects what it names.
+    if (selected_.unmet().empty()) output_.flushIfLarge();
     progress_.step();
   }
 
@@ -162,7 +160,6 @@ class Encoder {
     if (!selected_.has(index)) return;
     builder_.forget();
     for (const Assignment& assignment : values_.common()) builder_.set(assignment);
-    changed_ = true;
   }
 
   void setObject() {
@@ -182,9 +179,9 @@ class Encoder {
   }
 
   void makeSelected() {
-    const U64 last = selected_.isAll() ? 0 : selected_.last();
-    for (U64 index = selected_.first(); index <= last; ++index) {
-      if (!selected_.has(index)) continue;
+    const std::vector<U64> indexes =
+        selected_.isAll() ? std::vector<U64>{0} : selected_.below(layout_.indexCount());
+    for (const U64 index : indexes) {
       builder_.startFromZero();
       setCommon(index);
       write(index);
@@ -239,7 +236,6 @@ class Encoder {
   EntryBuilder builder_;
   std::unique_ptr<EntryWriter> writer_;
   Progress progress_;
-  bool changed_ = false;
 };
 
 int run(const Arguments& arguments) {
@@ -252,20 +248,22 @@ int run(const Arguments& arguments) {
 }  // namespace
 
 Verb encodeVerb() {
-  return {"encode",
-          "Encodes field values to the bytes of an entry.",
-          "A value is a number, decimal or after 0x hexadecimal; for a bitmap a list of ports such "
-          "as 0-3,17, or \"none\", or a hexadecimal number after 0x. Fields that are not given are "
-          "zero, or with --base as they were. @FILE takes the JSON that decode writes, and "
-          "gives the same bytes. A JSON entry may have up to 1 MiB.",
-          {Positionals::table, Positionals::assignments},
-          {Options::chip, Options::variant, Options::base, Options::changeIndex, Options::whole,
-           Options::input, Options::hexOrder, Options::byteOrder, Options::stride, Options::first,
-           Options::format("hex,words,raw,json,jsonl"), Options::output},
-          {"velmar encode VlanEntry --chip BCM56960_A0 valid=1 fidId=100 portBitmap=0-3,17",
-           "velmar encode VlanEntry --chip 56960 valid=1 | velmar encode VlanEntry --chip 56960 "
-           "--base - stg=0x1f"},
-          run};
+  return {
+      "encode",
+      "Encodes field values to the bytes of an entry.",
+      "A value is a number, decimal or after 0x hexadecimal; for a bitmap a list of ports such "
+      "as 0-3,17, or \"none\", or a hexadecimal number after 0x; BITMAP+=PORTS and BITMAP-=PORTS "
+      "change it; spTreePort0-3=3,10=2 sets fields of a family. Fields that are not given are "
+      "zero, or with --base as they were. @FILE takes the JSON that decode writes, and "
+      "gives the same bytes, also with --plain. A JSON entry may have up to 1 MiB.",
+      {Positionals::table, Positionals::assignments},
+      {Options::chip, Options::variant, Options::base, Options::changeIndex, Options::whole,
+       Options::input, Options::hexOrder, Options::byteOrder, Options::stride, Options::first,
+       Options::format("hex,words,raw,json,jsonl"), Options::plain, Options::output},
+      {"velmar encode VlanEntry --chip BCM56960_A0 valid=1 fidId=100 portBitmap=0-3,17",
+       "velmar encode VlanEntry --chip 56960 valid=1 | velmar encode VlanEntry --chip 56960 "
+       "--base - stg=0x1f"},
+      run};
 }
 
 }  // namespace Tool

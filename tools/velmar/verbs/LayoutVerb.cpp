@@ -1,42 +1,78 @@
 #include <algorithm>
+#include <cstdlib>
 
 #include "model/Failure.h"
+#include "model/Text.h"
 #include "output/Diagram.h"
-#include "output/Listing.h"
+#include "output/ValueText.h"
 #include "verbs/Target.h"
 #include "verbs/Verbs.h"
 
 namespace Tool {
 namespace {
 
-/// The fields in the order of their bits. The names of the fields that share bits with them stand in
-/// a column of their own, for people only where there are any.
-Listing fieldListing(const Layout& layout, bool isForPeople) {
-  std::vector<FieldPlace> places = layout.fields();
-  std::stable_sort(places.begin(), places.end(),
-                   [](const FieldPlace& a, const FieldPlace& b) { return a.offset < b.offset; });
-  std::vector<std::string> columns = {"field",        "bits", "offset",   "width",  "type",
-                                      "hardwareName", "id",   "overlaps", "meaning"};
-  const bool namesOverlaps =
-      !isForPeople || std::any_of(places.begin(), places.end(), [&layout](const FieldPlace& place) {
-        return !layout.overlapsOf(place).empty();
-      });
+const char* pluralEnd(U32 count) { return count == 1 ? "" : "s"; }
+
+/// Such as ", N at bit 2 * N + 8", where the places of a family follow such a rule.
+std::string ruleOf(const FieldGroup& group) {
+  const auto numberOf = [](const FieldPlace& place) {
+    return static_cast<int>(numberedName(place.name())->number);
+  };
+  const auto offsetOf = [](const FieldPlace& place) { return static_cast<int>(place.offset); };
+  const FieldPlace& first = group.front();
+  const FieldPlace& second = group.members[1];
+  const int step = (offsetOf(second) - offsetOf(first)) / (numberOf(second) - numberOf(first));
+  const int start = offsetOf(first) - step * numberOf(first);
+  for (const FieldPlace& place : group.members) {
+    if (offsetOf(place) != start + step * numberOf(place)) return "";
+  }
+  if (start == 0) return formatText(", N at bit {} * N", step);
+  return formatText(", N at bit {} * N {} {}", step, start < 0 ? '-' : '+', std::abs(start));
+}
+
+std::string meaningOf(const FieldGroup& group) {
+  const std::string meaning = group.front().field.meaning;
+  if (!group.isFamily()) return meaning;
+  const FieldPlace& first = group.front();
+  return formatText("{}; {} bit{} each{}", meaning, first.width, pluralEnd(first.width),
+                    ruleOf(group));
+}
+
+/// For people: a row for each field or family of fields.
+Listing readableFields(const Layout& layout, const std::vector<FieldGroup>& groups) {
+  const bool namesOverlaps = std::any_of(
+      groups.begin(), groups.end(),
+      [&layout](const FieldGroup& group) { return !layout.overlapsOf(group.front()).empty(); });
+  std::vector<std::string> columns = {"field", "bits", "type", "id", "hardwareName", "meaning"};
   if (namesOverlaps) columns.emplace_back("sharesBitsWith");
   Listing listing(columns);
+  for (const FieldGroup& group : groups) {
+    const FieldPlace& place = group.front();
+    const std::string lastId =
+        group.isFamily() ? formatText("-{}", group.back().field.id) : std::string();
+    Row row = {group.name(),
+               alignedBits(layout, group.bits()),
+               shortNameOf(place.field.type),
+               formatText("{}{}", place.field.id, lastId),
+               group.hardwareName(),
+               meaningOf(group)};
+    if (namesOverlaps) row.emplace_back(layout.overlapsOf(place));
+    listing.add(std::move(row));
+  }
+  return listing;
+}
+
+/// For programs: a row for each field.
+Listing fieldListing(const Layout& layout, const std::vector<FieldPlace>& places) {
+  Listing listing({"field", "bits", "offset", "width", "type", "hardwareName", "id", "overlaps",
+                   "meaning", "sharesBitsWith"});
   for (const FieldPlace& place : places) {
     const std::vector<std::string> others = layout.overlapsOf(place);
     const bool overlaps = !others.empty();
-    Row row = {place.name(),
-               place.bits(),
-               place.offset,
-               place.width,
-               Catalogue::valueTypeName(place.field.type),
-               place.field.hardwareName,
-               place.field.id,
-               Cell(overlaps).shownAs(overlaps ? "yes" : ""),
-               place.field.meaning};
-    if (namesOverlaps) row.emplace_back(others);
-    listing.add(std::move(row));
+    listing.add({place.name(), place.bits(), place.offset, place.width,
+                 Catalogue::valueTypeName(place.field.type), place.field.hardwareName,
+                 place.field.id, Cell(overlaps).shownAs(overlaps ? "yes" : ""), place.field.meaning,
+                 others});
   }
   return listing;
 }
@@ -60,24 +96,23 @@ std::string geometryJson(const Layout& layout) {
        geometry.accessType, geometry.block});
 }
 
-const char* pluralEnd(U32 count) { return count == 1 ? "" : "s"; }
-
 void printHead(Output& output, const Layout& layout) {
   const Catalogue::Geometry& geometry = layout.geometry();
-  output.write(formatText("{} on {}", layout.name(), layout.chip().name), Style::strong);
-  output.print(": {}\n", layout.table().purpose());
-  output.print("  entry     {} bytes ({} word{}), {} field{}\n", layout.entryBytes(),
-               geometry.words, pluralEnd(geometry.words), geometry.fieldCount,
-               pluralEnd(geometry.fieldCount));
-  output.print("  {}  {}, index 0 to {}\n", layout.isRegisterArray() ? "elements" : "entries ",
-               layout.indexCount(), layout.indexCount() - 1);
-  output.print("  variants  {}\n",
-               geometry.variants == Catalogue::Variants::any ? "any" : "0 only");
-  output.print("  address   {}, access {}, block {}\n", addressRule(layout), geometry.accessType,
-               blockText(geometry.block));
+  const auto print = [&output](const std::string& text) { output.writeLine("", text, 14); };
+  output.writeLine(formatText("{} on {}", layout.name(), layout.chip().name),
+                   formatText(": {}", layout.table().purpose()));
+  print(formatText("  entry     {} bytes ({} word{}), {} field{}", layout.entryBytes(),
+                   geometry.words, pluralEnd(geometry.words), geometry.fieldCount,
+                   pluralEnd(geometry.fieldCount)));
+  print(formatText("  {}  {}, index 0 to {}", layout.isRegisterArray() ? "elements" : "entries ",
+                   layout.indexCount(), layout.indexCount() - 1));
+  print(formatText("  variants  {}",
+                   geometry.variants == Catalogue::Variants::any ? "any" : "0 only"));
+  print(formatText("  address   {}, access {}, block {}", addressRule(layout), geometry.accessType,
+                   blockText(geometry.block)));
   if (geometry.identifiers > 1) {
-    output.print("  instances {}, identifier 0 to {}\n", geometry.identifiers,
-                 geometry.identifiers - 1);
+    print(formatText("  instances {}, identifier 0 to {}", geometry.identifiers,
+                     geometry.identifiers - 1));
   }
   output.write("\n");
 }
@@ -88,14 +123,21 @@ int run(const Arguments& arguments) {
   if (arguments.diagram && format != Format::table) {
     fail("--diagram is drawn as text only; leave out --format {}", arguments.format);
   }
+  if (arguments.diagram && !arguments.pattern.empty()) {
+    fail("--diagram draws all fields; leave out {}", inQuotes(arguments.pattern));
+  }
+  const std::vector<FieldPlace> places = inOrderOfBits(
+      arguments.pattern.empty() ? layout.fields() : findFields(layout, arguments.pattern));
   Output output(arguments.output, arguments.color);
   if (format == Format::table) printHead(output, layout);
   if (arguments.diagram) {
-    drawDiagram(output, layout);
+    drawDiagram(output, layout, !arguments.expand);
+  } else if (format == Format::table) {
+    readableFields(layout, grouped(places, !arguments.expand)).print(output, format, {});
   } else {
-    const std::string head =
-        formatText("{{\"geometry\": {},\n \"fields\": [", geometryJson(layout));
-    fieldListing(layout, format == Format::table).print(output, format, {head, "]}"});
+    const JsonFrame frame =
+        frameOf("layout", "fields", formatText("\"geometry\": {}", geometryJson(layout)));
+    fieldListing(layout, places).print(output, format, frame);
   }
   output.finish();
   return exitSuccess;
@@ -107,9 +149,9 @@ Verb layoutVerb() {
   return {"layout",
           "Prints the layout of a table's entry on a chip: fields, geometry, address rule.",
           "",
-          {Positionals::table},
-          {Options::chip, Options::variant, Options::diagram, Options::listFormat, Options::output,
-           Options::color},
+          {Positionals::table, Positionals::fieldOfTable},
+          {Options::chip, Options::variant, Options::diagram, Options::expand, Options::listFormat,
+           Options::output, Options::color},
           {"velmar layout VlanEntry --chip BCM56990_B0",
            "velmar layout IngVpVlanMembership --chip BCM56470_A0 --diagram"},
           run};

@@ -1,5 +1,6 @@
 #include "verbs/Target.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <limits>
 
@@ -13,6 +14,11 @@ Catalogue::Chip chipOf(const Arguments& arguments) {
     fail("--chip is given {} times; give it once", arguments.chips.size());
   }
   return findChip(arguments.chips.front());
+}
+
+bool isAskedFor(const Arguments& arguments, const Catalogue::Table& table) {
+  return arguments.tableOption.empty() ||
+         findTable(arguments.tableOption).name() == std::string_view(table.name());
 }
 
 U64 numberOf(const char* option, const std::string& text, U64 largest, U64 absent) {
@@ -42,7 +48,6 @@ InputOptions inputOptionsOf(const Arguments& arguments) {
   if (arguments.hexOrder == "words") options.hexOrder = HexOrder::words;
   if (arguments.hexOrder == "int") options.hexOrder = HexOrder::integer;
   options.bigEndian = arguments.byteOrder == "big";
-  options.isForTwo = arguments.files.size() > 1;
   options.beyondEnd = arguments.check;
   options.note = [](const std::string& text) {
     std::fprintf(stderr, "velmar: note: %s\n", text.c_str());
@@ -52,19 +57,58 @@ InputOptions inputOptionsOf(const Arguments& arguments) {
   return options;
 }
 
-void print(const Arguments& arguments, const Listing& listing) {
+InputOptions inputOptionsOf(const Arguments& arguments, bool isNew) {
+  Arguments own = arguments;
+  bool hasOwn = false;
+  for (const SideValue& side : arguments.sides) {
+    if (side.isNew != isNew) continue;
+    own.*side.member = side.value;
+    hasOwn = true;
+  }
+  InputOptions options = inputOptionsOf(own);
+  options.isForTwo = !hasOwn;
+  return options;
+}
+
+void print(const Arguments& arguments, const Listing& listing, const JsonFrame& frame) {
   Output output(arguments.output, arguments.color);
-  listing.print(output, formatOf(arguments.format));
+  listing.print(output, formatOf(arguments.format), frame);
   output.finish();
 }
 
+std::vector<FieldPlace> inOrderOfBits(std::vector<FieldPlace> places) {
+  std::stable_sort(places.begin(), places.end(),
+                   [](const FieldPlace& a, const FieldPlace& b) { return a.offset < b.offset; });
+  return places;
+}
+
 std::vector<FieldPlace> fieldsOf(const Arguments& arguments, const Layout& layout) {
-  if (arguments.fields.empty()) return layout.fields();
+  if (arguments.fields.empty()) {
+    const bool isForPeople = formatOf(arguments.format) == Format::table;
+    return isForPeople ? inOrderOfBits(layout.fields()) : layout.fields();
+  }
   std::vector<FieldPlace> places;
   for (const std::string& name : split(join(arguments.fields, ","), ',')) {
-    places.push_back(layout.find(name));
+    for (const FieldPlace& place : findFields(layout, name)) places.push_back(place);
   }
   return places;
+}
+
+IndexSet indexesOf(const Arguments& arguments) {
+  return arguments.index.empty() ? IndexSet() : IndexSet(join(arguments.index, ","));
+}
+
+void checkIndexes(const Layout& layout, const IndexSet& indexes, const char* option,
+                  const std::string& typed) {
+  const U64 largest = indexes.largestNamed();
+  if (largest < layout.indexCount()) return;
+  fail("{} {}: {} on {} has the {} {} to {}; give one of them", option, numberLike(typed, largest),
+       layout.name(), layout.chip().name, layout.isRegisterArray() ? "elements" : "entries",
+       numberLike(typed, 0), numberLike(typed, layout.indexCount() - 1));
+}
+
+EntryStyle styleOf(const Arguments& arguments) {
+  return {formatOf(arguments.format), arguments.plain, !arguments.expand};
 }
 
 }  // namespace Tool

@@ -12,7 +12,9 @@ Verb diffVerb();
 Verb encodeVerb();
 Verb exportVerb();
 Verb fieldsVerb();
+Verb identifyVerb();
 Verb layoutVerb();
 Verb tablesVerb();
+Verb translateVerb();
 
 }  // namespace Tool

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "model/Layout.h"
+
+// Families of fields: those of all ports, such as spTreePort0 to spTreePort159.
+
+namespace Tool {
+
+/// The name of a numbered field, taken apart.
+struct NumberedName {
+  std::string_view prefix;
+  U32 number;
+};
+std::optional<NumberedName> numberedName(std::string_view name);
+
+/// Whether two fields that are declared one after the other belong to one family: numbered names of
+/// one kind, and one meaning.
+bool areOfOneFamily(const Catalogue::Field& a, const Catalogue::Field& b);
+
+/// A family of fields of one width, or one field alone.
+struct FieldGroup {
+  std::vector<FieldPlace> members;
+
+  bool isFamily() const { return members.size() > 1; }
+  const FieldPlace& front() const { return members.front(); }
+  const FieldPlace& back() const { return members.back(); }
+  /// Such as "spTreePort0-63,68"; the accessor of a field alone.
+  std::string name() const;
+  /// Such as "SP_TREE_PORT0-63,68".
+  std::string hardwareName() const;
+  /// The bits from the first to the last member's, as FieldPlace::bits() has them.
+  std::string bits() const;
+};
+
+/// Fields as groups, in the order given. `asFamilies` false: each alone.
+std::vector<FieldGroup> grouped(const std::vector<FieldPlace>& fields, bool asFamilies);
+
+/// The fields that a name on the command line stands for: a field, a part of a family such as
+/// "spTreePort0-3", or all that match a name with * and ?. Fails where there is none.
+std::vector<FieldPlace> findFields(const Layout& layout, std::string_view name);
+
+/// Numbers as ranges, such as "0-3,17".
+std::string rangesText(const std::vector<U32>& numbers);
+
+}  // namespace Tool
