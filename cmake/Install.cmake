@@ -20,4 +20,8 @@ install(FILES
   DESTINATION ${VELMAR_PACKAGE_DIR})
 
 configure_file(cmake/VelmarMetaInfo.pc.in VelmarMetaInfo.pc @ONLY)
+# Documents for users, and the samples that their examples name.
+set(VELMAR_DOC_DIR ${CMAKE_INSTALL_DATADIR}/doc/velmar)
+install(FILES README.md docs/recipes.md DESTINATION ${VELMAR_DOC_DIR})
+install(DIRECTORY docs/schema samples DESTINATION ${VELMAR_DOC_DIR})
 install(FILES ${PROJECT_BINARY_DIR}/VelmarMetaInfo.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

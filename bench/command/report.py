@@ -61,4 +61,11 @@ with tempfile.TemporaryDirectory() as directory:
     measure("decode jsonl, whole table", 3, decode, floor, lambda duration, text: float(text))
     measure("diff, two equal tables", 3, [velmar, "diff", *target, dump, copy],
             ["cmp", dump, copy])
+    lines = os.path.join(directory, "full.jsonl")
+    with open(lines, "wb") as file:
+        subprocess.run(decode, stdout=file, check=True)
+    for form, goal in (("csv", 0.6), ("table", 2)):
+        measure(f"decode {form} / jsonl", goal, decode[:-3] + ["--format", form, full], decode)
+    measure("encode jsonl / jq", 0.4, [velmar, "encode", *target, "@" + lines],
+            ["jq", "-c", ".fields.stg.decimal", lines])
     measure("start-up (chips)", 2, [velmar, "chips"], [os.path.join(build, "bin", "empty-program")])

@@ -63,6 +63,33 @@ const std::vector<Notation> notations = {
     {"JSON", "what decode prints with --format json or jsonl"},
 };
 
+const std::vector<Notation> outputs = {
+    {"table",
+     "for people. On a terminal it fits the width: columns that do not fit fall below their row. "
+     "Fields of all ports share a line, such as \"3: 1-9,11  0: 12-159\": each value with the "
+     "numbers of its fields. --expand shows them one by one"},
+    {"json",
+     "one document that begins with its format and version. Its schema is among the FILES. The "
+     "version changes only when a reader has to"},
+    {"jsonl", "a JSON document on each line, one for each row or entry"},
+    {"csv",
+     "a header, then a row for each entry; numbers up to 53 bits in decimal, wider ones in "
+     "hexadecimal, bitmaps as ranges of ports. The last column of decode, outsideFields, has the "
+     "bits that are set outside all fields"},
+    {"hex, words, raw", "the bytes of entries, as decode reads them"},
+};
+
+const std::vector<Notation> environment = {
+    {"NO_COLOR", "if it is not empty, there are no colours on a terminal"},
+    {"TERM", "if it is \"dumb\", there are none either"},
+};
+
+const std::vector<Notation> files = {
+    {"share/doc/velmar/recipes.md", "questions and edits that take more than one command"},
+    {"share/doc/velmar/samples/", "the dumps that the examples name"},
+    {"share/doc/velmar/schema/", "a JSON Schema for each JSON document"},
+};
+
 std::string headingOf(const Option& option) {
   std::string heading = join(split(option.names, ','), ", ");
   if (option.value != nullptr) heading += formatText(" {}", option.value);

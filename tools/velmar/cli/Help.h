@@ -22,12 +22,14 @@ std::string meaningOf(const Option& option);
 extern const char* const purposeText;
 extern const char* const exitCodeText;
 
-/// A way in which dumps are written.
+/// What the manual page explains.
 struct Notation {
   const char* name;
   const char* meaning;
 };
-/// What decode reads, for the manual page.
-extern const std::vector<Notation> notations;
+extern const std::vector<Notation> notations;    ///< in which dumps are read
+extern const std::vector<Notation> outputs;      ///< forms of the result
+extern const std::vector<Notation> environment;  ///< variables
+extern const std::vector<Notation> files;        ///< that are installed
 
 }  // namespace Tool

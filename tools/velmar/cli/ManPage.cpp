@@ -52,7 +52,13 @@ std::string manPage(const VerbList& verbs) {
   for (const VerbName& name : verbs) text += section(name.make());
   text += ".SH INPUT\nThe notations of dumps that are read:\n";
   for (const Notation& notation : notations) text += item(notation.name, notation.meaning);
-  return text + formatText(".SH EXIT STATUS\n{}\n", escaped(exitCodeText));
+  text += ".SH OUTPUT\n";
+  for (const Notation& form : outputs) text += item(form.name, form.meaning);
+  text += formatText(".SH EXIT STATUS\n{}\n.SH ENVIRONMENT\n", escaped(exitCodeText));
+  for (const Notation& variable : environment) text += item(variable.name, variable.meaning);
+  text += ".SH FILES\n";
+  for (const Notation& file : files) text += item(file.name, file.meaning);
+  return text;
 }
 
 }  // namespace Tool

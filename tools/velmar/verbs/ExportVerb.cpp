@@ -153,15 +153,13 @@ int run(const Arguments& arguments) {
 }  // namespace
 
 Verb exportVerb() {
-  return {
-      "export",
-      "Prints the catalogue as JSON: chips, tables, fields, layouts, addresses.",
-      "docs/schema/catalogue.schema.json of the project describes the document. Its \"version\" "
-      "changes only when readers must change.",
-      {Positionals::tableIfAny},
-      {Options::chipIfAny, Options::variant, Options::output},
-      {"velmar export VlanEntry --chip BCM56990_B0", "velmar export --chip BCM56470_A0"},
-      run};
+  return {"export",
+          "Prints the catalogue as JSON: chips, tables, fields, layouts, addresses.",
+          "The schema of this document, as of all others, is installed in share/doc/velmar/schema.",
+          {Positionals::tableIfAny},
+          {Options::chipIfAny, Options::variant, Options::output},
+          {"velmar export VlanEntry --chip BCM56990_B0", "velmar export --chip BCM56470_A0"},
+          run};
 }
 
 }  // namespace Tool
