@@ -1,27 +1,50 @@
-# Installs the library with its headers, the CMake package VelmarMetaInfo and a pkg-config file, and
-# the command if it is built. The platform has install rules of its own.
+# Installs the library with its headers, the CMake package VelmarMetaInfo, a pkg-config file and the
+# documents for users. The platform and the command have install rules of their own.
 
 include(CMakePackageConfigHelpers)
 
 install(TARGETS VelmarMetaInfo
   EXPORT VelmarMetaInfoTargets
-  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
+  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
+install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
 
 set(VELMAR_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/VelmarMetaInfo)
-install(EXPORT VelmarMetaInfoTargets NAMESPACE Velmar:: DESTINATION ${VELMAR_PACKAGE_DIR})
-file(WRITE ${PROJECT_BINARY_DIR}/VelmarMetaInfoConfig.cmake
-  "include(\"\${CMAKE_CURRENT_LIST_DIR}/VelmarMetaInfoTargets.cmake\")\n")
+install(EXPORT VelmarMetaInfoTargets NAMESPACE Velmar:: DESTINATION ${VELMAR_PACKAGE_DIR}
+  COMPONENT development)
+configure_package_config_file(cmake/VelmarMetaInfoConfig.cmake.in VelmarMetaInfoConfig.cmake
+  INSTALL_DESTINATION ${VELMAR_PACKAGE_DIR} NO_SET_AND_CHECK_MACRO)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/VelmarMetaInfoConfigVersion.cmake
   COMPATIBILITY SameMajorVersion)
 install(FILES
   ${PROJECT_BINARY_DIR}/VelmarMetaInfoConfig.cmake
   ${PROJECT_BINARY_DIR}/VelmarMetaInfoConfigVersion.cmake
-  DESTINATION ${VELMAR_PACKAGE_DIR})
+  DESTINATION ${VELMAR_PACKAGE_DIR} COMPONENT development)
 
+# The package file finds the prefix from its own place, so an installed tree may be moved.
+if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}")
+  set(VELMAR_PC_PREFIX ${CMAKE_INSTALL_PREFIX})
+  set(VELMAR_PC_LIBDIR ${CMAKE_INSTALL_LIBDIR})
+else()
+  file(RELATIVE_PATH VELMAR_PC_PREFIX "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
+  set(VELMAR_PC_PREFIX "\${pcfiledir}/${VELMAR_PC_PREFIX}")
+  string(REGEX REPLACE "/$" "" VELMAR_PC_PREFIX "${VELMAR_PC_PREFIX}")
+  set(VELMAR_PC_LIBDIR "\${prefix}/${CMAKE_INSTALL_LIBDIR}")
+endif()
 configure_file(cmake/VelmarMetaInfo.pc.in VelmarMetaInfo.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/VelmarMetaInfo.pc
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+
 # Documents for users, and the samples that their examples name.
 set(VELMAR_DOC_DIR ${CMAKE_INSTALL_DATADIR}/doc/velmar)
-install(FILES README.md docs/recipes.md DESTINATION ${VELMAR_DOC_DIR})
-install(DIRECTORY docs/schema samples DESTINATION ${VELMAR_DOC_DIR})
-install(FILES ${PROJECT_BINARY_DIR}/VelmarMetaInfo.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+install(FILES README.md CHANGELOG.md docs/recipes.md
+  DESTINATION ${VELMAR_DOC_DIR} COMPONENT documents)
+install(DIRECTORY docs/schema samples docs/reference
+  DESTINATION ${VELMAR_DOC_DIR} COMPONENT documents)
+
+# Removes what the last installation from this build folder wrote.
+if(PROJECT_IS_TOP_LEVEL)
+  configure_file(cmake/uninstall.cmake.in uninstall.cmake @ONLY)
+  add_custom_target(uninstall
+    COMMAND ${CMAKE_COMMAND} -P ${PROJECT_BINARY_DIR}/uninstall.cmake VERBATIM)
+endif()

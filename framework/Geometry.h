@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstring>
+
 #include "framework/PlatformAdapter.h"
 #include "framework/Reports.h"
 

@@ -11,9 +11,11 @@
 #include "framework/Names.h"
 #include "framework/PlatformAdapter.h"
 
-// Not <cassert>: its declaration promises not to throw, and the checks must stay on in every build.
-extern "C" [[noreturn]] void __assert_fail(const char* expression, const char* file,
-                                           unsigned int line, const char* function);
+// The C library's report of a failed assertion, under a name of our own: <cassert> declares it as one
+// that never throws, but a test may replace it by one that does.
+extern "C" [[noreturn]] void velmarAssertFail(const char* expression, const char* file,
+                                              unsigned int line,
+                                              const char* function) __asm__("__assert_fail");
 
 namespace Velmar {
 
@@ -97,7 +99,7 @@ FieldSite::FieldSite(const ClassData& data, U32 field, Member member) : line_(da
 }
 
 void fail(const char* expression, Site site) {
-  __assert_fail(expression, sourceFile, site.line, site.signature);
+  velmarAssertFail(expression, sourceFile, site.line, site.signature);
 }
 
 void failDecimal(const char* expression, U32 number, Site site) {

@@ -1,9 +1,14 @@
 #include "support/AssertionFailed.h"
 
-extern "C" [[noreturn]] __attribute__((visibility("default"))) void __assert_fail(
-    const char* expression, const char* file, unsigned int line, const char* function);
+#include <cassert>
 
-extern "C" void __assert_fail(const char* expression, const char* file, unsigned int line,
-                              const char* function) {
+// <cassert> declares __assert_fail as a function that never throws. A definition under another name
+// for the same symbol may.
+extern "C" [[noreturn]] __attribute__((visibility("default"))) void throwAssertion(
+    const char* expression, const char* file, unsigned int line,
+    const char* function) __asm__("__assert_fail");
+
+extern "C" void throwAssertion(const char* expression, const char* file, unsigned int line,
+                               const char* function) {
   throw VelmarTest::AssertionFailed{expression, file, line, function};
 }

@@ -88,8 +88,8 @@ namespace Options {
 inline constexpr Option
     chip{"-c,--chip", "CHIP", &Arguments::chips,
          "the chip: a name such as BCM56990_B0 or 56990, or a number", Proposal::chips, true},
-    chips{"-c,--chip", "CHIP", &Arguments::chips,
-          "a chip; give the option twice, old chip first", Proposal::chips, true},
+    chips{"-c,--chip", "OLD --chip NEW", &Arguments::chips,
+          "the two chips", Proposal::chips, true},
     chipIfAny{"-c,--chip", "CHIP", &Arguments::chips, "this chip only", Proposal::chips},
     variant{"--variant", "N", &Arguments::variant, "table variant, 0 to 255 (default 0)"},
     output{"-o,--output", "FILE", &Arguments::output,
@@ -115,8 +115,8 @@ inline constexpr Option
            "spTreePort0-3", Proposal::fields},
     where{"--where", "CONDITION", &Arguments::where,
           "only entries where it holds: FIELD=VALUE or != < <= > >=, with = and != also several "
-          "values such as stg=2,3; BITMAP~PORTS: it has these ports; may be repeated: all must "
-          "hold", Proposal::assignments},
+          "values such as stg=2,3; BITMAP~PORTS: it has these ports, !~: none of them; may be "
+          "repeated: all must hold", Proposal::assignments},
     tableOption{"--table", "TABLE", &Arguments::tableOption, "this table only", Proposal::tables},
     from{"--from", "CHIP", &Arguments::from, "the chip of the dump", Proposal::chips, true},
     to{"--to", "CHIP", &Arguments::to, "the chip of the result", Proposal::chips, true},

@@ -2,6 +2,7 @@
 
 #include "input/HexDigits.h"
 #include "input/TextDump.h"
+#include "model/IndexSet.h"
 #include "model/Text.h"
 
 // Hex text: an entry on each line, optionally after its index, or one stream of lines of equal
@@ -65,15 +66,17 @@ class HexReader : public TextReader {
         failLine("an index in the middle of a stream; give an index to each entry or none");
       takeStreamLine();
     } else if (!isEntry) {
-      failLine("{} bytes, not {}; check table and chip", bytes_.size(),
-               entrySizeText(stride_, layout_));
+      failLine("{} bytes, not {}; check {}", bytes_.size(), entrySizeText(stride_, layout_),
+               hasData_ ? "the line for lost digits" : "table and chip, and the line");
     }
     if (index) {
+      if (!seen_.insert(*index)) failLine("entry {} is given twice; give it once", *index);
       checkFirst();
       checkOffset(line);
       index_ = *index;
     }
     pending_.insert(pending_.end(), bytes_.begin(), bytes_.end());
+    hasData_ = true;
     return true;
   }
 
@@ -113,8 +116,9 @@ class HexReader : public TextReader {
       const size_t end = std::min(text.find_first_of(" \t"), text.size());
       if (!splitGroups(text.substr(0, end), groups)) {
         failLine("{} is not a hexadecimal number; {}", inQuotes(text.substr(0, end)),
-                 hasData() || end < text.size() ? "remove what is not data"
-                                                : "--input raw reads binary dumps");
+                 text.find_first_of("0123456789") != std::string_view::npos
+                     ? "check the digits, and remove what is not data"
+                     : "--input raw reads binary dumps");
       }
       text = trim(text.substr(end));
     }
@@ -140,9 +144,9 @@ class HexReader : public TextReader {
 
   void takeStreamLine() {
     if (streamBytes_ % lineBytes_ != 0 || bytes_.size() > lineBytes_) {
-      failLine("{} bytes after lines of {}; only the last line of a stream may be shorter",
-               bytes_.size(),
-               streamBytes_ % lineBytes_ != 0 ? streamBytes_ % lineBytes_ : lineBytes_);
+      failLine(
+          "{} bytes after lines of {}; only the last line of a stream may be shorter; check both",
+          bytes_.size(), streamBytes_ % lineBytes_ != 0 ? streamBytes_ % lineBytes_ : lineBytes_);
     }
     streamBytes_ += bytes_.size();
   }
@@ -161,6 +165,13 @@ class HexReader : public TextReader {
           "{} bytes, not {}, but an entry of {} on {}; check --chip or, if they are a "
           "stream, join all lines to one",
           lineBytes_, entrySizeText(stride_, layout_), layout_.name(), chip.name);
+    }
+    if (groups_.size() > 1 && lineBytes_ % stride_ != 0) {
+      failLine(
+          "{} bytes, not {}; check the line for lost digits or, if the lines are a stream, join "
+          "all "
+          "lines to one",
+          lineBytes_, entrySizeText(stride_, layout_));
     }
   }
 
@@ -195,6 +206,7 @@ class HexReader : public TextReader {
   HexOrder orderOfNumbers() {
     const size_t digits = longest();
     if (groups_.size() == 1 && digits == 2 * size_t{entryBytes_}) return HexOrder::integer;
+    checkPadding();
     if (numbers_ == HexOrder::byGroups) numbers_ = firstOrderOfNumbers(digits);
     if (digits > (numbers_ == HexOrder::bytes ? 2 : 8)) {
       failLine(
@@ -203,6 +215,21 @@ class HexReader : public TextReader {
           digits, numbers_ == HexOrder::bytes ? "2" : "up to 8");
     }
     return numbers_;
+  }
+
+  /// Numbers that are filled up with zeros have all digits; a shorter one has lost some.
+  void checkPadding() {
+    for (const HexGroup& group : groups_) {
+      const size_t digits = group.digits.size();
+      const bool isFull = digits == 8 || digits == 2;
+      const bool isPadded = digits > 1 && group.digits[0] == '0';
+      isPadded_ = isPadded_ || (isPadded && digits == 8);
+      hasShort_ = hasShort_ || !isFull;
+      if ((isPadded && !isFull) || (isPadded_ && hasShort_)) {
+        failLine("{} digits among numbers that have zeros before them; check for lost digits",
+                 digits);
+      }
+    }
   }
 
   HexOrder firstOrderOfNumbers(size_t digits) const {
@@ -244,8 +271,8 @@ class HexReader : public TextReader {
                digits);
     }
     failLine(
-        "these digits are neither bytes of 2 nor words of 8 digits; if they are decimal or "
-        "octal, print the dump again with xxd");
+        "these digits are neither bytes of 2 nor words of 8 digits; check the line for lost digits "
+        "or, if they are decimal or octal, print the dump again with xxd");
   }
 
   /// Whether no digit shows that the bytes are hexadecimal.
@@ -310,10 +337,14 @@ class HexReader : public TextReader {
 
   const size_t entryBytes_;
   U64 index_;
+  SeenIndexes seen_;
   Shape shape_ = Shape::unknown;
+  bool hasData_ = false;    ///< a line was accepted
   bool hasOffset_ = false;  ///< the last index has zeros before it, and may be an offset
   U64 offset_ = 0;
   HexOrder numbers_ = HexOrder::byGroups;  ///< what numbers after 0x are, by the first line
+  bool isPadded_ = false;  ///< a number after 0x has eight digits, the first of them zero
+  bool hasShort_ = false;  ///< a number after 0x has fewer digits than a word or byte
   std::vector<HexGroup> groups_;
   std::vector<U8> bytes_;  ///< those of a line
   bool isRun_ = false;     ///< the first line is bytes without blanks

@@ -2,6 +2,8 @@
 
 #include <rapidjson/writer.h>
 
+#include <algorithm>
+
 #include "input/EntryReader.h"
 #include "model/Failure.h"
 #include "model/Text.h"
@@ -52,7 +54,7 @@ Value objectValue(const FieldPlace& place, const JsonValue& object) {
 
 Value valueOf(const FieldPlace& place, const JsonValue& value) {
   if (value.IsUint64()) return makeValue(place, value.GetUint64());
-  if (value.IsBool()) return makeValue(place, value.GetBool() ? 1 : 0);
+  if (value.IsBool() && place.width == 1) return makeValue(place, value.GetBool() ? 1 : 0);
   if (value.IsString()) return parseValue(place, textOf(value));
   if (value.IsArray()) return portsValue(place, value);
   if (value.IsObject()) return objectValue(place, value);
@@ -140,6 +142,16 @@ void checkHead(const Layout& layout, const JsonValue& head) {
   }
 }
 
+/// The address of an entry follows from its index.
+void checkAddress(const Layout& layout, const JsonValue& members, U64 index) {
+  const auto address = members.FindMember("address");
+  if (address == members.MemberEnd() || index >= layout.indexCount()) return;
+  const std::string expected = addressText(layout.addressOf(static_cast<U32>(index)).address);
+  if (address->value.IsString() && textOf(address->value) == expected) return;
+  fail("address: {}, but entry {} has {}; check the index, or leave out the address",
+       shown(address->value), index, expected);
+}
+
 JsonInput::Object objectOf(const Layout& layout, const JsonValue& members, U64 nextIndex) {
   if (!members.HasMember("fields"))
     return {std::nullopt, false, assignmentsOf(layout, members), {}};
@@ -162,6 +174,7 @@ JsonInput::Object objectOf(const Layout& layout, const JsonValue& members, U64 n
       fail("unknown member {}; an entry has index, fields and outsideFields", inQuotes(key));
     }
   }
+  checkAddress(layout, members, *object.index);
   return object;
 }
 
@@ -187,6 +200,7 @@ class JsonReader : public EntryReader {
           input_.name(), input_.line());
     }
     if (object.isNumbered) checkFirst();
+    checkComplete(object);
     builder_.startFromZero();
     try {
       for (const Assignment& assignment : object.assignments) builder_.set(assignment);
@@ -200,6 +214,19 @@ class JsonReader : public EntryReader {
 
  private:
   const std::string& name() const override { return input_.name(); }
+
+  /// An entry of a dump has all fields: none may count as zero because it was not printed.
+  void checkComplete(const JsonInput::Object& object) const {
+    for (const FieldPlace& place : layout_.fields()) {
+      const bool isGiven = std::any_of(object.assignments.begin(), object.assignments.end(),
+                                       [&place](const Assignment& assignment) {
+                                         return assignment.place.field.id == place.field.id;
+                                       });
+      if (isGiven) continue;
+      fail("{}:{}: entry {} has no {}; decode all fields, or change a dump with encode --base",
+           input_.name(), input_.line(), *object.index, place.name());
+    }
+  }
 
   JsonInput input_;
   EntryBuilder builder_;
@@ -222,7 +249,11 @@ bool JsonInput::next(Object& object) {
         continue;
       }
       object = objectOf(layout_, value, index_);
-      if (object.index) index_ = *object.index + 1;
+      if (object.index) {
+        if (!seen_.insert(*object.index))
+          fail("entry {} is given twice; give it once", *object.index);
+        index_ = *object.index + 1;
+      }
       return true;
     } catch (const Failure& failure) {
       fail("{}:{}: {}", name(), line(), failure.what());

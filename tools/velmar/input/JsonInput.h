@@ -6,6 +6,7 @@
 
 #include "input/JsonText.h"
 #include "model/EntryBuilder.h"
+#include "model/IndexSet.h"
 
 namespace Tool {
 
@@ -47,6 +48,7 @@ class JsonInput {
   JsonPool pool_;  ///< memory for a part
   const Layout& layout_;
   U64 index_;
+  SeenIndexes seen_;
   bool isStarted_ = false;
   List list_ = List::none;  ///< the list that is being read
   bool isFirst_ = false;    ///< no entry of it was read

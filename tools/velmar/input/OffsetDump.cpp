@@ -79,9 +79,9 @@ bool OffsetReader::parse(std::string_view line) {
 }
 
 void OffsetReader::refuse(std::string_view line) const {
-  failLine(
-      "{} is not a line of {}; check the line, or give --input hex for hex text without offsets",
-      inQuotes(line), started_ ? "the dump" : "a dump with offsets");
+  failLine("{} is not a line of {}; check the line{}", inQuotes(line),
+           started_ ? "the dump" : "a dump with offsets",
+           started_ ? "" : ", or give --input hex for hex text without offsets");
 }
 
 void OffsetReader::checkOffset(U64 offset) {
@@ -91,6 +91,7 @@ void OffsetReader::checkOffset(U64 offset) {
       failLine("offset 0x{:x} is not the start of an entry; start at a multiple of {}", offset,
                entrySizeText(stride_, layout_));
     }
+    if (offset != 0) checkFirst();
     firstOffset_ = offset_ = offset;
     index_ += offset / stride_;
     return;
@@ -132,9 +133,9 @@ void OffsetReader::checkText(std::string_view text, const Row& row) const {
   }
   if (trim(text) == trim(expected)) return;
   failLine("digits and text column disagree; {}",
-           options_.hexOrder == HexOrder::byGroups && haveDigits(row.groups, 2)
-               ? "check the line"
-               : "give --hex-order words for xxd -e, bytes otherwise");
+           options_.hexOrder != HexOrder::byGroups || haveDigits(row.groups, 2)
+               ? "check the line, and --hex-order"
+               : "check the line or, if it is of xxd -e, give --hex-order words");
 }
 
 /// The lines at the beginning, as far as they are there and in order.

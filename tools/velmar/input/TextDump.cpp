@@ -23,10 +23,15 @@ std::string_view takeWord(std::string_view& line) {
   return word;
 }
 
+/// Whether a word is a hexadecimal number, or one with mistyped digits: after 0x anything, otherwise
+/// a word of which a quarter is no digit at most, and at least one is a decimal digit.
 bool isHexWord(std::string_view word) {
   if (word[0] == '\\') return true;
-  if (word.size() > 2 && word[0] == '0' && (word[1] | 0x20) == 'x') word.remove_prefix(2);
-  return std::all_of(word.begin(), word.end(), [](char letter) { return hexDigit(letter) >= 0; });
+  if (word.size() > 2 && word[0] == '0' && (word[1] | 0x20) == 'x') return true;
+  const auto digits = static_cast<size_t>(
+      std::count_if(word.begin(), word.end(), [](char letter) { return hexDigit(letter) >= 0; }));
+  return digits == word.size() ||
+         (4 * digits >= 3 * word.size() && std::any_of(word.begin(), word.end(), isDecimal));
 }
 
 }  // namespace
@@ -73,6 +78,9 @@ bool isForeign(std::string_view line) {
   const size_t digits = line.find_first_not_of("0123456789abcdefABCDEF");
   const std::string_view start = line.substr(0, digits);
   if (start.size() >= 4 && std::any_of(start.begin(), start.end(), isDecimal)) return false;
+  // The values of a list in source code are data.
+  const std::string_view list = line.substr(std::min(line.find('{'), line.size()));
+  if (list.find_first_of("0123456789") != std::string_view::npos) return false;
   size_t words = 0, hexWords = 0;
   for (std::string_view word = takeWord(line); !word.empty(); word = takeWord(line)) {
     ++words;

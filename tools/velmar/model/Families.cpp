@@ -4,7 +4,6 @@
 
 #include <algorithm>
 
-#include "Oru/PerUnitBitmap.h"
 #include "model/Failure.h"
 #include "model/Text.h"
 
@@ -28,12 +27,6 @@ bool areOfOneFamily(const Catalogue::Field& a, const Catalogue::Field& b) {
   const std::optional<NumberedName> second = numberedName(b.accessor);
   return first && second && first->prefix == second->prefix &&
          std::string_view(a.meaning) == b.meaning;
-}
-
-std::string rangesText(const std::vector<U32>& numbers) {
-  Oru::PerUnitBitmap set;
-  for (const U32 number : numbers) set.set(number);
-  return set.ranges().c_str();
 }
 
 std::string FieldGroup::name() const {

@@ -43,7 +43,4 @@ std::vector<FieldGroup> grouped(const std::vector<FieldPlace>& fields, bool asFa
 /// "spTreePort0-3", or all that match a name with * and ?. Fails where there is none.
 std::vector<FieldPlace> findFields(const Layout& layout, std::string_view name);
 
-/// Numbers as ranges, such as "0-3,17".
-std::string rangesText(const std::vector<U32>& numbers);
-
 }  // namespace Tool

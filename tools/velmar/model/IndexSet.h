@@ -37,4 +37,21 @@ class IndexSet {
   std::vector<Range> ranges_;  ///< ascending
 };
 
+/// The indexes that a document has given.
+class SeenIndexes {
+ public:
+  /// False where it was inserted before. Indexes that no table has are not remembered.
+  bool insert(U64 index) {
+    constexpr U64 most = 1U << 16;
+    if (index >= most) return true;
+    if (index >= seen_.size()) seen_.resize(index + 1);
+    const bool isNew = !seen_[index];
+    seen_[index] = true;
+    return isNew;
+  }
+
+ private:
+  std::vector<bool> seen_;
+};
+
 }  // namespace Tool

@@ -63,7 +63,17 @@ const FieldPlace& Layout::find(std::string_view name) const {
 
 void Layout::failUnknown(std::string_view name) const {
   std::vector<std::string> names;
-  for (const FieldPlace& place : fields_) names.emplace_back(place.name());
+  for (const FieldPlace& place : fields_) {
+    names.emplace_back(place.name());
+    const std::string_view digits =
+        std::string_view(place.name()).substr(std::min(name.size(), names.back().size()));
+    const bool isOfFamily = names.back().rfind(name, 0) == 0 && !digits.empty() &&
+                            digits.find_first_not_of("0123456789") == std::string_view::npos;
+    if (isOfFamily) {
+      fail("{} are many fields; give numbers, such as {}, {}-{} or {}*", name, place.name(),
+           place.name(), parseNumber(digits).value_or(0) + 3, name);
+    }
+  }
   fail("{} has no field {}; {}{}", this->name(), inQuotes(name), didYouMean(name, names),
        seeFields());
 }

@@ -153,7 +153,8 @@ Catalogue::Chip findChip(std::string_view name) {
     fail("chip {} is not one chip; give {}", inQuotes(name), join(matchNames, " or "));
   }
   fail("unknown chip {}; {}\"velmar chips\" lists the chips", inQuotes(name),
-       didYouMean(name, chipNames()));
+       didYouMean(simple.size() >= 5 && simple.rfind("bcm", 0) != 0 ? "bcm" + simple : simple,
+                  chipNames()));
 }
 
 Catalogue::Table findTable(std::string_view name) {

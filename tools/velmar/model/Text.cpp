@@ -1,5 +1,6 @@
 #include "model/Text.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "model/Formatting.h"
@@ -75,6 +76,17 @@ std::vector<std::string> wrap(const std::string& text, size_t width) {
   }
   lines.push_back(text.substr(from));
   return lines;
+}
+
+std::string rangesText(std::vector<U32> numbers) {
+  std::sort(numbers.begin(), numbers.end());
+  std::string text;
+  for (size_t first = 0, next; first < numbers.size(); first = next) {
+    for (next = first + 1; next < numbers.size() && numbers[next] - numbers[next - 1] <= 1;) ++next;
+    text += (text.empty() ? "" : ",") + std::to_string(numbers[first]);
+    if (numbers[next - 1] != numbers[first]) text += '-' + std::to_string(numbers[next - 1]);
+  }
+  return text;
 }
 
 std::string printable(std::string_view text) {

@@ -31,6 +31,9 @@ std::vector<std::string> wrap(const std::string& text, size_t width);
 /// A number in decimal, or in hexadecimal where `typed` has a hexadecimal number.
 std::string numberLike(std::string_view typed, U64 number);
 
+/// Numbers as ranges, such as "0-3,17".
+std::string rangesText(std::vector<U32> numbers);
+
 /// A text with "?" in place of each byte that is not printable ASCII.
 std::string printable(std::string_view text);
 

@@ -87,7 +87,7 @@ bool Value::isZero() const {
 
 std::optional<Value> Value::resized(U32 width) const {
   Value value(width);
-  if (nextBit(std::min(width, width_), true) != width_) return std::nullopt;
+  if (nextBit(std::min(width, width_)) != width_) return std::nullopt;
   for (U32 i = 0; i < std::min(wordCount(), value.wordCount()); ++i) value.words_[i] = words_[i];
   return value;
 }
@@ -111,6 +111,12 @@ bool Value::contains(const Value& other) const {
   Value both = *this;
   both.add(other);
   return both == *this;
+}
+
+bool Value::overlaps(const Value& other) const {
+  Value rest = *this;
+  rest.remove(other);
+  return rest != *this;
 }
 
 void Value::add(const Value& other) {
@@ -140,28 +146,17 @@ std::optional<U64> Value::number() const {
   return high << 32 | words_[0];
 }
 
-Oru::PerUnitBitmap Value::ports() const {
-  Oru::PerUnitBitmap ports(width_);
-  for (U32 i = 0; i < wordCount(); ++i) ports.bitListIs(i, words_[i]);
+std::vector<U32> Value::ports() const {
+  std::vector<U32> ports;
+  for (U32 bit = nextBit(0); bit < width_; bit = nextBit(bit + 1)) ports.push_back(bit);
   return ports;
 }
 
-std::string Value::portRanges() const {
-  std::string text;
-  for (U32 bit = nextBit(0, true); bit < width_;) {
-    const U32 end = nextBit(bit, false);
-    if (!text.empty()) text += ',';
-    text += std::to_string(bit);
-    if (end > bit + 1) text += '-' + std::to_string(end - 1);
-    bit = nextBit(end, true);
-  }
-  return text.empty() ? "none" : text;
-}
+std::string Value::portRanges() const { return isZero() ? "none" : rangesText(ports()); }
 
-U32 Value::nextBit(U32 bit, bool isSet) const {
+U32 Value::nextBit(U32 bit) const {
   while (bit < width_) {
-    const U32 word = isSet ? words_[bit / 32] : ~words_[bit / 32];
-    const U32 rest = word >> bit % 32;
+    const U32 rest = words_[bit / 32] >> bit % 32;
     if (rest != 0) return std::min(width_, bit + static_cast<U32>(__builtin_ctz(rest)));
     bit = (bit / 32 + 1) * 32;
   }

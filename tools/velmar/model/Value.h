@@ -5,7 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "Oru/PerUnitBitmap.h"
 #include "model/Layout.h"
 
 namespace Tool {
@@ -28,6 +27,8 @@ class Value {
   friend bool operator<(const Value& a, const Value& b);
   /// Whether all bits of the other are set.
   bool contains(const Value& other) const;
+  /// Whether any bit of the other is set.
+  bool overlaps(const Value& other) const;
   /// Sets or clears the bits of the other, which has the same width.
   void add(const Value& other);
   void remove(const Value& other);
@@ -38,12 +39,12 @@ class Value {
   /// The value as a number, where it fits 64 bits.
   std::optional<U64> number() const;
   /// The value as a set of ports.
-  Oru::PerUnitBitmap ports() const;
+  std::vector<U32> ports() const;
   /// The ports as ranges such as "0-3,17"; "none" for no ports.
   std::string portRanges() const;
 
-  /// The first bit from `bit` on that is set, or clear; the width where there is none.
-  U32 nextBit(U32 bit, bool isSet) const;
+  /// The first bit from `bit` on that is set; the width where there is none.
+  U32 nextBit(U32 bit) const;
   void setBit(U32 bit);
   /// Sets a value of zero to a number; false where it does not fit the width.
   bool setNumber(U64 number);

@@ -1,5 +1,7 @@
 #include "output/EntryWriter.h"
 
+#include <cstdio>
+
 #include "model/Failure.h"
 #include "output/CsvRows.h"
 #include "output/ValueText.h"
@@ -102,6 +104,11 @@ class BytesWriter : public EntryWriter {
           "entry {} cannot follow entry {}, because raw bytes carry no index; give --whole or "
           "--format hex",
           index, next_ - 1);
+    }
+    if (!started_ && index != 0) {
+      std::fprintf(stderr,
+                   "velmar: note: raw bytes carry no index; to read these give --first %llu\n",
+                   static_cast<unsigned long long>(index));
     }
     started_ = true;
     next_ = index + 1;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "model/Text.h"
+
 namespace Tool {
 namespace {
 

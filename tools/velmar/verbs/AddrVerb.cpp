@@ -101,6 +101,9 @@ int run(const Arguments& arguments) {
   if (finds && (namesEntries || !arguments.identifier.empty())) {
     fail("--find excludes --index, --array and --identifier; give --find alone");
   }
+  if (!finds && parseNumber(arguments.table)) {
+    fail("{} is no table; to look up an address give --find {}", arguments.table, arguments.table);
+  }
   if (!finds && arguments.chips.empty()) fail("--chip is missing; see \"velmar addr --help\"");
   // A table that the chip does not have is an error.
   if (finds && !arguments.table.empty() && !arguments.chips.empty()) layoutOf(arguments);

@@ -19,6 +19,9 @@ class Selection {
  public:
   Selection(const Arguments& arguments, const Layout& layout)
       : nonzero_(arguments.nonzero), zeros_(layout.entryBytes()), indexes_(indexesOf(arguments)) {
+    if (!indexes_.isAll() && !arguments.check) {
+      checkIndexes(layout, indexes_, "--index", join(arguments.index, ","));
+    }
     for (const std::string& text : arguments.where) conditions_.emplace_back(layout, text);
   }
 

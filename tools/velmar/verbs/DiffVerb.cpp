@@ -4,6 +4,7 @@
 
 #include "model/Failure.h"
 #include "model/Families.h"
+#include "model/Text.h"
 #include "model/Value.h"
 #include "output/EntryWriter.h"
 #include "output/Listing.h"
@@ -68,13 +69,9 @@ std::string valueText(const FieldPlace& place, const Value& value) {
 
 /// The ports of one set that are not in the other.
 std::string portsWithout(const Value& value, const Value& other) {
-  const Oru::PerUnitBitmap ports = value.ports();
-  const Oru::PerUnitBitmap others = other.ports();
-  Oru::PerUnitBitmap rest;
-  for (const U32 port : ports) {
-    if (!others.test(port)) rest.set(port);
-  }
-  return rest.ranges().c_str();
+  Value rest = value;
+  rest.remove(other);
+  return rest.isZero() ? "" : rest.portRanges();
 }
 
 class EntryComparison {
@@ -293,6 +290,9 @@ class Diff {
         comparison_(arguments, layout),
         output_(arguments.output, arguments.color),
         progress_(output_, old_.sizeInBytes()) {
+    if (!selected_.isAll()) {
+      checkIndexes(layout, selected_, "--index", join(arguments.index, ","));
+    }
     const bool reports = !arguments.quiet && !arguments.stat;
     if (reports) report_.emplace(output_, layout, format_);
   }

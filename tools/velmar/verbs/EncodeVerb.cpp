@@ -50,6 +50,8 @@ class Values {
       : layout_(layout), readsInput_(arguments.base == "-") {
     for (const std::string& text : arguments.assignments) {
       if (text[0] == '@') {
+        if (text.size() == 1)
+          fail("@ is given without a file; give @FILE, or @- for standard input");
         read(text.substr(1));
       } else {
         for (Assignment& assignment : parseAssignments(layout, text)) {
@@ -68,12 +70,11 @@ class Values {
 
  private:
   void read(const std::string& path) {
-    const std::string file = path.empty() ? "-" : path;
-    if (file == "-" && std::exchange(readsInput_, true)) {
+    if (path == "-" && std::exchange(readsInput_, true)) {
       fail("standard input is given twice; name a file for one of them");
     }
     auto input =
-        std::make_unique<JsonInput>(std::make_unique<ByteStream>(file, nullptr), layout_, 0);
+        std::make_unique<JsonInput>(std::make_unique<ByteStream>(path, nullptr), layout_, 0);
     JsonInput::Object object;
     if (!input->next(object)) {
       fail("{}: no entry and no values; give one object of values, or the JSON of decode",
@@ -144,7 +145,7 @@ class Encoder {
     selected_ = indexesOf(arguments_);
     const bool choosesChanges = !arguments_.base.empty() || values_.hasEntries();
     if (choosesChanges && values_.common().empty()) {
-      fail("--index has no effect without FIELD=VALUE; give both");
+      fail("--index chooses the entries that FIELD=VALUE changes, and none is given; give both");
     }
     checkIndexes(layout_, selected_, "--index", join(arguments_.index, ","));
   }
@@ -223,6 +224,9 @@ class Encoder {
 
   void setObjectsOf(U64 index) {
     while (values_.object() != nullptr && *values_.object()->index == index) {
+      if (!values_.object()->isNumbered) {
+        fail("{}: an entry without index; give the index of the entry to change", values_.place());
+      }
       setObject();
       values_.takeObject();
     }

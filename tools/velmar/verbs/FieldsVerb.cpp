@@ -94,6 +94,15 @@ std::vector<std::string> allFieldNames() {
 
 int run(const Arguments& arguments) {
   const Listing listing = matchingFields(arguments);
+  if (listing.isEmpty() && !(arguments.chips.empty() && arguments.tableOption.empty())) {
+    Arguments everywhere = arguments;
+    everywhere.chips.clear();
+    everywhere.tableOption.clear();
+    if (!matchingFields(everywhere).isEmpty()) {
+      fail("{} is not there, but elsewhere; leave out --table and --chip to see it",
+           inQuotes(arguments.pattern));
+    }
+  }
   if (listing.isEmpty()) {
     fail("no field matches {}; {}\"velmar fields\" lists the fields", inQuotes(arguments.pattern),
          didYouMean(arguments.pattern, allFieldNames()));

@@ -104,7 +104,8 @@ std::string reasonOf(const Fit& fit) {
 }
 
 int run(const Arguments& arguments) {
-  if (arguments.files.size() > 1) fail("{} dumps given; give one", arguments.files.size());
+  if (arguments.files.size() > 1)
+    fail("{} dumps given; give one, and a table with --table", arguments.files.size());
   const std::string file = arguments.files.empty() ? "" : arguments.files.front();
   ByteStream stream(file, nullptr);
   constexpr size_t most = size_t{16} << 20;
@@ -135,7 +136,7 @@ int run(const Arguments& arguments) {
   if (!listing.isEmpty()) return exitSuccess;
   std::fprintf(stderr,
                "velmar: no table fits: its entries, its size or its bits speak against each; "
-               "check --input, --hex-order and --stride\n");
+               "check --input, --hex-order, --stride, --table and --chip\n");
   return exitFinding;
 }
 

@@ -53,6 +53,9 @@ InputOptions inputOptionsOf(const Arguments& arguments) {
     std::fprintf(stderr, "velmar: note: %s\n", text.c_str());
   };
   options.stride = static_cast<U32>(numberOf("--stride", arguments.stride, longestStride, 0));
+  if (!arguments.stride.empty() && options.stride == 0) {
+    fail("--stride 0: give the bytes from one entry to the next");
+  }
   options.first = numberOf("--first", arguments.first, std::numeric_limits<U32>::max(), 0);
   return options;
 }
@@ -89,7 +92,12 @@ std::vector<FieldPlace> fieldsOf(const Arguments& arguments, const Layout& layou
   }
   std::vector<FieldPlace> places;
   for (const std::string& name : split(join(arguments.fields, ","), ',')) {
-    for (const FieldPlace& place : findFields(layout, name)) places.push_back(place);
+    for (const FieldPlace& place : findFields(layout, name)) {
+      const auto isSame = [&place](const FieldPlace& other) {
+        return other.field.id == place.field.id;
+      };
+      if (std::none_of(places.begin(), places.end(), isSame)) places.push_back(place);
+    }
   }
   return places;
 }

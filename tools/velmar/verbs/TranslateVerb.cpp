@@ -38,7 +38,8 @@ class Translator {
       const Value value = Value::read(place, entry.bytes, size);
       if (value.isZero()) continue;
       if (!other) {
-        lose(place.name(), formatText("{} has no such field", to_.chip().name), index);
+        lose(place.name(), formatText("{} has no such field on {}", to_.name(), to_.chip().name),
+             index);
         continue;
       }
       const std::optional<Value> fitting = value.resized(other->width);
@@ -86,9 +87,32 @@ Layout layoutOn(const Arguments& arguments, const std::string& chip) {
   return Layout(findTable(arguments.table), findChip(chip), variantOf(arguments));
 }
 
+/// Fields of a family that get lost in the same entries become one loss.
+std::vector<Loss> joined(const std::vector<Loss>& losses) {
+  std::vector<Loss> result;
+  std::vector<std::vector<U32>> numbers;
+  for (const Loss& loss : losses) {
+    const std::optional<NumberedName> name = numberedName(loss.field);
+    const bool goesOn = name && !result.empty() && numberedName(result.back().field) &&
+                        numberedName(result.back().field)->prefix == name->prefix &&
+                        result.back().reason == loss.reason &&
+                        result.back().indexes == loss.indexes;
+    if (!goesOn) {
+      result.push_back(loss);
+      numbers.emplace_back();
+    }
+    if (name) numbers.back().push_back(name->number);
+  }
+  for (size_t i = 0; i < result.size(); ++i) {
+    if (numbers[i].size() < 2) continue;
+    result[i].field = std::string(numberedName(result[i].field)->prefix) + rangesText(numbers[i]);
+  }
+  return result;
+}
+
 void print(const std::vector<Loss>& losses) {
   constexpr size_t longest = 60;
-  for (const Loss& loss : losses) {
+  for (const Loss& loss : joined(losses)) {
     std::string indexes = rangesText(loss.indexes);
     if (indexes.size() > longest) indexes = indexes.substr(0, indexes.rfind(',', longest)) + ",...";
     std::fprintf(stderr, "velmar: lost: %s: %s; in %zu entr%s: %s\n", loss.field.c_str(),

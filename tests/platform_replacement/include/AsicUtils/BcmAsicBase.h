@@ -1,0 +1,12 @@
+#pragma once
+
+#include "AsicUtils/AsicBase.h"
+
+namespace AsicUtils {
+
+class BcmAsicBase : public AsicBase {
+ protected:
+  using AsicBase::AsicBase;
+};
+
+}  // namespace AsicUtils

@@ -1,0 +1,7 @@
+#pragma once
+
+#include <string>
+
+namespace Morvo {
+using String = std::string;
+}

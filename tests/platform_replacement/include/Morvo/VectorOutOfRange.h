@@ -1,0 +1,9 @@
+#pragma once
+
+#include <cstddef>
+
+namespace Morvo {
+namespace Impl {
+[[noreturn]] void throwVectorOutOfRangeException(std::size_t index, std::size_t count);
+}
+}  // namespace Morvo
