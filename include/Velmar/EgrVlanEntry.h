@@ -3,6 +3,7 @@
 #pragma once
 
 #include "AsicUtils/BcmAsicBase.h"
+#include "AsicUtils/ChipType.h"
 #include "Oru/PerUnitBitmap.h"
 #include "Velmar/Export.h"
 
@@ -37,7 +38,7 @@ class VELMAR_EXPORT EgrVlanEntry : public AsicUtils::BcmAsicBase {
   /// Does nothing.
   static void handleBuf(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
   /// Whether the constructor accepts the pair. Never fails.
-  static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
+  VELMAR_NODISCARD static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
   /// True.
   bool isPrimary() const;
   /// True: a memory.
@@ -51,22 +52,22 @@ class VELMAR_EXPORT EgrVlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of a field. An identifier that the class does not declare fails "false".
   U16 fieldOffset(U32 fieldId) const override;
   /// Whether the view has a field. Never fails.
-  bool isFieldValid(U32 fieldId) const override;
+  VELMAR_NODISCARD bool isFieldValid(U32 fieldId) const override;
   /// The entry with its reserved bits zero. Fails "len_ >= 64" if the buffer is shorter.
   Raw512 getAllFields() const;
   /// A one at every bit of an entry that belongs to a field.
-  static Raw8192 allFieldsMask(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static Raw8192 allFieldsMask(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  Raw8192 allFieldsMask() const override;
+  VELMAR_NODISCARD Raw8192 allFieldsMask() const override;
   /// Number of fields that the chip has.
-  static U32 fieldCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 fieldCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 fieldCount() const override;
+  VELMAR_NODISCARD U32 fieldCount() const override;
 
   /// Whether an instance identifier is accepted.
-  static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
+  VELMAR_NODISCARD static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
   /// The same for the view's chip and variant.
-  bool hasIdentifier(U32 identifier) const override;
+  VELMAR_NODISCARD bool hasIdentifier(U32 identifier) const override;
   /// S-channel address, access code and block (1 ingress, 2 egress). Returns false and writes
   /// nothing if the chip or variant lacks the class. Fails "tableEntry < N", "arrayIndex == 0",
   /// "hasIdentifier( chipType, variant, identifier )".
@@ -77,35 +78,35 @@ class VELMAR_EXPORT EgrVlanEntry : public AsicUtils::BcmAsicBase {
                        U16 arrayIndex) const override;
 
   /// Size of an entry in 32-bit words.
-  static U16 width(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 width(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U16 width() const override;
+  VELMAR_NODISCARD U16 width() const override;
   /// The same as width().
-  static U16 tableWidth(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 tableWidth(U32 chipType, U8 variant);
   /// 1.
-  static U32 arrayElements(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayElements(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayElements() const override;
+  VELMAR_NODISCARD U32 arrayElements() const override;
   /// Number of instances: 1.
-  static U32 instanceCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 instanceCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 instanceCount() const override;
+  VELMAR_NODISCARD U32 instanceCount() const override;
   /// Number of entries.
-  static U32 entries(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 entries(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 entries() const override;
+  VELMAR_NODISCARD U32 entries() const override;
   /// Lowest index of an entry: 0.
-  static U32 index_min(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 index_min(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 index_min() const;
+  VELMAR_NODISCARD U32 index_min() const;
   /// 0.
-  static U32 arrayIndex_min(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayIndex_min(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayIndex_min() const;
+  VELMAR_NODISCARD U32 arrayIndex_min() const;
   /// The ranges of valid indices.
-  static EntrySpans entrySpans(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static EntrySpans entrySpans(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  EntrySpans entrySpans() const override;
+  VELMAR_NODISCARD EntrySpans entrySpans() const override;
   /// 1 if the chip has the memory, else 0. Never fails.
   static U32 tableVariantCount(U32 chipType);
   /// The same for the view's chip.
@@ -116,7 +117,7 @@ class VELMAR_EXPORT EgrVlanEntry : public AsicUtils::BcmAsicBase {
   static const AsicUtils::EntrySpan _entrySpans_BCM56996_A0[1];
 
   /// The entry is valid. VALID: 1 bit; on all chips.
-  U8 valid() const;
+  VELMAR_NODISCARD U8 valid() const;
   /// Sets VALID.
   void validIs(U8 value);
   /// Width of VALID in bits.
@@ -124,10 +125,10 @@ class VELMAR_EXPORT EgrVlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of VALID in the entry.
   U16 validOffset() const;
   /// Whether the view has VALID.
-  bool isValidValid() const;
+  VELMAR_NODISCARD bool isValidValid() const;
 
   /// Spanning-tree group. STG: 9 bits, 6 from BCM56980_A0; on all chips.
-  U16 stg() const;
+  VELMAR_NODISCARD U16 stg() const;
   /// Sets STG.
   void stgIs(U16 value);
   /// Width of STG in bits.
@@ -135,11 +136,11 @@ class VELMAR_EXPORT EgrVlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of STG in the entry.
   U16 stgOffset() const;
   /// Whether the view has STG.
-  bool isStgValid() const;
+  VELMAR_NODISCARD bool isStgValid() const;
 
   /// Untagged ports. UT_PORT_BITMAP: 136 bits, 160 from BCM56980_A0; on BCM56960_A0, BCM56965_A0,
   /// BCM56968_A0, BCM56970_A0, BCM56980_A0.
-  Oru::PerUnitBitmap utPortBitmap() const;
+  VELMAR_NODISCARD Oru::PerUnitBitmap utPortBitmap() const;
   /// Sets UT_PORT_BITMAP.
   void utPortBitmapIs(Oru::PerUnitBitmap value);
   /// Width of UT_PORT_BITMAP in bits.
@@ -147,11 +148,11 @@ class VELMAR_EXPORT EgrVlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of UT_PORT_BITMAP in the entry.
   U16 utPortBitmapOffset() const;
   /// Whether the view has UT_PORT_BITMAP.
-  bool isUtPortBitmapValid() const;
+  VELMAR_NODISCARD bool isUtPortBitmapValid() const;
 
   /// Member ports. PORT_BITMAP: 136 bits, 160 from BCM56980_A0; on BCM56960_A0, BCM56965_A0,
   /// BCM56968_A0, BCM56970_A0, BCM56980_A0.
-  Oru::PerUnitBitmap portBitmap() const;
+  VELMAR_NODISCARD Oru::PerUnitBitmap portBitmap() const;
   /// Sets PORT_BITMAP.
   void portBitmapIs(Oru::PerUnitBitmap value);
   /// Width of PORT_BITMAP in bits.
@@ -159,11 +160,11 @@ class VELMAR_EXPORT EgrVlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of PORT_BITMAP in the entry.
   U16 portBitmapOffset() const;
   /// Whether the view has PORT_BITMAP.
-  bool isPortBitmapValid() const;
+  VELMAR_NODISCARD bool isPortBitmapValid() const;
 
   /// Index of the untag profile. UNTAG_PROFILE_PTR: 12 bits; on BCM56870_A0, BCM56770_A0,
   /// BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0.
-  U16 untagProfilePtr() const;
+  VELMAR_NODISCARD U16 untagProfilePtr() const;
   /// Sets UNTAG_PROFILE_PTR.
   void untagProfilePtrIs(U16 value);
   /// Width of UNTAG_PROFILE_PTR in bits.
@@ -171,11 +172,11 @@ class VELMAR_EXPORT EgrVlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of UNTAG_PROFILE_PTR in the entry.
   U16 untagProfilePtrOffset() const;
   /// Whether the view has UNTAG_PROFILE_PTR.
-  bool isUntagProfilePtrValid() const;
+  VELMAR_NODISCARD bool isUntagProfilePtrValid() const;
 
   /// Index of the membership profile. MEMBERSHIP_PROFILE_PTR: 12 bits; on all chips but
   /// BCM56960_A0, BCM56965_A0, BCM56968_A0, BCM56970_A0, BCM56980_A0.
-  U16 membershipProfilePtr() const;
+  VELMAR_NODISCARD U16 membershipProfilePtr() const;
   /// Sets MEMBERSHIP_PROFILE_PTR.
   void membershipProfilePtrIs(U16 value);
   /// Width of MEMBERSHIP_PROFILE_PTR in bits.
@@ -183,11 +184,11 @@ class VELMAR_EXPORT EgrVlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of MEMBERSHIP_PROFILE_PTR in the entry.
   U16 membershipProfilePtrOffset() const;
   /// Whether the view has MEMBERSHIP_PROFILE_PTR.
-  bool isMembershipProfilePtrValid() const;
+  VELMAR_NODISCARD bool isMembershipProfilePtrValid() const;
 
   /// Outer VLAN id. OVID: 12 bits; on BCM56990_B0, BCM56992_B0, BCM56993_B0, BCM56996_A0,
   /// BCM56996_B0.
-  U16 ovid() const;
+  VELMAR_NODISCARD U16 ovid() const;
   /// Sets OVID.
   void ovidIs(U16 value);
   /// Width of OVID in bits.
@@ -195,11 +196,11 @@ class VELMAR_EXPORT EgrVlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of OVID in the entry.
   U16 ovidOffset() const;
   /// Whether the view has OVID.
-  bool isOvidValid() const;
+  VELMAR_NODISCARD bool isOvidValid() const;
 
   /// The outer VLAN id is valid. OVID_VALID: 1 bit; on BCM56990_B0, BCM56992_B0, BCM56993_B0,
   /// BCM56996_A0, BCM56996_B0.
-  U8 ovidValid() const;
+  VELMAR_NODISCARD U8 ovidValid() const;
   /// Sets OVID_VALID.
   void ovidValidIs(U8 value);
   /// Width of OVID_VALID in bits.
@@ -207,11 +208,11 @@ class VELMAR_EXPORT EgrVlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of OVID_VALID in the entry.
   U16 ovidValidOffset() const;
   /// Whether the view has OVID_VALID.
-  bool isOvidValidValid() const;
+  VELMAR_NODISCARD bool isOvidValidValid() const;
 
   /// Flexible counter action. FLEX_CTR_ACTION: 4 bits; on BCM56990_B0, BCM56992_B0, BCM56993_B0,
   /// BCM56996_A0, BCM56996_B0.
-  U8 flexCtrAction() const;
+  VELMAR_NODISCARD U8 flexCtrAction() const;
   /// Sets FLEX_CTR_ACTION.
   void flexCtrActionIs(U8 value);
   /// Width of FLEX_CTR_ACTION in bits.
@@ -219,11 +220,11 @@ class VELMAR_EXPORT EgrVlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of FLEX_CTR_ACTION in the entry.
   U16 flexCtrActionOffset() const;
   /// Whether the view has FLEX_CTR_ACTION.
-  bool isFlexCtrActionValid() const;
+  VELMAR_NODISCARD bool isFlexCtrActionValid() const;
 
   /// The egress filter is enabled. EN_EFILTER: 1 bit; on all chips but BCM56960_A0, BCM56965_A0,
   /// BCM56968_A0, BCM56970_A0, BCM56980_A0.
-  U8 enEfilter() const;
+  VELMAR_NODISCARD U8 enEfilter() const;
   /// Sets EN_EFILTER.
   void enEfilterIs(U8 value);
   /// Width of EN_EFILTER in bits.
@@ -231,7 +232,7 @@ class VELMAR_EXPORT EgrVlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of EN_EFILTER in the entry.
   U16 enEfilterOffset() const;
   /// Whether the view has EN_EFILTER.
-  bool isEnEfilterValid() const;
+  VELMAR_NODISCARD bool isEnEfilterValid() const;
 };
 
 }  // namespace Velmar

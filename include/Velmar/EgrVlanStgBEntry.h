@@ -3,6 +3,7 @@
 #pragma once
 
 #include "AsicUtils/BcmAsicBase.h"
+#include "AsicUtils/ChipType.h"
 #include "Velmar/Export.h"
 
 namespace Velmar {
@@ -34,7 +35,7 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// Does nothing.
   static void handleBuf(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
   /// Whether the constructor accepts the pair. Never fails.
-  static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
+  VELMAR_NODISCARD static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
   /// True.
   bool isPrimary() const;
   /// True: a memory.
@@ -48,22 +49,22 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of a field. An identifier that the class does not declare fails "false".
   U16 fieldOffset(U32 fieldId) const override;
   /// Whether the view has a field. Never fails.
-  bool isFieldValid(U32 fieldId) const override;
+  VELMAR_NODISCARD bool isFieldValid(U32 fieldId) const override;
   /// The entry with its reserved bits zero. Fails "len_ >= 64" if the buffer is shorter.
   Raw512 getAllFields() const;
   /// A one at every bit of an entry that belongs to a field.
-  static Raw8192 allFieldsMask(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static Raw8192 allFieldsMask(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  Raw8192 allFieldsMask() const override;
+  VELMAR_NODISCARD Raw8192 allFieldsMask() const override;
   /// Number of fields that the chip has.
-  static U32 fieldCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 fieldCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 fieldCount() const override;
+  VELMAR_NODISCARD U32 fieldCount() const override;
 
   /// Whether an instance identifier is accepted.
-  static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
+  VELMAR_NODISCARD static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
   /// The same for the view's chip and variant.
-  bool hasIdentifier(U32 identifier) const override;
+  VELMAR_NODISCARD bool hasIdentifier(U32 identifier) const override;
   /// S-channel address, access code and block (1 ingress, 2 egress). Returns false and writes
   /// nothing if the chip or variant lacks the class. Fails "tableEntry < N", "arrayIndex == 0",
   /// "hasIdentifier( chipType, variant, identifier )".
@@ -74,35 +75,35 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
                        U16 arrayIndex) const override;
 
   /// Size of an entry in 32-bit words.
-  static U16 width(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 width(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U16 width() const override;
+  VELMAR_NODISCARD U16 width() const override;
   /// The same as width().
-  static U16 tableWidth(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 tableWidth(U32 chipType, U8 variant);
   /// 1.
-  static U32 arrayElements(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayElements(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayElements() const override;
+  VELMAR_NODISCARD U32 arrayElements() const override;
   /// Number of instances: 1.
-  static U32 instanceCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 instanceCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 instanceCount() const override;
+  VELMAR_NODISCARD U32 instanceCount() const override;
   /// Number of entries.
-  static U32 entries(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 entries(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 entries() const override;
+  VELMAR_NODISCARD U32 entries() const override;
   /// Lowest index of an entry: 0.
-  static U32 index_min(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 index_min(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 index_min() const;
+  VELMAR_NODISCARD U32 index_min() const;
   /// 0.
-  static U32 arrayIndex_min(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayIndex_min(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayIndex_min() const;
+  VELMAR_NODISCARD U32 arrayIndex_min() const;
   /// The ranges of valid indices.
-  static EntrySpans entrySpans(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static EntrySpans entrySpans(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  EntrySpans entrySpans() const override;
+  VELMAR_NODISCARD EntrySpans entrySpans() const override;
   /// 1 if the chip has the memory, else 0. Never fails.
   static U32 tableVariantCount(U32 chipType);
   /// The same for the view's chip.
@@ -111,7 +112,7 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   static const AsicUtils::EntrySpan _entrySpans_BCM56996_A0[1];
 
   /// Spanning-tree state of the port. SP_TREE_PORT136: 2 bits; on all chips.
-  U8 spTreePort136() const;
+  VELMAR_NODISCARD U8 spTreePort136() const;
   /// Sets SP_TREE_PORT136.
   void spTreePort136Is(U8 value);
   /// Width of SP_TREE_PORT136 in bits.
@@ -119,10 +120,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT136 in the entry.
   U16 spTreePort136Offset() const;
   /// Whether the view has SP_TREE_PORT136.
-  bool isSpTreePort136Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort136Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT137: 2 bits; on all chips.
-  U8 spTreePort137() const;
+  VELMAR_NODISCARD U8 spTreePort137() const;
   /// Sets SP_TREE_PORT137.
   void spTreePort137Is(U8 value);
   /// Width of SP_TREE_PORT137 in bits.
@@ -130,10 +131,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT137 in the entry.
   U16 spTreePort137Offset() const;
   /// Whether the view has SP_TREE_PORT137.
-  bool isSpTreePort137Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort137Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT138: 2 bits; on all chips.
-  U8 spTreePort138() const;
+  VELMAR_NODISCARD U8 spTreePort138() const;
   /// Sets SP_TREE_PORT138.
   void spTreePort138Is(U8 value);
   /// Width of SP_TREE_PORT138 in bits.
@@ -141,10 +142,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT138 in the entry.
   U16 spTreePort138Offset() const;
   /// Whether the view has SP_TREE_PORT138.
-  bool isSpTreePort138Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort138Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT139: 2 bits; on all chips.
-  U8 spTreePort139() const;
+  VELMAR_NODISCARD U8 spTreePort139() const;
   /// Sets SP_TREE_PORT139.
   void spTreePort139Is(U8 value);
   /// Width of SP_TREE_PORT139 in bits.
@@ -152,10 +153,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT139 in the entry.
   U16 spTreePort139Offset() const;
   /// Whether the view has SP_TREE_PORT139.
-  bool isSpTreePort139Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort139Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT140: 2 bits; on all chips.
-  U8 spTreePort140() const;
+  VELMAR_NODISCARD U8 spTreePort140() const;
   /// Sets SP_TREE_PORT140.
   void spTreePort140Is(U8 value);
   /// Width of SP_TREE_PORT140 in bits.
@@ -163,10 +164,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT140 in the entry.
   U16 spTreePort140Offset() const;
   /// Whether the view has SP_TREE_PORT140.
-  bool isSpTreePort140Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort140Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT141: 2 bits; on all chips.
-  U8 spTreePort141() const;
+  VELMAR_NODISCARD U8 spTreePort141() const;
   /// Sets SP_TREE_PORT141.
   void spTreePort141Is(U8 value);
   /// Width of SP_TREE_PORT141 in bits.
@@ -174,10 +175,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT141 in the entry.
   U16 spTreePort141Offset() const;
   /// Whether the view has SP_TREE_PORT141.
-  bool isSpTreePort141Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort141Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT142: 2 bits; on all chips.
-  U8 spTreePort142() const;
+  VELMAR_NODISCARD U8 spTreePort142() const;
   /// Sets SP_TREE_PORT142.
   void spTreePort142Is(U8 value);
   /// Width of SP_TREE_PORT142 in bits.
@@ -185,10 +186,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT142 in the entry.
   U16 spTreePort142Offset() const;
   /// Whether the view has SP_TREE_PORT142.
-  bool isSpTreePort142Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort142Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT143: 2 bits; on all chips.
-  U8 spTreePort143() const;
+  VELMAR_NODISCARD U8 spTreePort143() const;
   /// Sets SP_TREE_PORT143.
   void spTreePort143Is(U8 value);
   /// Width of SP_TREE_PORT143 in bits.
@@ -196,10 +197,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT143 in the entry.
   U16 spTreePort143Offset() const;
   /// Whether the view has SP_TREE_PORT143.
-  bool isSpTreePort143Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort143Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT144: 2 bits; on all chips.
-  U8 spTreePort144() const;
+  VELMAR_NODISCARD U8 spTreePort144() const;
   /// Sets SP_TREE_PORT144.
   void spTreePort144Is(U8 value);
   /// Width of SP_TREE_PORT144 in bits.
@@ -207,10 +208,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT144 in the entry.
   U16 spTreePort144Offset() const;
   /// Whether the view has SP_TREE_PORT144.
-  bool isSpTreePort144Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort144Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT145: 2 bits; on all chips.
-  U8 spTreePort145() const;
+  VELMAR_NODISCARD U8 spTreePort145() const;
   /// Sets SP_TREE_PORT145.
   void spTreePort145Is(U8 value);
   /// Width of SP_TREE_PORT145 in bits.
@@ -218,10 +219,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT145 in the entry.
   U16 spTreePort145Offset() const;
   /// Whether the view has SP_TREE_PORT145.
-  bool isSpTreePort145Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort145Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT146: 2 bits; on all chips.
-  U8 spTreePort146() const;
+  VELMAR_NODISCARD U8 spTreePort146() const;
   /// Sets SP_TREE_PORT146.
   void spTreePort146Is(U8 value);
   /// Width of SP_TREE_PORT146 in bits.
@@ -229,10 +230,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT146 in the entry.
   U16 spTreePort146Offset() const;
   /// Whether the view has SP_TREE_PORT146.
-  bool isSpTreePort146Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort146Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT147: 2 bits; on all chips.
-  U8 spTreePort147() const;
+  VELMAR_NODISCARD U8 spTreePort147() const;
   /// Sets SP_TREE_PORT147.
   void spTreePort147Is(U8 value);
   /// Width of SP_TREE_PORT147 in bits.
@@ -240,10 +241,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT147 in the entry.
   U16 spTreePort147Offset() const;
   /// Whether the view has SP_TREE_PORT147.
-  bool isSpTreePort147Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort147Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT148: 2 bits; on all chips.
-  U8 spTreePort148() const;
+  VELMAR_NODISCARD U8 spTreePort148() const;
   /// Sets SP_TREE_PORT148.
   void spTreePort148Is(U8 value);
   /// Width of SP_TREE_PORT148 in bits.
@@ -251,10 +252,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT148 in the entry.
   U16 spTreePort148Offset() const;
   /// Whether the view has SP_TREE_PORT148.
-  bool isSpTreePort148Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort148Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT149: 2 bits; on all chips.
-  U8 spTreePort149() const;
+  VELMAR_NODISCARD U8 spTreePort149() const;
   /// Sets SP_TREE_PORT149.
   void spTreePort149Is(U8 value);
   /// Width of SP_TREE_PORT149 in bits.
@@ -262,10 +263,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT149 in the entry.
   U16 spTreePort149Offset() const;
   /// Whether the view has SP_TREE_PORT149.
-  bool isSpTreePort149Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort149Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT150: 2 bits; on all chips.
-  U8 spTreePort150() const;
+  VELMAR_NODISCARD U8 spTreePort150() const;
   /// Sets SP_TREE_PORT150.
   void spTreePort150Is(U8 value);
   /// Width of SP_TREE_PORT150 in bits.
@@ -273,10 +274,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT150 in the entry.
   U16 spTreePort150Offset() const;
   /// Whether the view has SP_TREE_PORT150.
-  bool isSpTreePort150Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort150Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT151: 2 bits; on all chips.
-  U8 spTreePort151() const;
+  VELMAR_NODISCARD U8 spTreePort151() const;
   /// Sets SP_TREE_PORT151.
   void spTreePort151Is(U8 value);
   /// Width of SP_TREE_PORT151 in bits.
@@ -284,10 +285,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT151 in the entry.
   U16 spTreePort151Offset() const;
   /// Whether the view has SP_TREE_PORT151.
-  bool isSpTreePort151Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort151Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT152: 2 bits; on all chips.
-  U8 spTreePort152() const;
+  VELMAR_NODISCARD U8 spTreePort152() const;
   /// Sets SP_TREE_PORT152.
   void spTreePort152Is(U8 value);
   /// Width of SP_TREE_PORT152 in bits.
@@ -295,10 +296,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT152 in the entry.
   U16 spTreePort152Offset() const;
   /// Whether the view has SP_TREE_PORT152.
-  bool isSpTreePort152Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort152Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT153: 2 bits; on all chips.
-  U8 spTreePort153() const;
+  VELMAR_NODISCARD U8 spTreePort153() const;
   /// Sets SP_TREE_PORT153.
   void spTreePort153Is(U8 value);
   /// Width of SP_TREE_PORT153 in bits.
@@ -306,10 +307,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT153 in the entry.
   U16 spTreePort153Offset() const;
   /// Whether the view has SP_TREE_PORT153.
-  bool isSpTreePort153Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort153Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT154: 2 bits; on all chips.
-  U8 spTreePort154() const;
+  VELMAR_NODISCARD U8 spTreePort154() const;
   /// Sets SP_TREE_PORT154.
   void spTreePort154Is(U8 value);
   /// Width of SP_TREE_PORT154 in bits.
@@ -317,10 +318,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT154 in the entry.
   U16 spTreePort154Offset() const;
   /// Whether the view has SP_TREE_PORT154.
-  bool isSpTreePort154Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort154Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT155: 2 bits; on all chips.
-  U8 spTreePort155() const;
+  VELMAR_NODISCARD U8 spTreePort155() const;
   /// Sets SP_TREE_PORT155.
   void spTreePort155Is(U8 value);
   /// Width of SP_TREE_PORT155 in bits.
@@ -328,10 +329,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT155 in the entry.
   U16 spTreePort155Offset() const;
   /// Whether the view has SP_TREE_PORT155.
-  bool isSpTreePort155Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort155Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT156: 2 bits; on all chips.
-  U8 spTreePort156() const;
+  VELMAR_NODISCARD U8 spTreePort156() const;
   /// Sets SP_TREE_PORT156.
   void spTreePort156Is(U8 value);
   /// Width of SP_TREE_PORT156 in bits.
@@ -339,10 +340,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT156 in the entry.
   U16 spTreePort156Offset() const;
   /// Whether the view has SP_TREE_PORT156.
-  bool isSpTreePort156Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort156Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT157: 2 bits; on all chips.
-  U8 spTreePort157() const;
+  VELMAR_NODISCARD U8 spTreePort157() const;
   /// Sets SP_TREE_PORT157.
   void spTreePort157Is(U8 value);
   /// Width of SP_TREE_PORT157 in bits.
@@ -350,10 +351,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT157 in the entry.
   U16 spTreePort157Offset() const;
   /// Whether the view has SP_TREE_PORT157.
-  bool isSpTreePort157Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort157Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT158: 2 bits; on all chips.
-  U8 spTreePort158() const;
+  VELMAR_NODISCARD U8 spTreePort158() const;
   /// Sets SP_TREE_PORT158.
   void spTreePort158Is(U8 value);
   /// Width of SP_TREE_PORT158 in bits.
@@ -361,10 +362,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT158 in the entry.
   U16 spTreePort158Offset() const;
   /// Whether the view has SP_TREE_PORT158.
-  bool isSpTreePort158Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort158Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT159: 2 bits; on all chips.
-  U8 spTreePort159() const;
+  VELMAR_NODISCARD U8 spTreePort159() const;
   /// Sets SP_TREE_PORT159.
   void spTreePort159Is(U8 value);
   /// Width of SP_TREE_PORT159 in bits.
@@ -372,10 +373,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT159 in the entry.
   U16 spTreePort159Offset() const;
   /// Whether the view has SP_TREE_PORT159.
-  bool isSpTreePort159Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort159Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT160: 2 bits; on all chips.
-  U8 spTreePort160() const;
+  VELMAR_NODISCARD U8 spTreePort160() const;
   /// Sets SP_TREE_PORT160.
   void spTreePort160Is(U8 value);
   /// Width of SP_TREE_PORT160 in bits.
@@ -383,10 +384,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT160 in the entry.
   U16 spTreePort160Offset() const;
   /// Whether the view has SP_TREE_PORT160.
-  bool isSpTreePort160Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort160Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT161: 2 bits; on all chips.
-  U8 spTreePort161() const;
+  VELMAR_NODISCARD U8 spTreePort161() const;
   /// Sets SP_TREE_PORT161.
   void spTreePort161Is(U8 value);
   /// Width of SP_TREE_PORT161 in bits.
@@ -394,10 +395,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT161 in the entry.
   U16 spTreePort161Offset() const;
   /// Whether the view has SP_TREE_PORT161.
-  bool isSpTreePort161Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort161Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT162: 2 bits; on all chips.
-  U8 spTreePort162() const;
+  VELMAR_NODISCARD U8 spTreePort162() const;
   /// Sets SP_TREE_PORT162.
   void spTreePort162Is(U8 value);
   /// Width of SP_TREE_PORT162 in bits.
@@ -405,10 +406,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT162 in the entry.
   U16 spTreePort162Offset() const;
   /// Whether the view has SP_TREE_PORT162.
-  bool isSpTreePort162Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort162Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT163: 2 bits; on all chips.
-  U8 spTreePort163() const;
+  VELMAR_NODISCARD U8 spTreePort163() const;
   /// Sets SP_TREE_PORT163.
   void spTreePort163Is(U8 value);
   /// Width of SP_TREE_PORT163 in bits.
@@ -416,10 +417,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT163 in the entry.
   U16 spTreePort163Offset() const;
   /// Whether the view has SP_TREE_PORT163.
-  bool isSpTreePort163Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort163Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT164: 2 bits; on all chips.
-  U8 spTreePort164() const;
+  VELMAR_NODISCARD U8 spTreePort164() const;
   /// Sets SP_TREE_PORT164.
   void spTreePort164Is(U8 value);
   /// Width of SP_TREE_PORT164 in bits.
@@ -427,10 +428,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT164 in the entry.
   U16 spTreePort164Offset() const;
   /// Whether the view has SP_TREE_PORT164.
-  bool isSpTreePort164Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort164Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT165: 2 bits; on all chips.
-  U8 spTreePort165() const;
+  VELMAR_NODISCARD U8 spTreePort165() const;
   /// Sets SP_TREE_PORT165.
   void spTreePort165Is(U8 value);
   /// Width of SP_TREE_PORT165 in bits.
@@ -438,10 +439,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT165 in the entry.
   U16 spTreePort165Offset() const;
   /// Whether the view has SP_TREE_PORT165.
-  bool isSpTreePort165Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort165Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT166: 2 bits; on all chips.
-  U8 spTreePort166() const;
+  VELMAR_NODISCARD U8 spTreePort166() const;
   /// Sets SP_TREE_PORT166.
   void spTreePort166Is(U8 value);
   /// Width of SP_TREE_PORT166 in bits.
@@ -449,10 +450,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT166 in the entry.
   U16 spTreePort166Offset() const;
   /// Whether the view has SP_TREE_PORT166.
-  bool isSpTreePort166Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort166Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT167: 2 bits; on all chips.
-  U8 spTreePort167() const;
+  VELMAR_NODISCARD U8 spTreePort167() const;
   /// Sets SP_TREE_PORT167.
   void spTreePort167Is(U8 value);
   /// Width of SP_TREE_PORT167 in bits.
@@ -460,10 +461,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT167 in the entry.
   U16 spTreePort167Offset() const;
   /// Whether the view has SP_TREE_PORT167.
-  bool isSpTreePort167Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort167Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT168: 2 bits; on all chips.
-  U8 spTreePort168() const;
+  VELMAR_NODISCARD U8 spTreePort168() const;
   /// Sets SP_TREE_PORT168.
   void spTreePort168Is(U8 value);
   /// Width of SP_TREE_PORT168 in bits.
@@ -471,10 +472,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT168 in the entry.
   U16 spTreePort168Offset() const;
   /// Whether the view has SP_TREE_PORT168.
-  bool isSpTreePort168Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort168Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT169: 2 bits; on all chips.
-  U8 spTreePort169() const;
+  VELMAR_NODISCARD U8 spTreePort169() const;
   /// Sets SP_TREE_PORT169.
   void spTreePort169Is(U8 value);
   /// Width of SP_TREE_PORT169 in bits.
@@ -482,10 +483,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT169 in the entry.
   U16 spTreePort169Offset() const;
   /// Whether the view has SP_TREE_PORT169.
-  bool isSpTreePort169Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort169Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT170: 2 bits; on all chips.
-  U8 spTreePort170() const;
+  VELMAR_NODISCARD U8 spTreePort170() const;
   /// Sets SP_TREE_PORT170.
   void spTreePort170Is(U8 value);
   /// Width of SP_TREE_PORT170 in bits.
@@ -493,10 +494,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT170 in the entry.
   U16 spTreePort170Offset() const;
   /// Whether the view has SP_TREE_PORT170.
-  bool isSpTreePort170Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort170Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT171: 2 bits; on all chips.
-  U8 spTreePort171() const;
+  VELMAR_NODISCARD U8 spTreePort171() const;
   /// Sets SP_TREE_PORT171.
   void spTreePort171Is(U8 value);
   /// Width of SP_TREE_PORT171 in bits.
@@ -504,10 +505,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT171 in the entry.
   U16 spTreePort171Offset() const;
   /// Whether the view has SP_TREE_PORT171.
-  bool isSpTreePort171Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort171Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT172: 2 bits; on all chips.
-  U8 spTreePort172() const;
+  VELMAR_NODISCARD U8 spTreePort172() const;
   /// Sets SP_TREE_PORT172.
   void spTreePort172Is(U8 value);
   /// Width of SP_TREE_PORT172 in bits.
@@ -515,10 +516,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT172 in the entry.
   U16 spTreePort172Offset() const;
   /// Whether the view has SP_TREE_PORT172.
-  bool isSpTreePort172Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort172Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT173: 2 bits; on all chips.
-  U8 spTreePort173() const;
+  VELMAR_NODISCARD U8 spTreePort173() const;
   /// Sets SP_TREE_PORT173.
   void spTreePort173Is(U8 value);
   /// Width of SP_TREE_PORT173 in bits.
@@ -526,10 +527,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT173 in the entry.
   U16 spTreePort173Offset() const;
   /// Whether the view has SP_TREE_PORT173.
-  bool isSpTreePort173Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort173Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT174: 2 bits; on all chips.
-  U8 spTreePort174() const;
+  VELMAR_NODISCARD U8 spTreePort174() const;
   /// Sets SP_TREE_PORT174.
   void spTreePort174Is(U8 value);
   /// Width of SP_TREE_PORT174 in bits.
@@ -537,10 +538,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT174 in the entry.
   U16 spTreePort174Offset() const;
   /// Whether the view has SP_TREE_PORT174.
-  bool isSpTreePort174Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort174Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT175: 2 bits; on all chips.
-  U8 spTreePort175() const;
+  VELMAR_NODISCARD U8 spTreePort175() const;
   /// Sets SP_TREE_PORT175.
   void spTreePort175Is(U8 value);
   /// Width of SP_TREE_PORT175 in bits.
@@ -548,10 +549,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT175 in the entry.
   U16 spTreePort175Offset() const;
   /// Whether the view has SP_TREE_PORT175.
-  bool isSpTreePort175Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort175Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT176: 2 bits; on all chips.
-  U8 spTreePort176() const;
+  VELMAR_NODISCARD U8 spTreePort176() const;
   /// Sets SP_TREE_PORT176.
   void spTreePort176Is(U8 value);
   /// Width of SP_TREE_PORT176 in bits.
@@ -559,10 +560,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT176 in the entry.
   U16 spTreePort176Offset() const;
   /// Whether the view has SP_TREE_PORT176.
-  bool isSpTreePort176Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort176Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT177: 2 bits; on all chips.
-  U8 spTreePort177() const;
+  VELMAR_NODISCARD U8 spTreePort177() const;
   /// Sets SP_TREE_PORT177.
   void spTreePort177Is(U8 value);
   /// Width of SP_TREE_PORT177 in bits.
@@ -570,10 +571,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT177 in the entry.
   U16 spTreePort177Offset() const;
   /// Whether the view has SP_TREE_PORT177.
-  bool isSpTreePort177Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort177Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT178: 2 bits; on all chips.
-  U8 spTreePort178() const;
+  VELMAR_NODISCARD U8 spTreePort178() const;
   /// Sets SP_TREE_PORT178.
   void spTreePort178Is(U8 value);
   /// Width of SP_TREE_PORT178 in bits.
@@ -581,10 +582,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT178 in the entry.
   U16 spTreePort178Offset() const;
   /// Whether the view has SP_TREE_PORT178.
-  bool isSpTreePort178Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort178Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT179: 2 bits; on all chips.
-  U8 spTreePort179() const;
+  VELMAR_NODISCARD U8 spTreePort179() const;
   /// Sets SP_TREE_PORT179.
   void spTreePort179Is(U8 value);
   /// Width of SP_TREE_PORT179 in bits.
@@ -592,10 +593,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT179 in the entry.
   U16 spTreePort179Offset() const;
   /// Whether the view has SP_TREE_PORT179.
-  bool isSpTreePort179Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort179Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT180: 2 bits; on all chips.
-  U8 spTreePort180() const;
+  VELMAR_NODISCARD U8 spTreePort180() const;
   /// Sets SP_TREE_PORT180.
   void spTreePort180Is(U8 value);
   /// Width of SP_TREE_PORT180 in bits.
@@ -603,10 +604,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT180 in the entry.
   U16 spTreePort180Offset() const;
   /// Whether the view has SP_TREE_PORT180.
-  bool isSpTreePort180Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort180Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT181: 2 bits; on all chips.
-  U8 spTreePort181() const;
+  VELMAR_NODISCARD U8 spTreePort181() const;
   /// Sets SP_TREE_PORT181.
   void spTreePort181Is(U8 value);
   /// Width of SP_TREE_PORT181 in bits.
@@ -614,10 +615,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT181 in the entry.
   U16 spTreePort181Offset() const;
   /// Whether the view has SP_TREE_PORT181.
-  bool isSpTreePort181Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort181Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT182: 2 bits; on all chips.
-  U8 spTreePort182() const;
+  VELMAR_NODISCARD U8 spTreePort182() const;
   /// Sets SP_TREE_PORT182.
   void spTreePort182Is(U8 value);
   /// Width of SP_TREE_PORT182 in bits.
@@ -625,10 +626,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT182 in the entry.
   U16 spTreePort182Offset() const;
   /// Whether the view has SP_TREE_PORT182.
-  bool isSpTreePort182Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort182Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT183: 2 bits; on all chips.
-  U8 spTreePort183() const;
+  VELMAR_NODISCARD U8 spTreePort183() const;
   /// Sets SP_TREE_PORT183.
   void spTreePort183Is(U8 value);
   /// Width of SP_TREE_PORT183 in bits.
@@ -636,10 +637,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT183 in the entry.
   U16 spTreePort183Offset() const;
   /// Whether the view has SP_TREE_PORT183.
-  bool isSpTreePort183Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort183Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT184: 2 bits; on all chips.
-  U8 spTreePort184() const;
+  VELMAR_NODISCARD U8 spTreePort184() const;
   /// Sets SP_TREE_PORT184.
   void spTreePort184Is(U8 value);
   /// Width of SP_TREE_PORT184 in bits.
@@ -647,10 +648,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT184 in the entry.
   U16 spTreePort184Offset() const;
   /// Whether the view has SP_TREE_PORT184.
-  bool isSpTreePort184Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort184Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT185: 2 bits; on all chips.
-  U8 spTreePort185() const;
+  VELMAR_NODISCARD U8 spTreePort185() const;
   /// Sets SP_TREE_PORT185.
   void spTreePort185Is(U8 value);
   /// Width of SP_TREE_PORT185 in bits.
@@ -658,10 +659,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT185 in the entry.
   U16 spTreePort185Offset() const;
   /// Whether the view has SP_TREE_PORT185.
-  bool isSpTreePort185Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort185Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT186: 2 bits; on all chips.
-  U8 spTreePort186() const;
+  VELMAR_NODISCARD U8 spTreePort186() const;
   /// Sets SP_TREE_PORT186.
   void spTreePort186Is(U8 value);
   /// Width of SP_TREE_PORT186 in bits.
@@ -669,10 +670,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT186 in the entry.
   U16 spTreePort186Offset() const;
   /// Whether the view has SP_TREE_PORT186.
-  bool isSpTreePort186Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort186Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT187: 2 bits; on all chips.
-  U8 spTreePort187() const;
+  VELMAR_NODISCARD U8 spTreePort187() const;
   /// Sets SP_TREE_PORT187.
   void spTreePort187Is(U8 value);
   /// Width of SP_TREE_PORT187 in bits.
@@ -680,10 +681,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT187 in the entry.
   U16 spTreePort187Offset() const;
   /// Whether the view has SP_TREE_PORT187.
-  bool isSpTreePort187Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort187Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT188: 2 bits; on all chips.
-  U8 spTreePort188() const;
+  VELMAR_NODISCARD U8 spTreePort188() const;
   /// Sets SP_TREE_PORT188.
   void spTreePort188Is(U8 value);
   /// Width of SP_TREE_PORT188 in bits.
@@ -691,10 +692,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT188 in the entry.
   U16 spTreePort188Offset() const;
   /// Whether the view has SP_TREE_PORT188.
-  bool isSpTreePort188Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort188Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT189: 2 bits; on all chips.
-  U8 spTreePort189() const;
+  VELMAR_NODISCARD U8 spTreePort189() const;
   /// Sets SP_TREE_PORT189.
   void spTreePort189Is(U8 value);
   /// Width of SP_TREE_PORT189 in bits.
@@ -702,10 +703,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT189 in the entry.
   U16 spTreePort189Offset() const;
   /// Whether the view has SP_TREE_PORT189.
-  bool isSpTreePort189Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort189Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT190: 2 bits; on all chips.
-  U8 spTreePort190() const;
+  VELMAR_NODISCARD U8 spTreePort190() const;
   /// Sets SP_TREE_PORT190.
   void spTreePort190Is(U8 value);
   /// Width of SP_TREE_PORT190 in bits.
@@ -713,10 +714,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT190 in the entry.
   U16 spTreePort190Offset() const;
   /// Whether the view has SP_TREE_PORT190.
-  bool isSpTreePort190Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort190Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT191: 2 bits; on all chips.
-  U8 spTreePort191() const;
+  VELMAR_NODISCARD U8 spTreePort191() const;
   /// Sets SP_TREE_PORT191.
   void spTreePort191Is(U8 value);
   /// Width of SP_TREE_PORT191 in bits.
@@ -724,10 +725,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT191 in the entry.
   U16 spTreePort191Offset() const;
   /// Whether the view has SP_TREE_PORT191.
-  bool isSpTreePort191Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort191Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT192: 2 bits; on all chips.
-  U8 spTreePort192() const;
+  VELMAR_NODISCARD U8 spTreePort192() const;
   /// Sets SP_TREE_PORT192.
   void spTreePort192Is(U8 value);
   /// Width of SP_TREE_PORT192 in bits.
@@ -735,10 +736,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT192 in the entry.
   U16 spTreePort192Offset() const;
   /// Whether the view has SP_TREE_PORT192.
-  bool isSpTreePort192Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort192Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT193: 2 bits; on all chips.
-  U8 spTreePort193() const;
+  VELMAR_NODISCARD U8 spTreePort193() const;
   /// Sets SP_TREE_PORT193.
   void spTreePort193Is(U8 value);
   /// Width of SP_TREE_PORT193 in bits.
@@ -746,10 +747,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT193 in the entry.
   U16 spTreePort193Offset() const;
   /// Whether the view has SP_TREE_PORT193.
-  bool isSpTreePort193Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort193Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT194: 2 bits; on all chips.
-  U8 spTreePort194() const;
+  VELMAR_NODISCARD U8 spTreePort194() const;
   /// Sets SP_TREE_PORT194.
   void spTreePort194Is(U8 value);
   /// Width of SP_TREE_PORT194 in bits.
@@ -757,10 +758,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT194 in the entry.
   U16 spTreePort194Offset() const;
   /// Whether the view has SP_TREE_PORT194.
-  bool isSpTreePort194Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort194Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT195: 2 bits; on all chips.
-  U8 spTreePort195() const;
+  VELMAR_NODISCARD U8 spTreePort195() const;
   /// Sets SP_TREE_PORT195.
   void spTreePort195Is(U8 value);
   /// Width of SP_TREE_PORT195 in bits.
@@ -768,10 +769,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT195 in the entry.
   U16 spTreePort195Offset() const;
   /// Whether the view has SP_TREE_PORT195.
-  bool isSpTreePort195Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort195Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT196: 2 bits; on all chips.
-  U8 spTreePort196() const;
+  VELMAR_NODISCARD U8 spTreePort196() const;
   /// Sets SP_TREE_PORT196.
   void spTreePort196Is(U8 value);
   /// Width of SP_TREE_PORT196 in bits.
@@ -779,10 +780,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT196 in the entry.
   U16 spTreePort196Offset() const;
   /// Whether the view has SP_TREE_PORT196.
-  bool isSpTreePort196Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort196Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT197: 2 bits; on all chips.
-  U8 spTreePort197() const;
+  VELMAR_NODISCARD U8 spTreePort197() const;
   /// Sets SP_TREE_PORT197.
   void spTreePort197Is(U8 value);
   /// Width of SP_TREE_PORT197 in bits.
@@ -790,10 +791,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT197 in the entry.
   U16 spTreePort197Offset() const;
   /// Whether the view has SP_TREE_PORT197.
-  bool isSpTreePort197Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort197Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT198: 2 bits; on all chips.
-  U8 spTreePort198() const;
+  VELMAR_NODISCARD U8 spTreePort198() const;
   /// Sets SP_TREE_PORT198.
   void spTreePort198Is(U8 value);
   /// Width of SP_TREE_PORT198 in bits.
@@ -801,10 +802,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT198 in the entry.
   U16 spTreePort198Offset() const;
   /// Whether the view has SP_TREE_PORT198.
-  bool isSpTreePort198Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort198Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT199: 2 bits; on all chips.
-  U8 spTreePort199() const;
+  VELMAR_NODISCARD U8 spTreePort199() const;
   /// Sets SP_TREE_PORT199.
   void spTreePort199Is(U8 value);
   /// Width of SP_TREE_PORT199 in bits.
@@ -812,10 +813,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT199 in the entry.
   U16 spTreePort199Offset() const;
   /// Whether the view has SP_TREE_PORT199.
-  bool isSpTreePort199Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort199Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT200: 2 bits; on all chips.
-  U8 spTreePort200() const;
+  VELMAR_NODISCARD U8 spTreePort200() const;
   /// Sets SP_TREE_PORT200.
   void spTreePort200Is(U8 value);
   /// Width of SP_TREE_PORT200 in bits.
@@ -823,10 +824,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT200 in the entry.
   U16 spTreePort200Offset() const;
   /// Whether the view has SP_TREE_PORT200.
-  bool isSpTreePort200Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort200Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT201: 2 bits; on all chips.
-  U8 spTreePort201() const;
+  VELMAR_NODISCARD U8 spTreePort201() const;
   /// Sets SP_TREE_PORT201.
   void spTreePort201Is(U8 value);
   /// Width of SP_TREE_PORT201 in bits.
@@ -834,10 +835,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT201 in the entry.
   U16 spTreePort201Offset() const;
   /// Whether the view has SP_TREE_PORT201.
-  bool isSpTreePort201Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort201Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT202: 2 bits; on all chips.
-  U8 spTreePort202() const;
+  VELMAR_NODISCARD U8 spTreePort202() const;
   /// Sets SP_TREE_PORT202.
   void spTreePort202Is(U8 value);
   /// Width of SP_TREE_PORT202 in bits.
@@ -845,10 +846,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT202 in the entry.
   U16 spTreePort202Offset() const;
   /// Whether the view has SP_TREE_PORT202.
-  bool isSpTreePort202Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort202Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT203: 2 bits; on all chips.
-  U8 spTreePort203() const;
+  VELMAR_NODISCARD U8 spTreePort203() const;
   /// Sets SP_TREE_PORT203.
   void spTreePort203Is(U8 value);
   /// Width of SP_TREE_PORT203 in bits.
@@ -856,10 +857,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT203 in the entry.
   U16 spTreePort203Offset() const;
   /// Whether the view has SP_TREE_PORT203.
-  bool isSpTreePort203Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort203Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT204: 2 bits; on all chips.
-  U8 spTreePort204() const;
+  VELMAR_NODISCARD U8 spTreePort204() const;
   /// Sets SP_TREE_PORT204.
   void spTreePort204Is(U8 value);
   /// Width of SP_TREE_PORT204 in bits.
@@ -867,10 +868,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT204 in the entry.
   U16 spTreePort204Offset() const;
   /// Whether the view has SP_TREE_PORT204.
-  bool isSpTreePort204Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort204Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT205: 2 bits; on all chips.
-  U8 spTreePort205() const;
+  VELMAR_NODISCARD U8 spTreePort205() const;
   /// Sets SP_TREE_PORT205.
   void spTreePort205Is(U8 value);
   /// Width of SP_TREE_PORT205 in bits.
@@ -878,10 +879,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT205 in the entry.
   U16 spTreePort205Offset() const;
   /// Whether the view has SP_TREE_PORT205.
-  bool isSpTreePort205Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort205Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT206: 2 bits; on all chips.
-  U8 spTreePort206() const;
+  VELMAR_NODISCARD U8 spTreePort206() const;
   /// Sets SP_TREE_PORT206.
   void spTreePort206Is(U8 value);
   /// Width of SP_TREE_PORT206 in bits.
@@ -889,10 +890,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT206 in the entry.
   U16 spTreePort206Offset() const;
   /// Whether the view has SP_TREE_PORT206.
-  bool isSpTreePort206Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort206Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT207: 2 bits; on all chips.
-  U8 spTreePort207() const;
+  VELMAR_NODISCARD U8 spTreePort207() const;
   /// Sets SP_TREE_PORT207.
   void spTreePort207Is(U8 value);
   /// Width of SP_TREE_PORT207 in bits.
@@ -900,10 +901,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT207 in the entry.
   U16 spTreePort207Offset() const;
   /// Whether the view has SP_TREE_PORT207.
-  bool isSpTreePort207Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort207Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT208: 2 bits; on all chips.
-  U8 spTreePort208() const;
+  VELMAR_NODISCARD U8 spTreePort208() const;
   /// Sets SP_TREE_PORT208.
   void spTreePort208Is(U8 value);
   /// Width of SP_TREE_PORT208 in bits.
@@ -911,10 +912,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT208 in the entry.
   U16 spTreePort208Offset() const;
   /// Whether the view has SP_TREE_PORT208.
-  bool isSpTreePort208Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort208Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT209: 2 bits; on all chips.
-  U8 spTreePort209() const;
+  VELMAR_NODISCARD U8 spTreePort209() const;
   /// Sets SP_TREE_PORT209.
   void spTreePort209Is(U8 value);
   /// Width of SP_TREE_PORT209 in bits.
@@ -922,10 +923,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT209 in the entry.
   U16 spTreePort209Offset() const;
   /// Whether the view has SP_TREE_PORT209.
-  bool isSpTreePort209Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort209Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT210: 2 bits; on all chips.
-  U8 spTreePort210() const;
+  VELMAR_NODISCARD U8 spTreePort210() const;
   /// Sets SP_TREE_PORT210.
   void spTreePort210Is(U8 value);
   /// Width of SP_TREE_PORT210 in bits.
@@ -933,10 +934,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT210 in the entry.
   U16 spTreePort210Offset() const;
   /// Whether the view has SP_TREE_PORT210.
-  bool isSpTreePort210Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort210Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT211: 2 bits; on all chips.
-  U8 spTreePort211() const;
+  VELMAR_NODISCARD U8 spTreePort211() const;
   /// Sets SP_TREE_PORT211.
   void spTreePort211Is(U8 value);
   /// Width of SP_TREE_PORT211 in bits.
@@ -944,10 +945,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT211 in the entry.
   U16 spTreePort211Offset() const;
   /// Whether the view has SP_TREE_PORT211.
-  bool isSpTreePort211Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort211Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT212: 2 bits; on all chips.
-  U8 spTreePort212() const;
+  VELMAR_NODISCARD U8 spTreePort212() const;
   /// Sets SP_TREE_PORT212.
   void spTreePort212Is(U8 value);
   /// Width of SP_TREE_PORT212 in bits.
@@ -955,10 +956,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT212 in the entry.
   U16 spTreePort212Offset() const;
   /// Whether the view has SP_TREE_PORT212.
-  bool isSpTreePort212Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort212Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT213: 2 bits; on all chips.
-  U8 spTreePort213() const;
+  VELMAR_NODISCARD U8 spTreePort213() const;
   /// Sets SP_TREE_PORT213.
   void spTreePort213Is(U8 value);
   /// Width of SP_TREE_PORT213 in bits.
@@ -966,10 +967,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT213 in the entry.
   U16 spTreePort213Offset() const;
   /// Whether the view has SP_TREE_PORT213.
-  bool isSpTreePort213Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort213Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT214: 2 bits; on all chips.
-  U8 spTreePort214() const;
+  VELMAR_NODISCARD U8 spTreePort214() const;
   /// Sets SP_TREE_PORT214.
   void spTreePort214Is(U8 value);
   /// Width of SP_TREE_PORT214 in bits.
@@ -977,10 +978,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT214 in the entry.
   U16 spTreePort214Offset() const;
   /// Whether the view has SP_TREE_PORT214.
-  bool isSpTreePort214Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort214Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT215: 2 bits; on all chips.
-  U8 spTreePort215() const;
+  VELMAR_NODISCARD U8 spTreePort215() const;
   /// Sets SP_TREE_PORT215.
   void spTreePort215Is(U8 value);
   /// Width of SP_TREE_PORT215 in bits.
@@ -988,10 +989,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT215 in the entry.
   U16 spTreePort215Offset() const;
   /// Whether the view has SP_TREE_PORT215.
-  bool isSpTreePort215Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort215Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT216: 2 bits; on all chips.
-  U8 spTreePort216() const;
+  VELMAR_NODISCARD U8 spTreePort216() const;
   /// Sets SP_TREE_PORT216.
   void spTreePort216Is(U8 value);
   /// Width of SP_TREE_PORT216 in bits.
@@ -999,10 +1000,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT216 in the entry.
   U16 spTreePort216Offset() const;
   /// Whether the view has SP_TREE_PORT216.
-  bool isSpTreePort216Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort216Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT217: 2 bits; on all chips.
-  U8 spTreePort217() const;
+  VELMAR_NODISCARD U8 spTreePort217() const;
   /// Sets SP_TREE_PORT217.
   void spTreePort217Is(U8 value);
   /// Width of SP_TREE_PORT217 in bits.
@@ -1010,10 +1011,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT217 in the entry.
   U16 spTreePort217Offset() const;
   /// Whether the view has SP_TREE_PORT217.
-  bool isSpTreePort217Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort217Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT218: 2 bits; on all chips.
-  U8 spTreePort218() const;
+  VELMAR_NODISCARD U8 spTreePort218() const;
   /// Sets SP_TREE_PORT218.
   void spTreePort218Is(U8 value);
   /// Width of SP_TREE_PORT218 in bits.
@@ -1021,10 +1022,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT218 in the entry.
   U16 spTreePort218Offset() const;
   /// Whether the view has SP_TREE_PORT218.
-  bool isSpTreePort218Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort218Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT219: 2 bits; on all chips.
-  U8 spTreePort219() const;
+  VELMAR_NODISCARD U8 spTreePort219() const;
   /// Sets SP_TREE_PORT219.
   void spTreePort219Is(U8 value);
   /// Width of SP_TREE_PORT219 in bits.
@@ -1032,10 +1033,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT219 in the entry.
   U16 spTreePort219Offset() const;
   /// Whether the view has SP_TREE_PORT219.
-  bool isSpTreePort219Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort219Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT220: 2 bits; on all chips.
-  U8 spTreePort220() const;
+  VELMAR_NODISCARD U8 spTreePort220() const;
   /// Sets SP_TREE_PORT220.
   void spTreePort220Is(U8 value);
   /// Width of SP_TREE_PORT220 in bits.
@@ -1043,10 +1044,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT220 in the entry.
   U16 spTreePort220Offset() const;
   /// Whether the view has SP_TREE_PORT220.
-  bool isSpTreePort220Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort220Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT221: 2 bits; on all chips.
-  U8 spTreePort221() const;
+  VELMAR_NODISCARD U8 spTreePort221() const;
   /// Sets SP_TREE_PORT221.
   void spTreePort221Is(U8 value);
   /// Width of SP_TREE_PORT221 in bits.
@@ -1054,10 +1055,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT221 in the entry.
   U16 spTreePort221Offset() const;
   /// Whether the view has SP_TREE_PORT221.
-  bool isSpTreePort221Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort221Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT222: 2 bits; on all chips.
-  U8 spTreePort222() const;
+  VELMAR_NODISCARD U8 spTreePort222() const;
   /// Sets SP_TREE_PORT222.
   void spTreePort222Is(U8 value);
   /// Width of SP_TREE_PORT222 in bits.
@@ -1065,10 +1066,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT222 in the entry.
   U16 spTreePort222Offset() const;
   /// Whether the view has SP_TREE_PORT222.
-  bool isSpTreePort222Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort222Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT223: 2 bits; on all chips.
-  U8 spTreePort223() const;
+  VELMAR_NODISCARD U8 spTreePort223() const;
   /// Sets SP_TREE_PORT223.
   void spTreePort223Is(U8 value);
   /// Width of SP_TREE_PORT223 in bits.
@@ -1076,10 +1077,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT223 in the entry.
   U16 spTreePort223Offset() const;
   /// Whether the view has SP_TREE_PORT223.
-  bool isSpTreePort223Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort223Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT224: 2 bits; on all chips.
-  U8 spTreePort224() const;
+  VELMAR_NODISCARD U8 spTreePort224() const;
   /// Sets SP_TREE_PORT224.
   void spTreePort224Is(U8 value);
   /// Width of SP_TREE_PORT224 in bits.
@@ -1087,10 +1088,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT224 in the entry.
   U16 spTreePort224Offset() const;
   /// Whether the view has SP_TREE_PORT224.
-  bool isSpTreePort224Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort224Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT225: 2 bits; on all chips.
-  U8 spTreePort225() const;
+  VELMAR_NODISCARD U8 spTreePort225() const;
   /// Sets SP_TREE_PORT225.
   void spTreePort225Is(U8 value);
   /// Width of SP_TREE_PORT225 in bits.
@@ -1098,10 +1099,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT225 in the entry.
   U16 spTreePort225Offset() const;
   /// Whether the view has SP_TREE_PORT225.
-  bool isSpTreePort225Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort225Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT226: 2 bits; on all chips.
-  U8 spTreePort226() const;
+  VELMAR_NODISCARD U8 spTreePort226() const;
   /// Sets SP_TREE_PORT226.
   void spTreePort226Is(U8 value);
   /// Width of SP_TREE_PORT226 in bits.
@@ -1109,10 +1110,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT226 in the entry.
   U16 spTreePort226Offset() const;
   /// Whether the view has SP_TREE_PORT226.
-  bool isSpTreePort226Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort226Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT227: 2 bits; on all chips.
-  U8 spTreePort227() const;
+  VELMAR_NODISCARD U8 spTreePort227() const;
   /// Sets SP_TREE_PORT227.
   void spTreePort227Is(U8 value);
   /// Width of SP_TREE_PORT227 in bits.
@@ -1120,10 +1121,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT227 in the entry.
   U16 spTreePort227Offset() const;
   /// Whether the view has SP_TREE_PORT227.
-  bool isSpTreePort227Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort227Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT228: 2 bits; on all chips.
-  U8 spTreePort228() const;
+  VELMAR_NODISCARD U8 spTreePort228() const;
   /// Sets SP_TREE_PORT228.
   void spTreePort228Is(U8 value);
   /// Width of SP_TREE_PORT228 in bits.
@@ -1131,10 +1132,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT228 in the entry.
   U16 spTreePort228Offset() const;
   /// Whether the view has SP_TREE_PORT228.
-  bool isSpTreePort228Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort228Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT229: 2 bits; on all chips.
-  U8 spTreePort229() const;
+  VELMAR_NODISCARD U8 spTreePort229() const;
   /// Sets SP_TREE_PORT229.
   void spTreePort229Is(U8 value);
   /// Width of SP_TREE_PORT229 in bits.
@@ -1142,10 +1143,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT229 in the entry.
   U16 spTreePort229Offset() const;
   /// Whether the view has SP_TREE_PORT229.
-  bool isSpTreePort229Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort229Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT230: 2 bits; on all chips.
-  U8 spTreePort230() const;
+  VELMAR_NODISCARD U8 spTreePort230() const;
   /// Sets SP_TREE_PORT230.
   void spTreePort230Is(U8 value);
   /// Width of SP_TREE_PORT230 in bits.
@@ -1153,10 +1154,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT230 in the entry.
   U16 spTreePort230Offset() const;
   /// Whether the view has SP_TREE_PORT230.
-  bool isSpTreePort230Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort230Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT231: 2 bits; on all chips.
-  U8 spTreePort231() const;
+  VELMAR_NODISCARD U8 spTreePort231() const;
   /// Sets SP_TREE_PORT231.
   void spTreePort231Is(U8 value);
   /// Width of SP_TREE_PORT231 in bits.
@@ -1164,10 +1165,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT231 in the entry.
   U16 spTreePort231Offset() const;
   /// Whether the view has SP_TREE_PORT231.
-  bool isSpTreePort231Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort231Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT232: 2 bits; on all chips.
-  U8 spTreePort232() const;
+  VELMAR_NODISCARD U8 spTreePort232() const;
   /// Sets SP_TREE_PORT232.
   void spTreePort232Is(U8 value);
   /// Width of SP_TREE_PORT232 in bits.
@@ -1175,10 +1176,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT232 in the entry.
   U16 spTreePort232Offset() const;
   /// Whether the view has SP_TREE_PORT232.
-  bool isSpTreePort232Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort232Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT233: 2 bits; on all chips.
-  U8 spTreePort233() const;
+  VELMAR_NODISCARD U8 spTreePort233() const;
   /// Sets SP_TREE_PORT233.
   void spTreePort233Is(U8 value);
   /// Width of SP_TREE_PORT233 in bits.
@@ -1186,10 +1187,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT233 in the entry.
   U16 spTreePort233Offset() const;
   /// Whether the view has SP_TREE_PORT233.
-  bool isSpTreePort233Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort233Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT234: 2 bits; on all chips.
-  U8 spTreePort234() const;
+  VELMAR_NODISCARD U8 spTreePort234() const;
   /// Sets SP_TREE_PORT234.
   void spTreePort234Is(U8 value);
   /// Width of SP_TREE_PORT234 in bits.
@@ -1197,10 +1198,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT234 in the entry.
   U16 spTreePort234Offset() const;
   /// Whether the view has SP_TREE_PORT234.
-  bool isSpTreePort234Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort234Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT235: 2 bits; on all chips.
-  U8 spTreePort235() const;
+  VELMAR_NODISCARD U8 spTreePort235() const;
   /// Sets SP_TREE_PORT235.
   void spTreePort235Is(U8 value);
   /// Width of SP_TREE_PORT235 in bits.
@@ -1208,10 +1209,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT235 in the entry.
   U16 spTreePort235Offset() const;
   /// Whether the view has SP_TREE_PORT235.
-  bool isSpTreePort235Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort235Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT236: 2 bits; on all chips.
-  U8 spTreePort236() const;
+  VELMAR_NODISCARD U8 spTreePort236() const;
   /// Sets SP_TREE_PORT236.
   void spTreePort236Is(U8 value);
   /// Width of SP_TREE_PORT236 in bits.
@@ -1219,10 +1220,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT236 in the entry.
   U16 spTreePort236Offset() const;
   /// Whether the view has SP_TREE_PORT236.
-  bool isSpTreePort236Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort236Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT237: 2 bits; on all chips.
-  U8 spTreePort237() const;
+  VELMAR_NODISCARD U8 spTreePort237() const;
   /// Sets SP_TREE_PORT237.
   void spTreePort237Is(U8 value);
   /// Width of SP_TREE_PORT237 in bits.
@@ -1230,10 +1231,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT237 in the entry.
   U16 spTreePort237Offset() const;
   /// Whether the view has SP_TREE_PORT237.
-  bool isSpTreePort237Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort237Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT238: 2 bits; on all chips.
-  U8 spTreePort238() const;
+  VELMAR_NODISCARD U8 spTreePort238() const;
   /// Sets SP_TREE_PORT238.
   void spTreePort238Is(U8 value);
   /// Width of SP_TREE_PORT238 in bits.
@@ -1241,10 +1242,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT238 in the entry.
   U16 spTreePort238Offset() const;
   /// Whether the view has SP_TREE_PORT238.
-  bool isSpTreePort238Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort238Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT239: 2 bits; on all chips.
-  U8 spTreePort239() const;
+  VELMAR_NODISCARD U8 spTreePort239() const;
   /// Sets SP_TREE_PORT239.
   void spTreePort239Is(U8 value);
   /// Width of SP_TREE_PORT239 in bits.
@@ -1252,10 +1253,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT239 in the entry.
   U16 spTreePort239Offset() const;
   /// Whether the view has SP_TREE_PORT239.
-  bool isSpTreePort239Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort239Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT240: 2 bits; on all chips.
-  U8 spTreePort240() const;
+  VELMAR_NODISCARD U8 spTreePort240() const;
   /// Sets SP_TREE_PORT240.
   void spTreePort240Is(U8 value);
   /// Width of SP_TREE_PORT240 in bits.
@@ -1263,10 +1264,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT240 in the entry.
   U16 spTreePort240Offset() const;
   /// Whether the view has SP_TREE_PORT240.
-  bool isSpTreePort240Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort240Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT241: 2 bits; on all chips.
-  U8 spTreePort241() const;
+  VELMAR_NODISCARD U8 spTreePort241() const;
   /// Sets SP_TREE_PORT241.
   void spTreePort241Is(U8 value);
   /// Width of SP_TREE_PORT241 in bits.
@@ -1274,10 +1275,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT241 in the entry.
   U16 spTreePort241Offset() const;
   /// Whether the view has SP_TREE_PORT241.
-  bool isSpTreePort241Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort241Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT242: 2 bits; on all chips.
-  U8 spTreePort242() const;
+  VELMAR_NODISCARD U8 spTreePort242() const;
   /// Sets SP_TREE_PORT242.
   void spTreePort242Is(U8 value);
   /// Width of SP_TREE_PORT242 in bits.
@@ -1285,10 +1286,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT242 in the entry.
   U16 spTreePort242Offset() const;
   /// Whether the view has SP_TREE_PORT242.
-  bool isSpTreePort242Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort242Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT243: 2 bits; on all chips.
-  U8 spTreePort243() const;
+  VELMAR_NODISCARD U8 spTreePort243() const;
   /// Sets SP_TREE_PORT243.
   void spTreePort243Is(U8 value);
   /// Width of SP_TREE_PORT243 in bits.
@@ -1296,10 +1297,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT243 in the entry.
   U16 spTreePort243Offset() const;
   /// Whether the view has SP_TREE_PORT243.
-  bool isSpTreePort243Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort243Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT244: 2 bits; on all chips.
-  U8 spTreePort244() const;
+  VELMAR_NODISCARD U8 spTreePort244() const;
   /// Sets SP_TREE_PORT244.
   void spTreePort244Is(U8 value);
   /// Width of SP_TREE_PORT244 in bits.
@@ -1307,10 +1308,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT244 in the entry.
   U16 spTreePort244Offset() const;
   /// Whether the view has SP_TREE_PORT244.
-  bool isSpTreePort244Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort244Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT245: 2 bits; on all chips.
-  U8 spTreePort245() const;
+  VELMAR_NODISCARD U8 spTreePort245() const;
   /// Sets SP_TREE_PORT245.
   void spTreePort245Is(U8 value);
   /// Width of SP_TREE_PORT245 in bits.
@@ -1318,10 +1319,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT245 in the entry.
   U16 spTreePort245Offset() const;
   /// Whether the view has SP_TREE_PORT245.
-  bool isSpTreePort245Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort245Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT246: 2 bits; on all chips.
-  U8 spTreePort246() const;
+  VELMAR_NODISCARD U8 spTreePort246() const;
   /// Sets SP_TREE_PORT246.
   void spTreePort246Is(U8 value);
   /// Width of SP_TREE_PORT246 in bits.
@@ -1329,10 +1330,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT246 in the entry.
   U16 spTreePort246Offset() const;
   /// Whether the view has SP_TREE_PORT246.
-  bool isSpTreePort246Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort246Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT247: 2 bits; on all chips.
-  U8 spTreePort247() const;
+  VELMAR_NODISCARD U8 spTreePort247() const;
   /// Sets SP_TREE_PORT247.
   void spTreePort247Is(U8 value);
   /// Width of SP_TREE_PORT247 in bits.
@@ -1340,10 +1341,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT247 in the entry.
   U16 spTreePort247Offset() const;
   /// Whether the view has SP_TREE_PORT247.
-  bool isSpTreePort247Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort247Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT248: 2 bits; on all chips.
-  U8 spTreePort248() const;
+  VELMAR_NODISCARD U8 spTreePort248() const;
   /// Sets SP_TREE_PORT248.
   void spTreePort248Is(U8 value);
   /// Width of SP_TREE_PORT248 in bits.
@@ -1351,10 +1352,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT248 in the entry.
   U16 spTreePort248Offset() const;
   /// Whether the view has SP_TREE_PORT248.
-  bool isSpTreePort248Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort248Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT249: 2 bits; on all chips.
-  U8 spTreePort249() const;
+  VELMAR_NODISCARD U8 spTreePort249() const;
   /// Sets SP_TREE_PORT249.
   void spTreePort249Is(U8 value);
   /// Width of SP_TREE_PORT249 in bits.
@@ -1362,10 +1363,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT249 in the entry.
   U16 spTreePort249Offset() const;
   /// Whether the view has SP_TREE_PORT249.
-  bool isSpTreePort249Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort249Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT250: 2 bits; on all chips.
-  U8 spTreePort250() const;
+  VELMAR_NODISCARD U8 spTreePort250() const;
   /// Sets SP_TREE_PORT250.
   void spTreePort250Is(U8 value);
   /// Width of SP_TREE_PORT250 in bits.
@@ -1373,10 +1374,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT250 in the entry.
   U16 spTreePort250Offset() const;
   /// Whether the view has SP_TREE_PORT250.
-  bool isSpTreePort250Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort250Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT251: 2 bits; on all chips.
-  U8 spTreePort251() const;
+  VELMAR_NODISCARD U8 spTreePort251() const;
   /// Sets SP_TREE_PORT251.
   void spTreePort251Is(U8 value);
   /// Width of SP_TREE_PORT251 in bits.
@@ -1384,10 +1385,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT251 in the entry.
   U16 spTreePort251Offset() const;
   /// Whether the view has SP_TREE_PORT251.
-  bool isSpTreePort251Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort251Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT252: 2 bits; on all chips.
-  U8 spTreePort252() const;
+  VELMAR_NODISCARD U8 spTreePort252() const;
   /// Sets SP_TREE_PORT252.
   void spTreePort252Is(U8 value);
   /// Width of SP_TREE_PORT252 in bits.
@@ -1395,10 +1396,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT252 in the entry.
   U16 spTreePort252Offset() const;
   /// Whether the view has SP_TREE_PORT252.
-  bool isSpTreePort252Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort252Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT253: 2 bits; on all chips.
-  U8 spTreePort253() const;
+  VELMAR_NODISCARD U8 spTreePort253() const;
   /// Sets SP_TREE_PORT253.
   void spTreePort253Is(U8 value);
   /// Width of SP_TREE_PORT253 in bits.
@@ -1406,10 +1407,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT253 in the entry.
   U16 spTreePort253Offset() const;
   /// Whether the view has SP_TREE_PORT253.
-  bool isSpTreePort253Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort253Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT254: 2 bits; on all chips.
-  U8 spTreePort254() const;
+  VELMAR_NODISCARD U8 spTreePort254() const;
   /// Sets SP_TREE_PORT254.
   void spTreePort254Is(U8 value);
   /// Width of SP_TREE_PORT254 in bits.
@@ -1417,10 +1418,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT254 in the entry.
   U16 spTreePort254Offset() const;
   /// Whether the view has SP_TREE_PORT254.
-  bool isSpTreePort254Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort254Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT255: 2 bits; on all chips.
-  U8 spTreePort255() const;
+  VELMAR_NODISCARD U8 spTreePort255() const;
   /// Sets SP_TREE_PORT255.
   void spTreePort255Is(U8 value);
   /// Width of SP_TREE_PORT255 in bits.
@@ -1428,10 +1429,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT255 in the entry.
   U16 spTreePort255Offset() const;
   /// Whether the view has SP_TREE_PORT255.
-  bool isSpTreePort255Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort255Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT256: 2 bits; on all chips.
-  U8 spTreePort256() const;
+  VELMAR_NODISCARD U8 spTreePort256() const;
   /// Sets SP_TREE_PORT256.
   void spTreePort256Is(U8 value);
   /// Width of SP_TREE_PORT256 in bits.
@@ -1439,10 +1440,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT256 in the entry.
   U16 spTreePort256Offset() const;
   /// Whether the view has SP_TREE_PORT256.
-  bool isSpTreePort256Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort256Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT257: 2 bits; on all chips.
-  U8 spTreePort257() const;
+  VELMAR_NODISCARD U8 spTreePort257() const;
   /// Sets SP_TREE_PORT257.
   void spTreePort257Is(U8 value);
   /// Width of SP_TREE_PORT257 in bits.
@@ -1450,10 +1451,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT257 in the entry.
   U16 spTreePort257Offset() const;
   /// Whether the view has SP_TREE_PORT257.
-  bool isSpTreePort257Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort257Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT258: 2 bits; on all chips.
-  U8 spTreePort258() const;
+  VELMAR_NODISCARD U8 spTreePort258() const;
   /// Sets SP_TREE_PORT258.
   void spTreePort258Is(U8 value);
   /// Width of SP_TREE_PORT258 in bits.
@@ -1461,10 +1462,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT258 in the entry.
   U16 spTreePort258Offset() const;
   /// Whether the view has SP_TREE_PORT258.
-  bool isSpTreePort258Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort258Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT259: 2 bits; on all chips.
-  U8 spTreePort259() const;
+  VELMAR_NODISCARD U8 spTreePort259() const;
   /// Sets SP_TREE_PORT259.
   void spTreePort259Is(U8 value);
   /// Width of SP_TREE_PORT259 in bits.
@@ -1472,10 +1473,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT259 in the entry.
   U16 spTreePort259Offset() const;
   /// Whether the view has SP_TREE_PORT259.
-  bool isSpTreePort259Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort259Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT260: 2 bits; on all chips.
-  U8 spTreePort260() const;
+  VELMAR_NODISCARD U8 spTreePort260() const;
   /// Sets SP_TREE_PORT260.
   void spTreePort260Is(U8 value);
   /// Width of SP_TREE_PORT260 in bits.
@@ -1483,10 +1484,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT260 in the entry.
   U16 spTreePort260Offset() const;
   /// Whether the view has SP_TREE_PORT260.
-  bool isSpTreePort260Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort260Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT261: 2 bits; on all chips.
-  U8 spTreePort261() const;
+  VELMAR_NODISCARD U8 spTreePort261() const;
   /// Sets SP_TREE_PORT261.
   void spTreePort261Is(U8 value);
   /// Width of SP_TREE_PORT261 in bits.
@@ -1494,10 +1495,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT261 in the entry.
   U16 spTreePort261Offset() const;
   /// Whether the view has SP_TREE_PORT261.
-  bool isSpTreePort261Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort261Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT262: 2 bits; on all chips.
-  U8 spTreePort262() const;
+  VELMAR_NODISCARD U8 spTreePort262() const;
   /// Sets SP_TREE_PORT262.
   void spTreePort262Is(U8 value);
   /// Width of SP_TREE_PORT262 in bits.
@@ -1505,10 +1506,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT262 in the entry.
   U16 spTreePort262Offset() const;
   /// Whether the view has SP_TREE_PORT262.
-  bool isSpTreePort262Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort262Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT263: 2 bits; on all chips.
-  U8 spTreePort263() const;
+  VELMAR_NODISCARD U8 spTreePort263() const;
   /// Sets SP_TREE_PORT263.
   void spTreePort263Is(U8 value);
   /// Width of SP_TREE_PORT263 in bits.
@@ -1516,10 +1517,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT263 in the entry.
   U16 spTreePort263Offset() const;
   /// Whether the view has SP_TREE_PORT263.
-  bool isSpTreePort263Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort263Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT264: 2 bits; on all chips.
-  U8 spTreePort264() const;
+  VELMAR_NODISCARD U8 spTreePort264() const;
   /// Sets SP_TREE_PORT264.
   void spTreePort264Is(U8 value);
   /// Width of SP_TREE_PORT264 in bits.
@@ -1527,10 +1528,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT264 in the entry.
   U16 spTreePort264Offset() const;
   /// Whether the view has SP_TREE_PORT264.
-  bool isSpTreePort264Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort264Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT265: 2 bits; on all chips.
-  U8 spTreePort265() const;
+  VELMAR_NODISCARD U8 spTreePort265() const;
   /// Sets SP_TREE_PORT265.
   void spTreePort265Is(U8 value);
   /// Width of SP_TREE_PORT265 in bits.
@@ -1538,10 +1539,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT265 in the entry.
   U16 spTreePort265Offset() const;
   /// Whether the view has SP_TREE_PORT265.
-  bool isSpTreePort265Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort265Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT266: 2 bits; on all chips.
-  U8 spTreePort266() const;
+  VELMAR_NODISCARD U8 spTreePort266() const;
   /// Sets SP_TREE_PORT266.
   void spTreePort266Is(U8 value);
   /// Width of SP_TREE_PORT266 in bits.
@@ -1549,10 +1550,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT266 in the entry.
   U16 spTreePort266Offset() const;
   /// Whether the view has SP_TREE_PORT266.
-  bool isSpTreePort266Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort266Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT267: 2 bits; on all chips.
-  U8 spTreePort267() const;
+  VELMAR_NODISCARD U8 spTreePort267() const;
   /// Sets SP_TREE_PORT267.
   void spTreePort267Is(U8 value);
   /// Width of SP_TREE_PORT267 in bits.
@@ -1560,10 +1561,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT267 in the entry.
   U16 spTreePort267Offset() const;
   /// Whether the view has SP_TREE_PORT267.
-  bool isSpTreePort267Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort267Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT268: 2 bits; on all chips.
-  U8 spTreePort268() const;
+  VELMAR_NODISCARD U8 spTreePort268() const;
   /// Sets SP_TREE_PORT268.
   void spTreePort268Is(U8 value);
   /// Width of SP_TREE_PORT268 in bits.
@@ -1571,10 +1572,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT268 in the entry.
   U16 spTreePort268Offset() const;
   /// Whether the view has SP_TREE_PORT268.
-  bool isSpTreePort268Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort268Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT269: 2 bits; on all chips.
-  U8 spTreePort269() const;
+  VELMAR_NODISCARD U8 spTreePort269() const;
   /// Sets SP_TREE_PORT269.
   void spTreePort269Is(U8 value);
   /// Width of SP_TREE_PORT269 in bits.
@@ -1582,10 +1583,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT269 in the entry.
   U16 spTreePort269Offset() const;
   /// Whether the view has SP_TREE_PORT269.
-  bool isSpTreePort269Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort269Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT270: 2 bits; on all chips.
-  U8 spTreePort270() const;
+  VELMAR_NODISCARD U8 spTreePort270() const;
   /// Sets SP_TREE_PORT270.
   void spTreePort270Is(U8 value);
   /// Width of SP_TREE_PORT270 in bits.
@@ -1593,10 +1594,10 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT270 in the entry.
   U16 spTreePort270Offset() const;
   /// Whether the view has SP_TREE_PORT270.
-  bool isSpTreePort270Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort270Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT271: 2 bits; on all chips.
-  U8 spTreePort271() const;
+  VELMAR_NODISCARD U8 spTreePort271() const;
   /// Sets SP_TREE_PORT271.
   void spTreePort271Is(U8 value);
   /// Width of SP_TREE_PORT271 in bits.
@@ -1604,7 +1605,7 @@ class VELMAR_EXPORT EgrVlanStgBEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT271 in the entry.
   U16 spTreePort271Offset() const;
   /// Whether the view has SP_TREE_PORT271.
-  bool isSpTreePort271Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort271Valid() const;
 };
 
 }  // namespace Velmar

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "AsicUtils/BcmAsicBase.h"
+#include "AsicUtils/ChipType.h"
 #include "Velmar/Export.h"
 
 namespace Velmar {
@@ -33,7 +34,7 @@ class VELMAR_EXPORT EgrVpVlanMembershipEntry : public AsicUtils::BcmAsicBase {
   /// Does nothing.
   static void handleBuf(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
   /// Whether the constructor accepts the pair. Never fails.
-  static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
+  VELMAR_NODISCARD static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
   /// True.
   bool isPrimary() const;
   /// True: a memory.
@@ -47,22 +48,22 @@ class VELMAR_EXPORT EgrVpVlanMembershipEntry : public AsicUtils::BcmAsicBase {
   /// First bit of a field. An identifier that the class does not declare fails "false".
   U16 fieldOffset(U32 fieldId) const override;
   /// Whether the view has a field. Never fails.
-  bool isFieldValid(U32 fieldId) const override;
+  VELMAR_NODISCARD bool isFieldValid(U32 fieldId) const override;
   /// The entry with its reserved bits zero. Fails "len_ >= 8" if the buffer is shorter.
   U64 getAllFields() const;
   /// A one at every bit of an entry that belongs to a field.
-  static Raw8192 allFieldsMask(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static Raw8192 allFieldsMask(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  Raw8192 allFieldsMask() const override;
+  VELMAR_NODISCARD Raw8192 allFieldsMask() const override;
   /// Number of fields that the chip has.
-  static U32 fieldCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 fieldCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 fieldCount() const override;
+  VELMAR_NODISCARD U32 fieldCount() const override;
 
   /// Whether an instance identifier is accepted.
-  static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
+  VELMAR_NODISCARD static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
   /// The same for the view's chip and variant.
-  bool hasIdentifier(U32 identifier) const override;
+  VELMAR_NODISCARD bool hasIdentifier(U32 identifier) const override;
   /// S-channel address, access code and block (1 ingress, 2 egress). Returns false and writes
   /// nothing if the chip or variant lacks the class. Fails "tableEntry < N", "arrayIndex == 0",
   /// "hasIdentifier( chipType, variant, identifier )".
@@ -73,35 +74,35 @@ class VELMAR_EXPORT EgrVpVlanMembershipEntry : public AsicUtils::BcmAsicBase {
                        U16 arrayIndex) const override;
 
   /// Size of an entry in 32-bit words.
-  static U16 width(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 width(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U16 width() const override;
+  VELMAR_NODISCARD U16 width() const override;
   /// The same as width().
-  static U16 tableWidth(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 tableWidth(U32 chipType, U8 variant);
   /// 1.
-  static U32 arrayElements(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayElements(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayElements() const override;
+  VELMAR_NODISCARD U32 arrayElements() const override;
   /// Number of instances: 1.
-  static U32 instanceCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 instanceCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 instanceCount() const override;
+  VELMAR_NODISCARD U32 instanceCount() const override;
   /// Number of entries.
-  static U32 entries(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 entries(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 entries() const override;
+  VELMAR_NODISCARD U32 entries() const override;
   /// Lowest index of an entry: 0.
-  static U32 index_min(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 index_min(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 index_min() const;
+  VELMAR_NODISCARD U32 index_min() const;
   /// 0.
-  static U32 arrayIndex_min(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayIndex_min(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayIndex_min() const;
+  VELMAR_NODISCARD U32 arrayIndex_min() const;
   /// The ranges of valid indices.
-  static EntrySpans entrySpans(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static EntrySpans entrySpans(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  EntrySpans entrySpans() const override;
+  VELMAR_NODISCARD EntrySpans entrySpans() const override;
   /// 1 if the chip has the memory, else 0. Never fails.
   static U32 tableVariantCount(U32 chipType);
   /// The same for the view's chip.
@@ -110,7 +111,7 @@ class VELMAR_EXPORT EgrVpVlanMembershipEntry : public AsicUtils::BcmAsicBase {
   static const AsicUtils::EntrySpan _entrySpans_BCM56470_A0[1];
 
   /// Valid code. BASE_VALID: 3 bits; on all chips.
-  U8 baseValid() const;
+  VELMAR_NODISCARD U8 baseValid() const;
   /// Sets BASE_VALID.
   void baseValidIs(U8 value);
   /// Width of BASE_VALID in bits.
@@ -118,10 +119,10 @@ class VELMAR_EXPORT EgrVpVlanMembershipEntry : public AsicUtils::BcmAsicBase {
   /// First bit of BASE_VALID in the entry.
   U16 baseValidOffset() const;
   /// Whether the view has BASE_VALID.
-  bool isBaseValidValid() const;
+  VELMAR_NODISCARD bool isBaseValidValid() const;
 
   /// VLAN of the key. VLAN: 12 bits; on all chips.
-  U16 vlan() const;
+  VELMAR_NODISCARD U16 vlan() const;
   /// Sets VLAN.
   void vlanIs(U16 value);
   /// Width of VLAN in bits.
@@ -129,10 +130,10 @@ class VELMAR_EXPORT EgrVpVlanMembershipEntry : public AsicUtils::BcmAsicBase {
   /// First bit of VLAN in the entry.
   U16 vlanOffset() const;
   /// Whether the view has VLAN.
-  bool isVlanValid() const;
+  VELMAR_NODISCARD bool isVlanValid() const;
 
   /// Low bits of the key payload that feed the hash. HASH_LSB: 11 bits; on all chips.
-  U16 hashLsb() const;
+  VELMAR_NODISCARD U16 hashLsb() const;
   /// Sets HASH_LSB.
   void hashLsbIs(U16 value);
   /// Width of HASH_LSB in bits.
@@ -140,10 +141,10 @@ class VELMAR_EXPORT EgrVpVlanMembershipEntry : public AsicUtils::BcmAsicBase {
   /// First bit of HASH_LSB in the entry.
   U16 hashLsbOffset() const;
   /// Whether the view has HASH_LSB.
-  bool isHashLsbValid() const;
+  VELMAR_NODISCARD bool isHashLsbValid() const;
 
   /// Whole key: key type and payload. KEY: 36 bits; on all chips.
-  U64 key() const;
+  VELMAR_NODISCARD U64 key() const;
   /// Sets KEY.
   void keyIs(const U64& value);
   /// Width of KEY in bits.
@@ -151,10 +152,10 @@ class VELMAR_EXPORT EgrVpVlanMembershipEntry : public AsicUtils::BcmAsicBase {
   /// First bit of KEY in the entry.
   U16 keyOffset() const;
   /// Whether the view has KEY.
-  bool isKeyValid() const;
+  VELMAR_NODISCARD bool isKeyValid() const;
 
   /// Virtual port of the key. VP: 15 bits; on all chips.
-  U16 vp() const;
+  VELMAR_NODISCARD U16 vp() const;
   /// Sets VP.
   void vpIs(U16 value);
   /// Width of VP in bits.
@@ -162,10 +163,10 @@ class VELMAR_EXPORT EgrVpVlanMembershipEntry : public AsicUtils::BcmAsicBase {
   /// First bit of VP in the entry.
   U16 vpOffset() const;
   /// Whether the view has VP.
-  bool isVpValid() const;
+  VELMAR_NODISCARD bool isVpValid() const;
 
   /// The port is untagged. UNTAG: 1 bit; on all chips.
-  U8 untag() const;
+  VELMAR_NODISCARD U8 untag() const;
   /// Sets UNTAG.
   void untagIs(U8 value);
   /// Width of UNTAG in bits.
@@ -173,10 +174,10 @@ class VELMAR_EXPORT EgrVpVlanMembershipEntry : public AsicUtils::BcmAsicBase {
   /// First bit of UNTAG in the entry.
   U16 untagOffset() const;
   /// Whether the view has UNTAG.
-  bool isUntagValid() const;
+  VELMAR_NODISCARD bool isUntagValid() const;
 
   /// Whole data part above the key. DATA: 3 bits; on all chips.
-  U8 data() const;
+  VELMAR_NODISCARD U8 data() const;
   /// Sets DATA.
   void dataIs(U8 value);
   /// Width of DATA in bits.
@@ -184,10 +185,10 @@ class VELMAR_EXPORT EgrVpVlanMembershipEntry : public AsicUtils::BcmAsicBase {
   /// First bit of DATA in the entry.
   U16 dataOffset() const;
   /// Whether the view has DATA.
-  bool isDataValid() const;
+  VELMAR_NODISCARD bool isDataValid() const;
 
   /// All above the key type: key payload and data. TABLE_FIELDS: 37 bits; on all chips.
-  U64 tableFields() const;
+  VELMAR_NODISCARD U64 tableFields() const;
   /// Sets TABLE_FIELDS.
   void tableFieldsIs(const U64& value);
   /// Width of TABLE_FIELDS in bits.
@@ -195,10 +196,10 @@ class VELMAR_EXPORT EgrVpVlanMembershipEntry : public AsicUtils::BcmAsicBase {
   /// First bit of TABLE_FIELDS in the entry.
   U16 tableFieldsOffset() const;
   /// Whether the view has TABLE_FIELDS.
-  bool isTableFieldsValid() const;
+  VELMAR_NODISCARD bool isTableFieldsValid() const;
 
   /// Destination global port of the key. DGLP: 17 bits; on all chips.
-  U32 dglp() const;
+  VELMAR_NODISCARD U32 dglp() const;
   /// Sets DGLP.
   void dglpIs(U32 value);
   /// Width of DGLP in bits.
@@ -206,10 +207,10 @@ class VELMAR_EXPORT EgrVpVlanMembershipEntry : public AsicUtils::BcmAsicBase {
   /// First bit of DGLP in the entry.
   U16 dglpOffset() const;
   /// Whether the view has DGLP.
-  bool isDglpValid() const;
+  VELMAR_NODISCARD bool isDglpValid() const;
 
   /// Virtual forwarding instance. VFI: 14 bits; on all chips.
-  U16 vfi() const;
+  VELMAR_NODISCARD U16 vfi() const;
   /// Sets VFI.
   void vfiIs(U16 value);
   /// Width of VFI in bits.
@@ -217,10 +218,10 @@ class VELMAR_EXPORT EgrVpVlanMembershipEntry : public AsicUtils::BcmAsicBase {
   /// First bit of VFI in the entry.
   U16 vfiOffset() const;
   /// Whether the view has VFI.
-  bool isVfiValid() const;
+  VELMAR_NODISCARD bool isVfiValid() const;
 
   /// Key type. KEY_TYPE: 2 bits; on all chips.
-  U8 keyType() const;
+  VELMAR_NODISCARD U8 keyType() const;
   /// Sets KEY_TYPE.
   void keyTypeIs(U8 value);
   /// Width of KEY_TYPE in bits.
@@ -228,10 +229,10 @@ class VELMAR_EXPORT EgrVpVlanMembershipEntry : public AsicUtils::BcmAsicBase {
   /// First bit of KEY_TYPE in the entry.
   U16 keyTypeOffset() const;
   /// Whether the view has KEY_TYPE.
-  bool isKeyTypeValid() const;
+  VELMAR_NODISCARD bool isKeyTypeValid() const;
 
   /// Reserved bit above the virtual port. RSVD_VP: 1 bit; on all chips.
-  U8 rsvdVp() const;
+  VELMAR_NODISCARD U8 rsvdVp() const;
   /// Sets RSVD_VP.
   void rsvdVpIs(U8 value);
   /// Width of RSVD_VP in bits.
@@ -239,10 +240,10 @@ class VELMAR_EXPORT EgrVpVlanMembershipEntry : public AsicUtils::BcmAsicBase {
   /// First bit of RSVD_VP in the entry.
   U16 rsvdVpOffset() const;
   /// Whether the view has RSVD_VP.
-  bool isRsvdVpValid() const;
+  VELMAR_NODISCARD bool isRsvdVpValid() const;
 
   /// Padding of the key. RESERVED_KEY_PADDING: 3 bits; on all chips.
-  U8 reservedKeyPadding() const;
+  VELMAR_NODISCARD U8 reservedKeyPadding() const;
   /// Sets RESERVED_KEY_PADDING.
   void reservedKeyPaddingIs(U8 value);
   /// Width of RESERVED_KEY_PADDING in bits.
@@ -250,10 +251,10 @@ class VELMAR_EXPORT EgrVpVlanMembershipEntry : public AsicUtils::BcmAsicBase {
   /// First bit of RESERVED_KEY_PADDING in the entry.
   U16 reservedKeyPaddingOffset() const;
   /// Whether the view has RESERVED_KEY_PADDING.
-  bool isReservedKeyPaddingValid() const;
+  VELMAR_NODISCARD bool isReservedKeyPaddingValid() const;
 
   /// Spanning-tree state. SP_TREE: 2 bits; on all chips.
-  U8 spTree() const;
+  VELMAR_NODISCARD U8 spTree() const;
   /// Sets SP_TREE.
   void spTreeIs(U8 value);
   /// Width of SP_TREE in bits.
@@ -261,10 +262,10 @@ class VELMAR_EXPORT EgrVpVlanMembershipEntry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE in the entry.
   U16 spTreeOffset() const;
   /// Whether the view has SP_TREE.
-  bool isSpTreeValid() const;
+  VELMAR_NODISCARD bool isSpTreeValid() const;
 
   /// Reserved bits above the VLAN. RSVD_VLAN: 2 bits; on all chips.
-  U8 rsvdVlan() const;
+  VELMAR_NODISCARD U8 rsvdVlan() const;
   /// Sets RSVD_VLAN.
   void rsvdVlanIs(U8 value);
   /// Width of RSVD_VLAN in bits.
@@ -272,7 +273,7 @@ class VELMAR_EXPORT EgrVpVlanMembershipEntry : public AsicUtils::BcmAsicBase {
   /// First bit of RSVD_VLAN in the entry.
   U16 rsvdVlanOffset() const;
   /// Whether the view has RSVD_VLAN.
-  bool isRsvdVlanValid() const;
+  VELMAR_NODISCARD bool isRsvdVlanValid() const;
 };
 
 }  // namespace Velmar

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "AsicUtils/BcmAsicBase.h"
+#include "AsicUtils/ChipType.h"
 #include "Velmar/Export.h"
 
 namespace Velmar {
@@ -36,7 +37,7 @@ class VELMAR_EXPORT IgmpMldPktControl : public AsicUtils::BcmAsicBase {
   /// Does nothing.
   static void handleBuf(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
   /// Whether the constructor accepts the pair. Never fails.
-  static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
+  VELMAR_NODISCARD static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
   /// True.
   bool isPrimary() const;
   /// False: a register array.
@@ -50,22 +51,22 @@ class VELMAR_EXPORT IgmpMldPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of a field. An identifier that the class does not declare fails "false".
   U16 fieldOffset(U32 fieldId) const override;
   /// Whether the view has a field. Never fails.
-  bool isFieldValid(U32 fieldId) const override;
+  VELMAR_NODISCARD bool isFieldValid(U32 fieldId) const override;
   /// The entry with its reserved bits zero. Fails "len_ >= 4" if the buffer is shorter.
   U32 getAllFields() const;
   /// A one at every bit of an entry that belongs to a field.
-  static Raw8192 allFieldsMask(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static Raw8192 allFieldsMask(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  Raw8192 allFieldsMask() const override;
+  VELMAR_NODISCARD Raw8192 allFieldsMask() const override;
   /// Number of fields that the chip has.
-  static U32 fieldCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 fieldCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 fieldCount() const override;
+  VELMAR_NODISCARD U32 fieldCount() const override;
 
   /// Whether an instance identifier is accepted.
-  static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
+  VELMAR_NODISCARD static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
   /// The same for the view's chip and variant.
-  bool hasIdentifier(U32 identifier) const override;
+  VELMAR_NODISCARD bool hasIdentifier(U32 identifier) const override;
   /// S-channel address, access code and block (1 ingress, 2 egress). Returns false and writes
   /// nothing if the chip or variant lacks the class. Fails "tableEntry == 0", "arrayIndex < 64",
   /// "hasIdentifier( chipType, variant, identifier )".
@@ -76,31 +77,31 @@ class VELMAR_EXPORT IgmpMldPktControl : public AsicUtils::BcmAsicBase {
                        U16 arrayIndex) const override;
 
   /// Size of an entry in 32-bit words.
-  static U16 width(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 width(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U16 width() const override;
+  VELMAR_NODISCARD U16 width() const override;
   /// The same as width().
-  static U16 regWidth(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 regWidth(U32 chipType, U8 variant);
   /// Number of elements.
-  static U32 arrayElements(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayElements(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayElements() const override;
+  VELMAR_NODISCARD U32 arrayElements() const override;
   /// Number of instances: 1.
-  static U32 instanceCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 instanceCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 instanceCount() const override;
+  VELMAR_NODISCARD U32 instanceCount() const override;
   /// Address distance between two elements.
-  static U32 addrStride(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 addrStride(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 addrStride() const;
+  VELMAR_NODISCARD U32 addrStride() const;
   /// 0, even if hasIdentifier() accepts more.
-  static U32 maxIdentifier(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 maxIdentifier(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 maxIdentifier() const override;
+  VELMAR_NODISCARD U32 maxIdentifier() const override;
 
   /// IPv6 multicast router advertisements are copied to the CPU. IPV6_MC_ROUTER_ADV_PKT_TO_CPU: 1
   /// bit; on all chips.
-  U8 ipv6McRouterAdvPktToCpu() const;
+  VELMAR_NODISCARD U8 ipv6McRouterAdvPktToCpu() const;
   /// Sets IPV6_MC_ROUTER_ADV_PKT_TO_CPU.
   void ipv6McRouterAdvPktToCpuIs(U8 value);
   /// Width of IPV6_MC_ROUTER_ADV_PKT_TO_CPU in bits.
@@ -108,11 +109,11 @@ class VELMAR_EXPORT IgmpMldPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of IPV6_MC_ROUTER_ADV_PKT_TO_CPU in the entry.
   U16 ipv6McRouterAdvPktToCpuOffset() const;
   /// Whether the view has IPV6_MC_ROUTER_ADV_PKT_TO_CPU.
-  bool isIpv6McRouterAdvPktToCpuValid() const;
+  VELMAR_NODISCARD bool isIpv6McRouterAdvPktToCpuValid() const;
 
   /// Forward action for IPv6 multicast router advertisements. IPV6_MC_ROUTER_ADV_PKT_FWD_ACTION: 2
   /// bits; on all chips.
-  U8 ipv6McRouterAdvPktFwdAction() const;
+  VELMAR_NODISCARD U8 ipv6McRouterAdvPktFwdAction() const;
   /// Sets IPV6_MC_ROUTER_ADV_PKT_FWD_ACTION.
   void ipv6McRouterAdvPktFwdActionIs(U8 value);
   /// Width of IPV6_MC_ROUTER_ADV_PKT_FWD_ACTION in bits.
@@ -120,11 +121,11 @@ class VELMAR_EXPORT IgmpMldPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of IPV6_MC_ROUTER_ADV_PKT_FWD_ACTION in the entry.
   U16 ipv6McRouterAdvPktFwdActionOffset() const;
   /// Whether the view has IPV6_MC_ROUTER_ADV_PKT_FWD_ACTION.
-  bool isIpv6McRouterAdvPktFwdActionValid() const;
+  VELMAR_NODISCARD bool isIpv6McRouterAdvPktFwdActionValid() const;
 
   /// IPv4 multicast router advertisements are copied to the CPU. IPV4_MC_ROUTER_ADV_PKT_TO_CPU: 1
   /// bit; on all chips.
-  U8 ipv4McRouterAdvPktToCpu() const;
+  VELMAR_NODISCARD U8 ipv4McRouterAdvPktToCpu() const;
   /// Sets IPV4_MC_ROUTER_ADV_PKT_TO_CPU.
   void ipv4McRouterAdvPktToCpuIs(U8 value);
   /// Width of IPV4_MC_ROUTER_ADV_PKT_TO_CPU in bits.
@@ -132,11 +133,11 @@ class VELMAR_EXPORT IgmpMldPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of IPV4_MC_ROUTER_ADV_PKT_TO_CPU in the entry.
   U16 ipv4McRouterAdvPktToCpuOffset() const;
   /// Whether the view has IPV4_MC_ROUTER_ADV_PKT_TO_CPU.
-  bool isIpv4McRouterAdvPktToCpuValid() const;
+  VELMAR_NODISCARD bool isIpv4McRouterAdvPktToCpuValid() const;
 
   /// Forward action for IPv4 multicast router advertisements. IPV4_MC_ROUTER_ADV_PKT_FWD_ACTION: 2
   /// bits; on all chips.
-  U8 ipv4McRouterAdvPktFwdAction() const;
+  VELMAR_NODISCARD U8 ipv4McRouterAdvPktFwdAction() const;
   /// Sets IPV4_MC_ROUTER_ADV_PKT_FWD_ACTION.
   void ipv4McRouterAdvPktFwdActionIs(U8 value);
   /// Width of IPV4_MC_ROUTER_ADV_PKT_FWD_ACTION in bits.
@@ -144,11 +145,11 @@ class VELMAR_EXPORT IgmpMldPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of IPV4_MC_ROUTER_ADV_PKT_FWD_ACTION in the entry.
   U16 ipv4McRouterAdvPktFwdActionOffset() const;
   /// Whether the view has IPV4_MC_ROUTER_ADV_PKT_FWD_ACTION.
-  bool isIpv4McRouterAdvPktFwdActionValid() const;
+  VELMAR_NODISCARD bool isIpv4McRouterAdvPktFwdActionValid() const;
 
   /// Reserved IPv6 multicast packets are copied to the CPU. IPV6_RESVD_MC_PKT_TO_CPU: 1 bit; on all
   /// chips.
-  U8 ipv6ResvdMcPktToCpu() const;
+  VELMAR_NODISCARD U8 ipv6ResvdMcPktToCpu() const;
   /// Sets IPV6_RESVD_MC_PKT_TO_CPU.
   void ipv6ResvdMcPktToCpuIs(U8 value);
   /// Width of IPV6_RESVD_MC_PKT_TO_CPU in bits.
@@ -156,11 +157,11 @@ class VELMAR_EXPORT IgmpMldPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of IPV6_RESVD_MC_PKT_TO_CPU in the entry.
   U16 ipv6ResvdMcPktToCpuOffset() const;
   /// Whether the view has IPV6_RESVD_MC_PKT_TO_CPU.
-  bool isIpv6ResvdMcPktToCpuValid() const;
+  VELMAR_NODISCARD bool isIpv6ResvdMcPktToCpuValid() const;
 
   /// Forward action for reserved IPv6 multicast packets. IPV6_RESVD_MC_PKT_FWD_ACTION: 2 bits; on
   /// all chips.
-  U8 ipv6ResvdMcPktFwdAction() const;
+  VELMAR_NODISCARD U8 ipv6ResvdMcPktFwdAction() const;
   /// Sets IPV6_RESVD_MC_PKT_FWD_ACTION.
   void ipv6ResvdMcPktFwdActionIs(U8 value);
   /// Width of IPV6_RESVD_MC_PKT_FWD_ACTION in bits.
@@ -168,11 +169,11 @@ class VELMAR_EXPORT IgmpMldPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of IPV6_RESVD_MC_PKT_FWD_ACTION in the entry.
   U16 ipv6ResvdMcPktFwdActionOffset() const;
   /// Whether the view has IPV6_RESVD_MC_PKT_FWD_ACTION.
-  bool isIpv6ResvdMcPktFwdActionValid() const;
+  VELMAR_NODISCARD bool isIpv6ResvdMcPktFwdActionValid() const;
 
   /// Reserved IPv4 multicast packets are copied to the CPU. IPV4_RESVD_MC_PKT_TO_CPU: 1 bit; on all
   /// chips.
-  U8 ipv4ResvdMcPktToCpu() const;
+  VELMAR_NODISCARD U8 ipv4ResvdMcPktToCpu() const;
   /// Sets IPV4_RESVD_MC_PKT_TO_CPU.
   void ipv4ResvdMcPktToCpuIs(U8 value);
   /// Width of IPV4_RESVD_MC_PKT_TO_CPU in bits.
@@ -180,11 +181,11 @@ class VELMAR_EXPORT IgmpMldPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of IPV4_RESVD_MC_PKT_TO_CPU in the entry.
   U16 ipv4ResvdMcPktToCpuOffset() const;
   /// Whether the view has IPV4_RESVD_MC_PKT_TO_CPU.
-  bool isIpv4ResvdMcPktToCpuValid() const;
+  VELMAR_NODISCARD bool isIpv4ResvdMcPktToCpuValid() const;
 
   /// Forward action for reserved IPv4 multicast packets. IPV4_RESVD_MC_PKT_FWD_ACTION: 2 bits; on
   /// all chips.
-  U8 ipv4ResvdMcPktFwdAction() const;
+  VELMAR_NODISCARD U8 ipv4ResvdMcPktFwdAction() const;
   /// Sets IPV4_RESVD_MC_PKT_FWD_ACTION.
   void ipv4ResvdMcPktFwdActionIs(U8 value);
   /// Width of IPV4_RESVD_MC_PKT_FWD_ACTION in bits.
@@ -192,10 +193,10 @@ class VELMAR_EXPORT IgmpMldPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of IPV4_RESVD_MC_PKT_FWD_ACTION in the entry.
   U16 ipv4ResvdMcPktFwdActionOffset() const;
   /// Whether the view has IPV4_RESVD_MC_PKT_FWD_ACTION.
-  bool isIpv4ResvdMcPktFwdActionValid() const;
+  VELMAR_NODISCARD bool isIpv4ResvdMcPktFwdActionValid() const;
 
   /// MLD queries are copied to the CPU. MLD_QUERY_TO_CPU: 1 bit; on all chips.
-  U8 mldQueryToCpu() const;
+  VELMAR_NODISCARD U8 mldQueryToCpu() const;
   /// Sets MLD_QUERY_TO_CPU.
   void mldQueryToCpuIs(U8 value);
   /// Width of MLD_QUERY_TO_CPU in bits.
@@ -203,10 +204,10 @@ class VELMAR_EXPORT IgmpMldPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of MLD_QUERY_TO_CPU in the entry.
   U16 mldQueryToCpuOffset() const;
   /// Whether the view has MLD_QUERY_TO_CPU.
-  bool isMldQueryToCpuValid() const;
+  VELMAR_NODISCARD bool isMldQueryToCpuValid() const;
 
   /// Forward action for MLD queries. MLD_QUERY_FWD_ACTION: 2 bits; on all chips.
-  U8 mldQueryFwdAction() const;
+  VELMAR_NODISCARD U8 mldQueryFwdAction() const;
   /// Sets MLD_QUERY_FWD_ACTION.
   void mldQueryFwdActionIs(U8 value);
   /// Width of MLD_QUERY_FWD_ACTION in bits.
@@ -214,10 +215,10 @@ class VELMAR_EXPORT IgmpMldPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of MLD_QUERY_FWD_ACTION in the entry.
   U16 mldQueryFwdActionOffset() const;
   /// Whether the view has MLD_QUERY_FWD_ACTION.
-  bool isMldQueryFwdActionValid() const;
+  VELMAR_NODISCARD bool isMldQueryFwdActionValid() const;
 
   /// MLD report and done messages are copied to the CPU. MLD_REP_DONE_TO_CPU: 1 bit; on all chips.
-  U8 mldRepDoneToCpu() const;
+  VELMAR_NODISCARD U8 mldRepDoneToCpu() const;
   /// Sets MLD_REP_DONE_TO_CPU.
   void mldRepDoneToCpuIs(U8 value);
   /// Width of MLD_REP_DONE_TO_CPU in bits.
@@ -225,11 +226,11 @@ class VELMAR_EXPORT IgmpMldPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of MLD_REP_DONE_TO_CPU in the entry.
   U16 mldRepDoneToCpuOffset() const;
   /// Whether the view has MLD_REP_DONE_TO_CPU.
-  bool isMldRepDoneToCpuValid() const;
+  VELMAR_NODISCARD bool isMldRepDoneToCpuValid() const;
 
   /// Forward action for MLD report and done messages. MLD_REP_DONE_FWD_ACTION: 2 bits; on all
   /// chips.
-  U8 mldRepDoneFwdAction() const;
+  VELMAR_NODISCARD U8 mldRepDoneFwdAction() const;
   /// Sets MLD_REP_DONE_FWD_ACTION.
   void mldRepDoneFwdActionIs(U8 value);
   /// Width of MLD_REP_DONE_FWD_ACTION in bits.
@@ -237,10 +238,10 @@ class VELMAR_EXPORT IgmpMldPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of MLD_REP_DONE_FWD_ACTION in the entry.
   U16 mldRepDoneFwdActionOffset() const;
   /// Whether the view has MLD_REP_DONE_FWD_ACTION.
-  bool isMldRepDoneFwdActionValid() const;
+  VELMAR_NODISCARD bool isMldRepDoneFwdActionValid() const;
 
   /// Unknown IGMP messages are copied to the CPU. IGMP_UNKNOWN_MSG_TO_CPU: 1 bit; on all chips.
-  U8 igmpUnknownMsgToCpu() const;
+  VELMAR_NODISCARD U8 igmpUnknownMsgToCpu() const;
   /// Sets IGMP_UNKNOWN_MSG_TO_CPU.
   void igmpUnknownMsgToCpuIs(U8 value);
   /// Width of IGMP_UNKNOWN_MSG_TO_CPU in bits.
@@ -248,10 +249,10 @@ class VELMAR_EXPORT IgmpMldPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of IGMP_UNKNOWN_MSG_TO_CPU in the entry.
   U16 igmpUnknownMsgToCpuOffset() const;
   /// Whether the view has IGMP_UNKNOWN_MSG_TO_CPU.
-  bool isIgmpUnknownMsgToCpuValid() const;
+  VELMAR_NODISCARD bool isIgmpUnknownMsgToCpuValid() const;
 
   /// Forward action for unknown IGMP messages. IGMP_UNKNOWN_MSG_FWD_ACTION: 2 bits; on all chips.
-  U8 igmpUnknownMsgFwdAction() const;
+  VELMAR_NODISCARD U8 igmpUnknownMsgFwdAction() const;
   /// Sets IGMP_UNKNOWN_MSG_FWD_ACTION.
   void igmpUnknownMsgFwdActionIs(U8 value);
   /// Width of IGMP_UNKNOWN_MSG_FWD_ACTION in bits.
@@ -259,10 +260,10 @@ class VELMAR_EXPORT IgmpMldPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of IGMP_UNKNOWN_MSG_FWD_ACTION in the entry.
   U16 igmpUnknownMsgFwdActionOffset() const;
   /// Whether the view has IGMP_UNKNOWN_MSG_FWD_ACTION.
-  bool isIgmpUnknownMsgFwdActionValid() const;
+  VELMAR_NODISCARD bool isIgmpUnknownMsgFwdActionValid() const;
 
   /// IGMP queries are copied to the CPU. IGMP_QUERY_TO_CPU: 1 bit; on all chips.
-  U8 igmpQueryToCpu() const;
+  VELMAR_NODISCARD U8 igmpQueryToCpu() const;
   /// Sets IGMP_QUERY_TO_CPU.
   void igmpQueryToCpuIs(U8 value);
   /// Width of IGMP_QUERY_TO_CPU in bits.
@@ -270,10 +271,10 @@ class VELMAR_EXPORT IgmpMldPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of IGMP_QUERY_TO_CPU in the entry.
   U16 igmpQueryToCpuOffset() const;
   /// Whether the view has IGMP_QUERY_TO_CPU.
-  bool isIgmpQueryToCpuValid() const;
+  VELMAR_NODISCARD bool isIgmpQueryToCpuValid() const;
 
   /// Forward action for IGMP queries. IGMP_QUERY_FWD_ACTION: 2 bits; on all chips.
-  U8 igmpQueryFwdAction() const;
+  VELMAR_NODISCARD U8 igmpQueryFwdAction() const;
   /// Sets IGMP_QUERY_FWD_ACTION.
   void igmpQueryFwdActionIs(U8 value);
   /// Width of IGMP_QUERY_FWD_ACTION in bits.
@@ -281,11 +282,11 @@ class VELMAR_EXPORT IgmpMldPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of IGMP_QUERY_FWD_ACTION in the entry.
   U16 igmpQueryFwdActionOffset() const;
   /// Whether the view has IGMP_QUERY_FWD_ACTION.
-  bool isIgmpQueryFwdActionValid() const;
+  VELMAR_NODISCARD bool isIgmpQueryFwdActionValid() const;
 
   /// IGMP report and leave messages are copied to the CPU. IGMP_REP_LEAVE_TO_CPU: 1 bit; on all
   /// chips.
-  U8 igmpRepLeaveToCpu() const;
+  VELMAR_NODISCARD U8 igmpRepLeaveToCpu() const;
   /// Sets IGMP_REP_LEAVE_TO_CPU.
   void igmpRepLeaveToCpuIs(U8 value);
   /// Width of IGMP_REP_LEAVE_TO_CPU in bits.
@@ -293,11 +294,11 @@ class VELMAR_EXPORT IgmpMldPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of IGMP_REP_LEAVE_TO_CPU in the entry.
   U16 igmpRepLeaveToCpuOffset() const;
   /// Whether the view has IGMP_REP_LEAVE_TO_CPU.
-  bool isIgmpRepLeaveToCpuValid() const;
+  VELMAR_NODISCARD bool isIgmpRepLeaveToCpuValid() const;
 
   /// Forward action for IGMP report and leave messages. IGMP_REP_LEAVE_FWD_ACTION: 2 bits; on all
   /// chips.
-  U8 igmpRepLeaveFwdAction() const;
+  VELMAR_NODISCARD U8 igmpRepLeaveFwdAction() const;
   /// Sets IGMP_REP_LEAVE_FWD_ACTION.
   void igmpRepLeaveFwdActionIs(U8 value);
   /// Width of IGMP_REP_LEAVE_FWD_ACTION in bits.
@@ -305,10 +306,10 @@ class VELMAR_EXPORT IgmpMldPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of IGMP_REP_LEAVE_FWD_ACTION in the entry.
   U16 igmpRepLeaveFwdActionOffset() const;
   /// Whether the view has IGMP_REP_LEAVE_FWD_ACTION.
-  bool isIgmpRepLeaveFwdActionValid() const;
+  VELMAR_NODISCARD bool isIgmpRepLeaveFwdActionValid() const;
 
   /// The packet forwarding mode rule applies. PFM_RULE_APPLY: 1 bit; on all chips.
-  U8 pfmRuleApply() const;
+  VELMAR_NODISCARD U8 pfmRuleApply() const;
   /// Sets PFM_RULE_APPLY.
   void pfmRuleApplyIs(U8 value);
   /// Width of PFM_RULE_APPLY in bits.
@@ -316,7 +317,7 @@ class VELMAR_EXPORT IgmpMldPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of PFM_RULE_APPLY in the entry.
   U16 pfmRuleApplyOffset() const;
   /// Whether the view has PFM_RULE_APPLY.
-  bool isPfmRuleApplyValid() const;
+  VELMAR_NODISCARD bool isPfmRuleApplyValid() const;
 };
 
 }  // namespace Velmar

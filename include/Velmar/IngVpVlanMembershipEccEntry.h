@@ -3,6 +3,7 @@
 #pragma once
 
 #include "AsicUtils/BcmAsicBase.h"
+#include "AsicUtils/ChipType.h"
 #include "Velmar/Export.h"
 
 namespace Velmar {
@@ -34,7 +35,7 @@ class VELMAR_EXPORT IngVpVlanMembershipEccEntry : public AsicUtils::BcmAsicBase 
   /// Does nothing.
   static void handleBuf(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
   /// Whether the constructor accepts the pair. Never fails.
-  static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
+  VELMAR_NODISCARD static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
   /// True.
   bool isPrimary() const;
   /// True: a memory.
@@ -48,22 +49,22 @@ class VELMAR_EXPORT IngVpVlanMembershipEccEntry : public AsicUtils::BcmAsicBase 
   /// First bit of a field. An identifier that the class does not declare fails "false".
   U16 fieldOffset(U32 fieldId) const override;
   /// Whether the view has a field. Never fails.
-  bool isFieldValid(U32 fieldId) const override;
+  VELMAR_NODISCARD bool isFieldValid(U32 fieldId) const override;
   /// The entry with its reserved bits zero. Fails "len_ >= 12" if the buffer is shorter.
   Raw128 getAllFields() const;
   /// A one at every bit of an entry that belongs to a field.
-  static Raw8192 allFieldsMask(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static Raw8192 allFieldsMask(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  Raw8192 allFieldsMask() const override;
+  VELMAR_NODISCARD Raw8192 allFieldsMask() const override;
   /// Number of fields that the chip has.
-  static U32 fieldCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 fieldCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 fieldCount() const override;
+  VELMAR_NODISCARD U32 fieldCount() const override;
 
   /// Whether an instance identifier is accepted.
-  static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
+  VELMAR_NODISCARD static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
   /// The same for the view's chip and variant.
-  bool hasIdentifier(U32 identifier) const override;
+  VELMAR_NODISCARD bool hasIdentifier(U32 identifier) const override;
   /// S-channel address, access code and block (1 ingress, 2 egress). Returns false and writes
   /// nothing if the chip or variant lacks the class. Fails "tableEntry < N", "arrayIndex == 0",
   /// "hasIdentifier( chipType, variant, identifier )".
@@ -74,35 +75,35 @@ class VELMAR_EXPORT IngVpVlanMembershipEccEntry : public AsicUtils::BcmAsicBase 
                        U16 arrayIndex) const override;
 
   /// Size of an entry in 32-bit words.
-  static U16 width(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 width(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U16 width() const override;
+  VELMAR_NODISCARD U16 width() const override;
   /// The same as width().
-  static U16 tableWidth(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 tableWidth(U32 chipType, U8 variant);
   /// 1.
-  static U32 arrayElements(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayElements(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayElements() const override;
+  VELMAR_NODISCARD U32 arrayElements() const override;
   /// Number of instances: 1.
-  static U32 instanceCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 instanceCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 instanceCount() const override;
+  VELMAR_NODISCARD U32 instanceCount() const override;
   /// Number of entries.
-  static U32 entries(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 entries(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 entries() const override;
+  VELMAR_NODISCARD U32 entries() const override;
   /// Lowest index of an entry: 0.
-  static U32 index_min(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 index_min(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 index_min() const;
+  VELMAR_NODISCARD U32 index_min() const;
   /// 0.
-  static U32 arrayIndex_min(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayIndex_min(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayIndex_min() const;
+  VELMAR_NODISCARD U32 arrayIndex_min() const;
   /// The ranges of valid indices.
-  static EntrySpans entrySpans(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static EntrySpans entrySpans(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  EntrySpans entrySpans() const override;
+  VELMAR_NODISCARD EntrySpans entrySpans() const override;
   /// 1 if the chip has the memory, else 0. Never fails.
   static U32 tableVariantCount(U32 chipType);
   /// The same for the view's chip.
@@ -111,7 +112,7 @@ class VELMAR_EXPORT IngVpVlanMembershipEccEntry : public AsicUtils::BcmAsicBase 
   static const AsicUtils::EntrySpan _entrySpans_BCM56470_A0[1];
 
   /// Raw data of a pair of membership entries. ECC_DATA: 82 bits; on all chips.
-  Raw128 eccData() const;
+  VELMAR_NODISCARD Raw128 eccData() const;
   /// Sets ECC_DATA.
   void eccDataIs(const Raw128& value);
   /// Width of ECC_DATA in bits.
@@ -119,10 +120,10 @@ class VELMAR_EXPORT IngVpVlanMembershipEccEntry : public AsicUtils::BcmAsicBase 
   /// First bit of ECC_DATA in the entry.
   U16 eccDataOffset() const;
   /// Whether the view has ECC_DATA.
-  bool isEccDataValid() const;
+  VELMAR_NODISCARD bool isEccDataValid() const;
 
   /// Check bits. ECC: 7 bits; on all chips.
-  U8 ecc() const;
+  VELMAR_NODISCARD U8 ecc() const;
   /// Sets ECC.
   void eccIs(U8 value);
   /// Width of ECC in bits.
@@ -130,10 +131,10 @@ class VELMAR_EXPORT IngVpVlanMembershipEccEntry : public AsicUtils::BcmAsicBase 
   /// First bit of ECC in the entry.
   U16 eccOffset() const;
   /// Whether the view has ECC.
-  bool isEccValid() const;
+  VELMAR_NODISCARD bool isEccValid() const;
 
   /// Check bits and parity. ECCP: 8 bits; on all chips.
-  U8 eccp() const;
+  VELMAR_NODISCARD U8 eccp() const;
   /// Sets ECCP.
   void eccpIs(U8 value);
   /// Width of ECCP in bits.
@@ -141,10 +142,10 @@ class VELMAR_EXPORT IngVpVlanMembershipEccEntry : public AsicUtils::BcmAsicBase 
   /// First bit of ECCP in the entry.
   U16 eccpOffset() const;
   /// Whether the view has ECCP.
-  bool isEccpValid() const;
+  VELMAR_NODISCARD bool isEccpValid() const;
 
   /// Parity bit. PARITY: 1 bit; on all chips.
-  U8 parity() const;
+  VELMAR_NODISCARD U8 parity() const;
   /// Sets PARITY.
   void parityIs(U8 value);
   /// Width of PARITY in bits.
@@ -152,7 +153,7 @@ class VELMAR_EXPORT IngVpVlanMembershipEccEntry : public AsicUtils::BcmAsicBase 
   /// First bit of PARITY in the entry.
   U16 parityOffset() const;
   /// Whether the view has PARITY.
-  bool isParityValid() const;
+  VELMAR_NODISCARD bool isParityValid() const;
 };
 
 }  // namespace Velmar

@@ -21,6 +21,7 @@
 #include "Velmar/IngVpVlanMembershipHashControl.h"
 #include "Velmar/PortBitmapProfileEntry.h"
 #include "Velmar/ProtocolPktControl.h"
+#include "Velmar/Version.h"
 #include "Velmar/VfiProfile2Entry.h"
 #include "Velmar/VfiProfileEntry.h"
 #include "Velmar/Vlan2Entry.h"

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "AsicUtils/BcmAsicBase.h"
+#include "AsicUtils/ChipType.h"
 #include "Velmar/Export.h"
 
 namespace Velmar {
@@ -36,7 +37,7 @@ class VELMAR_EXPORT ProtocolPktControl : public AsicUtils::BcmAsicBase {
   /// Does nothing.
   static void handleBuf(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
   /// Whether the constructor accepts the pair. Never fails.
-  static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
+  VELMAR_NODISCARD static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
   /// True.
   bool isPrimary() const;
   /// False: a register array.
@@ -50,22 +51,22 @@ class VELMAR_EXPORT ProtocolPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of a field. An identifier that the class does not declare fails "false".
   U16 fieldOffset(U32 fieldId) const override;
   /// Whether the view has a field. Never fails.
-  bool isFieldValid(U32 fieldId) const override;
+  VELMAR_NODISCARD bool isFieldValid(U32 fieldId) const override;
   /// The entry with its reserved bits zero. Fails "len_ >= 4" if the buffer is shorter.
   U32 getAllFields() const;
   /// A one at every bit of an entry that belongs to a field.
-  static Raw8192 allFieldsMask(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static Raw8192 allFieldsMask(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  Raw8192 allFieldsMask() const override;
+  VELMAR_NODISCARD Raw8192 allFieldsMask() const override;
   /// Number of fields that the chip has.
-  static U32 fieldCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 fieldCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 fieldCount() const override;
+  VELMAR_NODISCARD U32 fieldCount() const override;
 
   /// Whether an instance identifier is accepted.
-  static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
+  VELMAR_NODISCARD static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
   /// The same for the view's chip and variant.
-  bool hasIdentifier(U32 identifier) const override;
+  VELMAR_NODISCARD bool hasIdentifier(U32 identifier) const override;
   /// S-channel address, access code and block (1 ingress, 2 egress). Returns false and writes
   /// nothing if the chip or variant lacks the class. Fails "tableEntry == 0", "arrayIndex < 64",
   /// "hasIdentifier( chipType, variant, identifier )".
@@ -76,30 +77,30 @@ class VELMAR_EXPORT ProtocolPktControl : public AsicUtils::BcmAsicBase {
                        U16 arrayIndex) const override;
 
   /// Size of an entry in 32-bit words.
-  static U16 width(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 width(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U16 width() const override;
+  VELMAR_NODISCARD U16 width() const override;
   /// The same as width().
-  static U16 regWidth(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 regWidth(U32 chipType, U8 variant);
   /// Number of elements.
-  static U32 arrayElements(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayElements(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayElements() const override;
+  VELMAR_NODISCARD U32 arrayElements() const override;
   /// Number of instances: 1.
-  static U32 instanceCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 instanceCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 instanceCount() const override;
+  VELMAR_NODISCARD U32 instanceCount() const override;
   /// Address distance between two elements.
-  static U32 addrStride(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 addrStride(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 addrStride() const;
+  VELMAR_NODISCARD U32 addrStride() const;
   /// 0, even if hasIdentifier() accepts more.
-  static U32 maxIdentifier(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 maxIdentifier(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 maxIdentifier() const override;
+  VELMAR_NODISCARD U32 maxIdentifier() const override;
 
   /// DHCP packets are copied to the CPU. DHCP_PKT_TO_CPU: 1 bit; on all chips.
-  U8 dhcpPktToCpu() const;
+  VELMAR_NODISCARD U8 dhcpPktToCpu() const;
   /// Sets DHCP_PKT_TO_CPU.
   void dhcpPktToCpuIs(U8 value);
   /// Width of DHCP_PKT_TO_CPU in bits.
@@ -107,10 +108,10 @@ class VELMAR_EXPORT ProtocolPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of DHCP_PKT_TO_CPU in the entry.
   U16 dhcpPktToCpuOffset() const;
   /// Whether the view has DHCP_PKT_TO_CPU.
-  bool isDhcpPktToCpuValid() const;
+  VELMAR_NODISCARD bool isDhcpPktToCpuValid() const;
 
   /// DHCP packets are dropped. DHCP_PKT_DROP: 1 bit; on all chips.
-  U8 dhcpPktDrop() const;
+  VELMAR_NODISCARD U8 dhcpPktDrop() const;
   /// Sets DHCP_PKT_DROP.
   void dhcpPktDropIs(U8 value);
   /// Width of DHCP_PKT_DROP in bits.
@@ -118,10 +119,10 @@ class VELMAR_EXPORT ProtocolPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of DHCP_PKT_DROP in the entry.
   U16 dhcpPktDropOffset() const;
   /// Whether the view has DHCP_PKT_DROP.
-  bool isDhcpPktDropValid() const;
+  VELMAR_NODISCARD bool isDhcpPktDropValid() const;
 
   /// IPv6 neighbour discovery packets are copied to the CPU. ND_PKT_TO_CPU: 1 bit; on all chips.
-  U8 ndPktToCpu() const;
+  VELMAR_NODISCARD U8 ndPktToCpu() const;
   /// Sets ND_PKT_TO_CPU.
   void ndPktToCpuIs(U8 value);
   /// Width of ND_PKT_TO_CPU in bits.
@@ -129,10 +130,10 @@ class VELMAR_EXPORT ProtocolPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of ND_PKT_TO_CPU in the entry.
   U16 ndPktToCpuOffset() const;
   /// Whether the view has ND_PKT_TO_CPU.
-  bool isNdPktToCpuValid() const;
+  VELMAR_NODISCARD bool isNdPktToCpuValid() const;
 
   /// IPv6 neighbour discovery packets are dropped. ND_PKT_DROP: 1 bit; on all chips.
-  U8 ndPktDrop() const;
+  VELMAR_NODISCARD U8 ndPktDrop() const;
   /// Sets ND_PKT_DROP.
   void ndPktDropIs(U8 value);
   /// Width of ND_PKT_DROP in bits.
@@ -140,10 +141,10 @@ class VELMAR_EXPORT ProtocolPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of ND_PKT_DROP in the entry.
   U16 ndPktDropOffset() const;
   /// Whether the view has ND_PKT_DROP.
-  bool isNdPktDropValid() const;
+  VELMAR_NODISCARD bool isNdPktDropValid() const;
 
   /// ARP requests are copied to the CPU. ARP_REQUEST_TO_CPU: 1 bit; on all chips.
-  U8 arpRequestToCpu() const;
+  VELMAR_NODISCARD U8 arpRequestToCpu() const;
   /// Sets ARP_REQUEST_TO_CPU.
   void arpRequestToCpuIs(U8 value);
   /// Width of ARP_REQUEST_TO_CPU in bits.
@@ -151,10 +152,10 @@ class VELMAR_EXPORT ProtocolPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of ARP_REQUEST_TO_CPU in the entry.
   U16 arpRequestToCpuOffset() const;
   /// Whether the view has ARP_REQUEST_TO_CPU.
-  bool isArpRequestToCpuValid() const;
+  VELMAR_NODISCARD bool isArpRequestToCpuValid() const;
 
   /// ARP requests are dropped. ARP_REQUEST_DROP: 1 bit; on all chips.
-  U8 arpRequestDrop() const;
+  VELMAR_NODISCARD U8 arpRequestDrop() const;
   /// Sets ARP_REQUEST_DROP.
   void arpRequestDropIs(U8 value);
   /// Width of ARP_REQUEST_DROP in bits.
@@ -162,10 +163,10 @@ class VELMAR_EXPORT ProtocolPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of ARP_REQUEST_DROP in the entry.
   U16 arpRequestDropOffset() const;
   /// Whether the view has ARP_REQUEST_DROP.
-  bool isArpRequestDropValid() const;
+  VELMAR_NODISCARD bool isArpRequestDropValid() const;
 
   /// ARP replies are copied to the CPU. ARP_REPLY_TO_CPU: 1 bit; on all chips.
-  U8 arpReplyToCpu() const;
+  VELMAR_NODISCARD U8 arpReplyToCpu() const;
   /// Sets ARP_REPLY_TO_CPU.
   void arpReplyToCpuIs(U8 value);
   /// Width of ARP_REPLY_TO_CPU in bits.
@@ -173,10 +174,10 @@ class VELMAR_EXPORT ProtocolPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of ARP_REPLY_TO_CPU in the entry.
   U16 arpReplyToCpuOffset() const;
   /// Whether the view has ARP_REPLY_TO_CPU.
-  bool isArpReplyToCpuValid() const;
+  VELMAR_NODISCARD bool isArpReplyToCpuValid() const;
 
   /// ARP replies are dropped. ARP_REPLY_DROP: 1 bit; on all chips.
-  U8 arpReplyDrop() const;
+  VELMAR_NODISCARD U8 arpReplyDrop() const;
   /// Sets ARP_REPLY_DROP.
   void arpReplyDropIs(U8 value);
   /// Width of ARP_REPLY_DROP in bits.
@@ -184,11 +185,11 @@ class VELMAR_EXPORT ProtocolPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of ARP_REPLY_DROP in the entry.
   U16 arpReplyDropOffset() const;
   /// Whether the view has ARP_REPLY_DROP.
-  bool isArpReplyDropValid() const;
+  VELMAR_NODISCARD bool isArpReplyDropValid() const;
 
   /// SRP packets are copied to the CPU. SRP_PKT_TO_CPU: 1 bit; on all chips but BCM56870_A0,
   /// BCM56770_A0, BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0.
-  U8 srpPktToCpu() const;
+  VELMAR_NODISCARD U8 srpPktToCpu() const;
   /// Sets SRP_PKT_TO_CPU.
   void srpPktToCpuIs(U8 value);
   /// Width of SRP_PKT_TO_CPU in bits.
@@ -196,11 +197,11 @@ class VELMAR_EXPORT ProtocolPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of SRP_PKT_TO_CPU in the entry.
   U16 srpPktToCpuOffset() const;
   /// Whether the view has SRP_PKT_TO_CPU.
-  bool isSrpPktToCpuValid() const;
+  VELMAR_NODISCARD bool isSrpPktToCpuValid() const;
 
   /// Forward action for SRP packets. SRP_FWD_ACTION: 2 bits; on all chips but BCM56870_A0,
   /// BCM56770_A0, BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0.
-  U8 srpFwdAction() const;
+  VELMAR_NODISCARD U8 srpFwdAction() const;
   /// Sets SRP_FWD_ACTION.
   void srpFwdActionIs(U8 value);
   /// Width of SRP_FWD_ACTION in bits.
@@ -208,11 +209,11 @@ class VELMAR_EXPORT ProtocolPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of SRP_FWD_ACTION in the entry.
   U16 srpFwdActionOffset() const;
   /// Whether the view has SRP_FWD_ACTION.
-  bool isSrpFwdActionValid() const;
+  VELMAR_NODISCARD bool isSrpFwdActionValid() const;
 
   /// MMRP packets are copied to the CPU. MMRP_PKT_TO_CPU: 1 bit; on all chips but BCM56870_A0,
   /// BCM56770_A0, BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0.
-  U8 mmrpPktToCpu() const;
+  VELMAR_NODISCARD U8 mmrpPktToCpu() const;
   /// Sets MMRP_PKT_TO_CPU.
   void mmrpPktToCpuIs(U8 value);
   /// Width of MMRP_PKT_TO_CPU in bits.
@@ -220,11 +221,11 @@ class VELMAR_EXPORT ProtocolPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of MMRP_PKT_TO_CPU in the entry.
   U16 mmrpPktToCpuOffset() const;
   /// Whether the view has MMRP_PKT_TO_CPU.
-  bool isMmrpPktToCpuValid() const;
+  VELMAR_NODISCARD bool isMmrpPktToCpuValid() const;
 
   /// Forward action for MMRP packets. MMRP_FWD_ACTION: 2 bits; on all chips but BCM56870_A0,
   /// BCM56770_A0, BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0.
-  U8 mmrpFwdAction() const;
+  VELMAR_NODISCARD U8 mmrpFwdAction() const;
   /// Sets MMRP_FWD_ACTION.
   void mmrpFwdActionIs(U8 value);
   /// Width of MMRP_FWD_ACTION in bits.
@@ -232,7 +233,7 @@ class VELMAR_EXPORT ProtocolPktControl : public AsicUtils::BcmAsicBase {
   /// First bit of MMRP_FWD_ACTION in the entry.
   U16 mmrpFwdActionOffset() const;
   /// Whether the view has MMRP_FWD_ACTION.
-  bool isMmrpFwdActionValid() const;
+  VELMAR_NODISCARD bool isMmrpFwdActionValid() const;
 };
 
 }  // namespace Velmar

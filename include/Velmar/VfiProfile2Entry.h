@@ -3,6 +3,7 @@
 #pragma once
 
 #include "AsicUtils/BcmAsicBase.h"
+#include "AsicUtils/ChipType.h"
 #include "Oru/PerUnitBitmap.h"
 #include "Velmar/Export.h"
 
@@ -36,7 +37,7 @@ class VELMAR_EXPORT VfiProfile2Entry : public AsicUtils::BcmAsicBase {
   /// Does nothing.
   static void handleBuf(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
   /// Whether the constructor accepts the pair. Never fails.
-  static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
+  VELMAR_NODISCARD static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
   /// True.
   bool isPrimary() const;
   /// True: a memory.
@@ -50,22 +51,22 @@ class VELMAR_EXPORT VfiProfile2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of a field. An identifier that the class does not declare fails "false".
   U16 fieldOffset(U32 fieldId) const override;
   /// Whether the view has a field. Never fails.
-  bool isFieldValid(U32 fieldId) const override;
+  VELMAR_NODISCARD bool isFieldValid(U32 fieldId) const override;
   /// The entry with its reserved bits zero. Fails "len_ >= 128" if the buffer is shorter.
   Raw1024 getAllFields() const;
   /// A one at every bit of an entry that belongs to a field.
-  static Raw8192 allFieldsMask(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static Raw8192 allFieldsMask(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  Raw8192 allFieldsMask() const override;
+  VELMAR_NODISCARD Raw8192 allFieldsMask() const override;
   /// Number of fields that the chip has.
-  static U32 fieldCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 fieldCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 fieldCount() const override;
+  VELMAR_NODISCARD U32 fieldCount() const override;
 
   /// Whether an instance identifier is accepted.
-  static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
+  VELMAR_NODISCARD static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
   /// The same for the view's chip and variant.
-  bool hasIdentifier(U32 identifier) const override;
+  VELMAR_NODISCARD bool hasIdentifier(U32 identifier) const override;
   /// S-channel address, access code and block (1 ingress, 2 egress). Returns false and writes
   /// nothing if the chip or variant lacks the class. Fails "tableEntry < N", "arrayIndex == 0",
   /// "hasIdentifier( chipType, variant, identifier )".
@@ -76,35 +77,35 @@ class VELMAR_EXPORT VfiProfile2Entry : public AsicUtils::BcmAsicBase {
                        U16 arrayIndex) const override;
 
   /// Size of an entry in 32-bit words.
-  static U16 width(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 width(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U16 width() const override;
+  VELMAR_NODISCARD U16 width() const override;
   /// The same as width().
-  static U16 tableWidth(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 tableWidth(U32 chipType, U8 variant);
   /// 1.
-  static U32 arrayElements(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayElements(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayElements() const override;
+  VELMAR_NODISCARD U32 arrayElements() const override;
   /// Number of instances: 1.
-  static U32 instanceCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 instanceCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 instanceCount() const override;
+  VELMAR_NODISCARD U32 instanceCount() const override;
   /// Number of entries.
-  static U32 entries(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 entries(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 entries() const override;
+  VELMAR_NODISCARD U32 entries() const override;
   /// Lowest index of an entry: 0.
-  static U32 index_min(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 index_min(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 index_min() const;
+  VELMAR_NODISCARD U32 index_min() const;
   /// 0.
-  static U32 arrayIndex_min(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayIndex_min(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayIndex_min() const;
+  VELMAR_NODISCARD U32 arrayIndex_min() const;
   /// The ranges of valid indices.
-  static EntrySpans entrySpans(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static EntrySpans entrySpans(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  EntrySpans entrySpans() const override;
+  VELMAR_NODISCARD EntrySpans entrySpans() const override;
   /// 1 if the chip has the memory, else 0. Never fails.
   static U32 tableVariantCount(U32 chipType);
   /// The same for the view's chip.
@@ -113,7 +114,7 @@ class VELMAR_EXPORT VfiProfile2Entry : public AsicUtils::BcmAsicBase {
   static const AsicUtils::EntrySpan _entrySpans_BCM56470_A0[1];
 
   /// Block mask for broadcast. BCAST_MASK_SEL: 2 bits; on all chips.
-  U8 bcastMaskSel() const;
+  VELMAR_NODISCARD U8 bcastMaskSel() const;
   /// Sets BCAST_MASK_SEL.
   void bcastMaskSelIs(U8 value);
   /// Width of BCAST_MASK_SEL in bits.
@@ -121,10 +122,10 @@ class VELMAR_EXPORT VfiProfile2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of BCAST_MASK_SEL in the entry.
   U16 bcastMaskSelOffset() const;
   /// Whether the view has BCAST_MASK_SEL.
-  bool isBcastMaskSelValid() const;
+  VELMAR_NODISCARD bool isBcastMaskSelValid() const;
 
   /// Block mask for unknown unicast. UNKNOWN_UCAST_MASK_SEL: 2 bits; on all chips.
-  U8 unknownUcastMaskSel() const;
+  VELMAR_NODISCARD U8 unknownUcastMaskSel() const;
   /// Sets UNKNOWN_UCAST_MASK_SEL.
   void unknownUcastMaskSelIs(U8 value);
   /// Width of UNKNOWN_UCAST_MASK_SEL in bits.
@@ -132,10 +133,10 @@ class VELMAR_EXPORT VfiProfile2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of UNKNOWN_UCAST_MASK_SEL in the entry.
   U16 unknownUcastMaskSelOffset() const;
   /// Whether the view has UNKNOWN_UCAST_MASK_SEL.
-  bool isUnknownUcastMaskSelValid() const;
+  VELMAR_NODISCARD bool isUnknownUcastMaskSelValid() const;
 
   /// Block mask for known multicast. KNOWN_MCAST_MASK_SEL: 2 bits; on all chips.
-  U8 knownMcastMaskSel() const;
+  VELMAR_NODISCARD U8 knownMcastMaskSel() const;
   /// Sets KNOWN_MCAST_MASK_SEL.
   void knownMcastMaskSelIs(U8 value);
   /// Width of KNOWN_MCAST_MASK_SEL in bits.
@@ -143,10 +144,10 @@ class VELMAR_EXPORT VfiProfile2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of KNOWN_MCAST_MASK_SEL in the entry.
   U16 knownMcastMaskSelOffset() const;
   /// Whether the view has KNOWN_MCAST_MASK_SEL.
-  bool isKnownMcastMaskSelValid() const;
+  VELMAR_NODISCARD bool isKnownMcastMaskSelValid() const;
 
   /// Block mask for unknown multicast. UNKNOWN_MCAST_MASK_SEL: 2 bits; on all chips.
-  U8 unknownMcastMaskSel() const;
+  VELMAR_NODISCARD U8 unknownMcastMaskSel() const;
   /// Sets UNKNOWN_MCAST_MASK_SEL.
   void unknownMcastMaskSelIs(U8 value);
   /// Width of UNKNOWN_MCAST_MASK_SEL in bits.
@@ -154,10 +155,10 @@ class VELMAR_EXPORT VfiProfile2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of UNKNOWN_MCAST_MASK_SEL in the entry.
   U16 unknownMcastMaskSelOffset() const;
   /// Whether the view has UNKNOWN_MCAST_MASK_SEL.
-  bool isUnknownMcastMaskSelValid() const;
+  VELMAR_NODISCARD bool isUnknownMcastMaskSelValid() const;
 
   /// Block mask A. BLOCK_MASK_A: 132 bits, 72 from BCM56470_A0, 272 from BCM56990_B0; on all chips.
-  Oru::PerUnitBitmap blockMaskA() const;
+  VELMAR_NODISCARD Oru::PerUnitBitmap blockMaskA() const;
   /// Sets BLOCK_MASK_A.
   void blockMaskAIs(Oru::PerUnitBitmap value);
   /// Width of BLOCK_MASK_A in bits.
@@ -165,10 +166,10 @@ class VELMAR_EXPORT VfiProfile2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of BLOCK_MASK_A in the entry.
   U16 blockMaskAOffset() const;
   /// Whether the view has BLOCK_MASK_A.
-  bool isBlockMaskAValid() const;
+  VELMAR_NODISCARD bool isBlockMaskAValid() const;
 
   /// Block mask B. BLOCK_MASK_B: 132 bits, 72 from BCM56470_A0, 272 from BCM56990_B0; on all chips.
-  Oru::PerUnitBitmap blockMaskB() const;
+  VELMAR_NODISCARD Oru::PerUnitBitmap blockMaskB() const;
   /// Sets BLOCK_MASK_B.
   void blockMaskBIs(Oru::PerUnitBitmap value);
   /// Width of BLOCK_MASK_B in bits.
@@ -176,7 +177,7 @@ class VELMAR_EXPORT VfiProfile2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of BLOCK_MASK_B in the entry.
   U16 blockMaskBOffset() const;
   /// Whether the view has BLOCK_MASK_B.
-  bool isBlockMaskBValid() const;
+  VELMAR_NODISCARD bool isBlockMaskBValid() const;
 };
 
 }  // namespace Velmar

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "AsicUtils/BcmAsicBase.h"
+#include "AsicUtils/ChipType.h"
 #include "Velmar/Export.h"
 
 namespace Velmar {
@@ -34,7 +35,7 @@ class VELMAR_EXPORT VfiProfileEntry : public AsicUtils::BcmAsicBase {
   /// Does nothing.
   static void handleBuf(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
   /// Whether the constructor accepts the pair. Never fails.
-  static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
+  VELMAR_NODISCARD static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
   /// True.
   bool isPrimary() const;
   /// True: a memory.
@@ -48,22 +49,22 @@ class VELMAR_EXPORT VfiProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of a field. An identifier that the class does not declare fails "false".
   U16 fieldOffset(U32 fieldId) const override;
   /// Whether the view has a field. Never fails.
-  bool isFieldValid(U32 fieldId) const override;
+  VELMAR_NODISCARD bool isFieldValid(U32 fieldId) const override;
   /// The entry with its reserved bits zero. Fails "len_ >= 8" if the buffer is shorter.
   U64 getAllFields() const;
   /// A one at every bit of an entry that belongs to a field.
-  static Raw8192 allFieldsMask(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static Raw8192 allFieldsMask(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  Raw8192 allFieldsMask() const override;
+  VELMAR_NODISCARD Raw8192 allFieldsMask() const override;
   /// Number of fields that the chip has.
-  static U32 fieldCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 fieldCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 fieldCount() const override;
+  VELMAR_NODISCARD U32 fieldCount() const override;
 
   /// Whether an instance identifier is accepted.
-  static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
+  VELMAR_NODISCARD static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
   /// The same for the view's chip and variant.
-  bool hasIdentifier(U32 identifier) const override;
+  VELMAR_NODISCARD bool hasIdentifier(U32 identifier) const override;
   /// S-channel address, access code and block (1 ingress, 2 egress). Returns false and writes
   /// nothing if the chip or variant lacks the class. Fails "tableEntry < N", "arrayIndex == 0",
   /// "hasIdentifier( chipType, variant, identifier )".
@@ -74,35 +75,35 @@ class VELMAR_EXPORT VfiProfileEntry : public AsicUtils::BcmAsicBase {
                        U16 arrayIndex) const override;
 
   /// Size of an entry in 32-bit words.
-  static U16 width(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 width(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U16 width() const override;
+  VELMAR_NODISCARD U16 width() const override;
   /// The same as width().
-  static U16 tableWidth(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 tableWidth(U32 chipType, U8 variant);
   /// 1.
-  static U32 arrayElements(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayElements(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayElements() const override;
+  VELMAR_NODISCARD U32 arrayElements() const override;
   /// Number of instances: 1.
-  static U32 instanceCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 instanceCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 instanceCount() const override;
+  VELMAR_NODISCARD U32 instanceCount() const override;
   /// Number of entries.
-  static U32 entries(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 entries(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 entries() const override;
+  VELMAR_NODISCARD U32 entries() const override;
   /// Lowest index of an entry: 0.
-  static U32 index_min(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 index_min(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 index_min() const;
+  VELMAR_NODISCARD U32 index_min() const;
   /// 0.
-  static U32 arrayIndex_min(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayIndex_min(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayIndex_min() const;
+  VELMAR_NODISCARD U32 arrayIndex_min() const;
   /// The ranges of valid indices.
-  static EntrySpans entrySpans(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static EntrySpans entrySpans(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  EntrySpans entrySpans() const override;
+  VELMAR_NODISCARD EntrySpans entrySpans() const override;
   /// 1 if the chip has the memory, else 0. Never fails.
   static U32 tableVariantCount(U32 chipType);
   /// The same for the view's chip.
@@ -111,7 +112,7 @@ class VELMAR_EXPORT VfiProfileEntry : public AsicUtils::BcmAsicBase {
   static const AsicUtils::EntrySpan _entrySpans_BCM56470_A0[1];
 
   /// IPv4 multicast is forwarded on layer 2. IPMCV4_L2_ENABLE: 1 bit; on all chips.
-  U8 ipmcv4L2Enable() const;
+  VELMAR_NODISCARD U8 ipmcv4L2Enable() const;
   /// Sets IPMCV4_L2_ENABLE.
   void ipmcv4L2EnableIs(U8 value);
   /// Width of IPMCV4_L2_ENABLE in bits.
@@ -119,10 +120,10 @@ class VELMAR_EXPORT VfiProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of IPMCV4_L2_ENABLE in the entry.
   U16 ipmcv4L2EnableOffset() const;
   /// Whether the view has IPMCV4_L2_ENABLE.
-  bool isIpmcv4L2EnableValid() const;
+  VELMAR_NODISCARD bool isIpmcv4L2EnableValid() const;
 
   /// IPv6 multicast is forwarded on layer 2. IPMCV6_L2_ENABLE: 1 bit; on all chips.
-  U8 ipmcv6L2Enable() const;
+  VELMAR_NODISCARD U8 ipmcv6L2Enable() const;
   /// Sets IPMCV6_L2_ENABLE.
   void ipmcv6L2EnableIs(U8 value);
   /// Width of IPMCV6_L2_ENABLE in bits.
@@ -130,10 +131,10 @@ class VELMAR_EXPORT VfiProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of IPMCV6_L2_ENABLE in the entry.
   U16 ipmcv6L2EnableOffset() const;
   /// Whether the view has IPMCV6_L2_ENABLE.
-  bool isIpmcv6L2EnableValid() const;
+  VELMAR_NODISCARD bool isIpmcv6L2EnableValid() const;
 
   /// The ingress filter is enabled. EN_IFILTER: 1 bit; on all chips.
-  U8 enIfilter() const;
+  VELMAR_NODISCARD U8 enIfilter() const;
   /// Sets EN_IFILTER.
   void enIfilterIs(U8 value);
   /// Width of EN_IFILTER in bits.
@@ -141,10 +142,10 @@ class VELMAR_EXPORT VfiProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of EN_IFILTER in the entry.
   U16 enIfilterOffset() const;
   /// Whether the view has EN_IFILTER.
-  bool isEnIfilterValid() const;
+  VELMAR_NODISCARD bool isEnIfilterValid() const;
 
   /// Packet flow selection control id. PKT_FLOW_SELECT_CTRL_ID_2: 16 bits; on all chips.
-  U16 pktFlowSelectCtrlId2() const;
+  VELMAR_NODISCARD U16 pktFlowSelectCtrlId2() const;
   /// Sets PKT_FLOW_SELECT_CTRL_ID_2.
   void pktFlowSelectCtrlId2Is(U16 value);
   /// Width of PKT_FLOW_SELECT_CTRL_ID_2 in bits.
@@ -152,10 +153,10 @@ class VELMAR_EXPORT VfiProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of PKT_FLOW_SELECT_CTRL_ID_2 in the entry.
   U16 pktFlowSelectCtrlId2Offset() const;
   /// Whether the view has PKT_FLOW_SELECT_CTRL_ID_2.
-  bool isPktFlowSelectCtrlId2Valid() const;
+  VELMAR_NODISCARD bool isPktFlowSelectCtrlId2Valid() const;
 
   /// Layer-2 misses are dropped. L2_MISS_DROP: 1 bit; on all chips.
-  U8 l2MissDrop() const;
+  VELMAR_NODISCARD U8 l2MissDrop() const;
   /// Sets L2_MISS_DROP.
   void l2MissDropIs(U8 value);
   /// Width of L2_MISS_DROP in bits.
@@ -163,10 +164,10 @@ class VELMAR_EXPORT VfiProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of L2_MISS_DROP in the entry.
   U16 l2MissDropOffset() const;
   /// Whether the view has L2_MISS_DROP.
-  bool isL2MissDropValid() const;
+  VELMAR_NODISCARD bool isL2MissDropValid() const;
 
   /// Layer-2 misses are copied to the CPU. L2_MISS_TOCPU: 1 bit; on all chips.
-  U8 l2MissTocpu() const;
+  VELMAR_NODISCARD U8 l2MissTocpu() const;
   /// Sets L2_MISS_TOCPU.
   void l2MissTocpuIs(U8 value);
   /// Width of L2_MISS_TOCPU in bits.
@@ -174,10 +175,10 @@ class VELMAR_EXPORT VfiProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of L2_MISS_TOCPU in the entry.
   U16 l2MissTocpuOffset() const;
   /// Whether the view has L2_MISS_TOCPU.
-  bool isL2MissTocpuValid() const;
+  VELMAR_NODISCARD bool isL2MissTocpuValid() const;
 
   /// Layer-2 non-unicast is dropped. L2_NON_UCAST_DROP: 1 bit; on all chips.
-  U8 l2NonUcastDrop() const;
+  VELMAR_NODISCARD U8 l2NonUcastDrop() const;
   /// Sets L2_NON_UCAST_DROP.
   void l2NonUcastDropIs(U8 value);
   /// Width of L2_NON_UCAST_DROP in bits.
@@ -185,10 +186,10 @@ class VELMAR_EXPORT VfiProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of L2_NON_UCAST_DROP in the entry.
   U16 l2NonUcastDropOffset() const;
   /// Whether the view has L2_NON_UCAST_DROP.
-  bool isL2NonUcastDropValid() const;
+  VELMAR_NODISCARD bool isL2NonUcastDropValid() const;
 
   /// Layer-2 non-unicast is copied to the CPU. L2_NON_UCAST_TOCPU: 1 bit; on all chips.
-  U8 l2NonUcastTocpu() const;
+  VELMAR_NODISCARD U8 l2NonUcastTocpu() const;
   /// Sets L2_NON_UCAST_TOCPU.
   void l2NonUcastTocpuIs(U8 value);
   /// Width of L2_NON_UCAST_TOCPU in bits.
@@ -196,10 +197,10 @@ class VELMAR_EXPORT VfiProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of L2_NON_UCAST_TOCPU in the entry.
   U16 l2NonUcastTocpuOffset() const;
   /// Whether the view has L2_NON_UCAST_TOCPU.
-  bool isL2NonUcastTocpuValid() const;
+  VELMAR_NODISCARD bool isL2NonUcastTocpuValid() const;
 
   /// Learning is disabled. LEARN_DISABLE: 1 bit; on all chips.
-  U8 learnDisable() const;
+  VELMAR_NODISCARD U8 learnDisable() const;
   /// Sets LEARN_DISABLE.
   void learnDisableIs(U8 value);
   /// Width of LEARN_DISABLE in bits.
@@ -207,7 +208,7 @@ class VELMAR_EXPORT VfiProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of LEARN_DISABLE in the entry.
   U16 learnDisableOffset() const;
   /// Whether the view has LEARN_DISABLE.
-  bool isLearnDisableValid() const;
+  VELMAR_NODISCARD bool isLearnDisableValid() const;
 };
 
 }  // namespace Velmar

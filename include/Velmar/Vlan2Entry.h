@@ -3,6 +3,7 @@
 #pragma once
 
 #include "AsicUtils/BcmAsicBase.h"
+#include "AsicUtils/ChipType.h"
 #include "Oru/PerUnitBitmap.h"
 #include "Velmar/Export.h"
 
@@ -35,7 +36,7 @@ class VELMAR_EXPORT Vlan2Entry : public AsicUtils::BcmAsicBase {
   /// Does nothing.
   static void handleBuf(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
   /// Whether the constructor accepts the pair. Never fails.
-  static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
+  VELMAR_NODISCARD static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
   /// True.
   bool isPrimary() const;
   /// True: a memory.
@@ -49,22 +50,22 @@ class VELMAR_EXPORT Vlan2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of a field. An identifier that the class does not declare fails "false".
   U16 fieldOffset(U32 fieldId) const override;
   /// Whether the view has a field. Never fails.
-  bool isFieldValid(U32 fieldId) const override;
+  VELMAR_NODISCARD bool isFieldValid(U32 fieldId) const override;
   /// The entry with its reserved bits zero. Fails "len_ >= 64" if the buffer is shorter.
   Raw512 getAllFields() const;
   /// A one at every bit of an entry that belongs to a field.
-  static Raw8192 allFieldsMask(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static Raw8192 allFieldsMask(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  Raw8192 allFieldsMask() const override;
+  VELMAR_NODISCARD Raw8192 allFieldsMask() const override;
   /// Number of fields that the chip has.
-  static U32 fieldCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 fieldCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 fieldCount() const override;
+  VELMAR_NODISCARD U32 fieldCount() const override;
 
   /// Whether an instance identifier is accepted.
-  static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
+  VELMAR_NODISCARD static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
   /// The same for the view's chip and variant.
-  bool hasIdentifier(U32 identifier) const override;
+  VELMAR_NODISCARD bool hasIdentifier(U32 identifier) const override;
   /// S-channel address, access code and block (1 ingress, 2 egress). Returns false and writes
   /// nothing if the chip or variant lacks the class. Fails "tableEntry < N", "arrayIndex == 0",
   /// "hasIdentifier( chipType, variant, identifier )".
@@ -75,35 +76,35 @@ class VELMAR_EXPORT Vlan2Entry : public AsicUtils::BcmAsicBase {
                        U16 arrayIndex) const override;
 
   /// Size of an entry in 32-bit words.
-  static U16 width(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 width(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U16 width() const override;
+  VELMAR_NODISCARD U16 width() const override;
   /// The same as width().
-  static U16 tableWidth(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 tableWidth(U32 chipType, U8 variant);
   /// 1.
-  static U32 arrayElements(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayElements(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayElements() const override;
+  VELMAR_NODISCARD U32 arrayElements() const override;
   /// Number of instances: 1.
-  static U32 instanceCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 instanceCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 instanceCount() const override;
+  VELMAR_NODISCARD U32 instanceCount() const override;
   /// Number of entries.
-  static U32 entries(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 entries(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 entries() const override;
+  VELMAR_NODISCARD U32 entries() const override;
   /// Lowest index of an entry: 0.
-  static U32 index_min(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 index_min(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 index_min() const;
+  VELMAR_NODISCARD U32 index_min() const;
   /// 0.
-  static U32 arrayIndex_min(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayIndex_min(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayIndex_min() const;
+  VELMAR_NODISCARD U32 arrayIndex_min() const;
   /// The ranges of valid indices.
-  static EntrySpans entrySpans(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static EntrySpans entrySpans(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  EntrySpans entrySpans() const override;
+  VELMAR_NODISCARD EntrySpans entrySpans() const override;
   /// 1 if the chip has the memory, else 0. Never fails.
   static U32 tableVariantCount(U32 chipType);
   /// The same for the view's chip.
@@ -112,7 +113,7 @@ class VELMAR_EXPORT Vlan2Entry : public AsicUtils::BcmAsicBase {
   static const AsicUtils::EntrySpan _entrySpans_BCM56970_A0[1];
 
   /// The entry is valid. VALID: 1 bit; on all chips.
-  U8 valid() const;
+  VELMAR_NODISCARD U8 valid() const;
   /// Sets VALID.
   void validIs(U8 value);
   /// Width of VALID in bits.
@@ -120,10 +121,10 @@ class VELMAR_EXPORT Vlan2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of VALID in the entry.
   U16 validOffset() const;
   /// Whether the view has VALID.
-  bool isValidValid() const;
+  VELMAR_NODISCARD bool isValidValid() const;
 
   /// Spanning-tree group. STG: 9 bits, 6 from BCM56980_A0; on all chips.
-  U16 stg() const;
+  VELMAR_NODISCARD U16 stg() const;
   /// Sets STG.
   void stgIs(U16 value);
   /// Width of STG in bits.
@@ -131,10 +132,10 @@ class VELMAR_EXPORT Vlan2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of STG in the entry.
   U16 stgOffset() const;
   /// Whether the view has STG.
-  bool isStgValid() const;
+  VELMAR_NODISCARD bool isStgValid() const;
 
   /// Index of the port bitmap profile. PORT_BITMAP_PROFILE_PTR: 10 bits; on BCM56980_A0.
-  U16 portBitmapProfilePtr() const;
+  VELMAR_NODISCARD U16 portBitmapProfilePtr() const;
   /// Sets PORT_BITMAP_PROFILE_PTR.
   void portBitmapProfilePtrIs(U16 value);
   /// Width of PORT_BITMAP_PROFILE_PTR in bits.
@@ -142,10 +143,10 @@ class VELMAR_EXPORT Vlan2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of PORT_BITMAP_PROFILE_PTR in the entry.
   U16 portBitmapProfilePtrOffset() const;
   /// Whether the view has PORT_BITMAP_PROFILE_PTR.
-  bool isPortBitmapProfilePtrValid() const;
+  VELMAR_NODISCARD bool isPortBitmapProfilePtrValid() const;
 
   /// Ingress member ports. ING_PORT_BITMAP: 136 bits, 160 from BCM56980_A0; on all chips.
-  Oru::PerUnitBitmap ingPortBitmap() const;
+  VELMAR_NODISCARD Oru::PerUnitBitmap ingPortBitmap() const;
   /// Sets ING_PORT_BITMAP.
   void ingPortBitmapIs(Oru::PerUnitBitmap value);
   /// Width of ING_PORT_BITMAP in bits.
@@ -153,10 +154,10 @@ class VELMAR_EXPORT Vlan2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of ING_PORT_BITMAP in the entry.
   U16 ingPortBitmapOffset() const;
   /// Whether the view has ING_PORT_BITMAP.
-  bool isIngPortBitmapValid() const;
+  VELMAR_NODISCARD bool isIngPortBitmapValid() const;
 
   /// Member ports. PORT_BITMAP: 136 bits; on BCM56970_A0.
-  Oru::PerUnitBitmap portBitmap() const;
+  VELMAR_NODISCARD Oru::PerUnitBitmap portBitmap() const;
   /// Sets PORT_BITMAP.
   void portBitmapIs(Oru::PerUnitBitmap value);
   /// Width of PORT_BITMAP in bits.
@@ -164,7 +165,7 @@ class VELMAR_EXPORT Vlan2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of PORT_BITMAP in the entry.
   U16 portBitmapOffset() const;
   /// Whether the view has PORT_BITMAP.
-  bool isPortBitmapValid() const;
+  VELMAR_NODISCARD bool isPortBitmapValid() const;
 };
 
 }  // namespace Velmar

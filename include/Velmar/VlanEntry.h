@@ -3,6 +3,7 @@
 #pragma once
 
 #include "AsicUtils/BcmAsicBase.h"
+#include "AsicUtils/ChipType.h"
 #include "Oru/PerUnitBitmap.h"
 #include "Velmar/Export.h"
 
@@ -37,7 +38,7 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   /// Does nothing.
   static void handleBuf(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
   /// Whether the constructor accepts the pair. Never fails.
-  static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
+  VELMAR_NODISCARD static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
   /// True.
   bool isPrimary() const;
   /// True: a memory.
@@ -51,22 +52,22 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of a field. An identifier that the class does not declare fails "false".
   U16 fieldOffset(U32 fieldId) const override;
   /// Whether the view has a field. Never fails.
-  bool isFieldValid(U32 fieldId) const override;
+  VELMAR_NODISCARD bool isFieldValid(U32 fieldId) const override;
   /// The entry with its reserved bits zero. Fails "len_ >= 64" if the buffer is shorter.
   Raw512 getAllFields() const;
   /// A one at every bit of an entry that belongs to a field.
-  static Raw8192 allFieldsMask(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static Raw8192 allFieldsMask(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  Raw8192 allFieldsMask() const override;
+  VELMAR_NODISCARD Raw8192 allFieldsMask() const override;
   /// Number of fields that the chip has.
-  static U32 fieldCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 fieldCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 fieldCount() const override;
+  VELMAR_NODISCARD U32 fieldCount() const override;
 
   /// Whether an instance identifier is accepted.
-  static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
+  VELMAR_NODISCARD static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
   /// The same for the view's chip and variant.
-  bool hasIdentifier(U32 identifier) const override;
+  VELMAR_NODISCARD bool hasIdentifier(U32 identifier) const override;
   /// S-channel address, access code and block (1 ingress, 2 egress). Returns false and writes
   /// nothing if the chip or variant lacks the class. Fails "tableEntry < N", "arrayIndex == 0",
   /// "hasIdentifier( chipType, variant, identifier )".
@@ -77,35 +78,35 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
                        U16 arrayIndex) const override;
 
   /// Size of an entry in 32-bit words.
-  static U16 width(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 width(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U16 width() const override;
+  VELMAR_NODISCARD U16 width() const override;
   /// The same as width().
-  static U16 tableWidth(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 tableWidth(U32 chipType, U8 variant);
   /// 1.
-  static U32 arrayElements(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayElements(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayElements() const override;
+  VELMAR_NODISCARD U32 arrayElements() const override;
   /// Number of instances: 1.
-  static U32 instanceCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 instanceCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 instanceCount() const override;
+  VELMAR_NODISCARD U32 instanceCount() const override;
   /// Number of entries.
-  static U32 entries(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 entries(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 entries() const override;
+  VELMAR_NODISCARD U32 entries() const override;
   /// Lowest index of an entry: 0.
-  static U32 index_min(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 index_min(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 index_min() const;
+  VELMAR_NODISCARD U32 index_min() const;
   /// 0.
-  static U32 arrayIndex_min(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayIndex_min(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayIndex_min() const;
+  VELMAR_NODISCARD U32 arrayIndex_min() const;
   /// The ranges of valid indices.
-  static EntrySpans entrySpans(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static EntrySpans entrySpans(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  EntrySpans entrySpans() const override;
+  VELMAR_NODISCARD EntrySpans entrySpans() const override;
   /// 1 if the chip has the memory, else 0. Never fails.
   static U32 tableVariantCount(U32 chipType);
   /// The same for the view's chip.
@@ -116,7 +117,7 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   static const AsicUtils::EntrySpan _entrySpans_BCM56996_A0[1];
 
   /// The entry is valid. VALID: 1 bit; on all chips.
-  U8 valid() const;
+  VELMAR_NODISCARD U8 valid() const;
   /// Sets VALID.
   void validIs(U8 value);
   /// Width of VALID in bits.
@@ -124,10 +125,10 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of VALID in the entry.
   U16 validOffset() const;
   /// Whether the view has VALID.
-  bool isValidValid() const;
+  VELMAR_NODISCARD bool isValidValid() const;
 
   /// Forwarding id. FID_ID: 12 bits, 13 from BCM56990_B0; on all chips.
-  U16 fidId() const;
+  VELMAR_NODISCARD U16 fidId() const;
   /// Sets FID_ID.
   void fidIdIs(U16 value);
   /// Width of FID_ID in bits.
@@ -135,11 +136,11 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of FID_ID in the entry.
   U16 fidIdOffset() const;
   /// Whether the view has FID_ID.
-  bool isFidIdValid() const;
+  VELMAR_NODISCARD bool isFidIdValid() const;
 
   /// IGMP/MLD snooping is enabled. ENABLE_IGMP_MLD_SNOOPING: 1 bit; on all chips but BCM56870_A0,
   /// BCM56770_A0, BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0.
-  U8 enableIgmpMldSnooping() const;
+  VELMAR_NODISCARD U8 enableIgmpMldSnooping() const;
   /// Sets ENABLE_IGMP_MLD_SNOOPING.
   void enableIgmpMldSnoopingIs(U8 value);
   /// Width of ENABLE_IGMP_MLD_SNOOPING in bits.
@@ -147,10 +148,10 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of ENABLE_IGMP_MLD_SNOOPING in the entry.
   U16 enableIgmpMldSnoopingOffset() const;
   /// Whether the view has ENABLE_IGMP_MLD_SNOOPING.
-  bool isEnableIgmpMldSnoopingValid() const;
+  VELMAR_NODISCARD bool isEnableIgmpMldSnoopingValid() const;
 
   /// VLAN class id. VLAN_CLASS_ID: 12 bits; on all chips.
-  U16 vlanClassId() const;
+  VELMAR_NODISCARD U16 vlanClassId() const;
   /// Sets VLAN_CLASS_ID.
   void vlanClassIdIs(U16 value);
   /// Width of VLAN_CLASS_ID in bits.
@@ -158,11 +159,11 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of VLAN_CLASS_ID in the entry.
   U16 vlanClassIdOffset() const;
   /// Whether the view has VLAN_CLASS_ID.
-  bool isVlanClassIdValid() const;
+  VELMAR_NODISCARD bool isVlanClassIdValid() const;
 
   /// Spanning-tree group. STG: 9 bits, 8 from BCM56275_A0, 6 from BCM56990_B0; on all chips but
   /// BCM56970_A0, BCM56980_A0.
-  U16 stg() const;
+  VELMAR_NODISCARD U16 stg() const;
   /// Sets STG.
   void stgIs(U16 value);
   /// Width of STG in bits.
@@ -170,10 +171,10 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of STG in the entry.
   U16 stgOffset() const;
   /// Whether the view has STG.
-  bool isStgValid() const;
+  VELMAR_NODISCARD bool isStgValid() const;
 
   /// Index of the VLAN profile. VLAN_PROFILE_PTR: 7 bits; on all chips.
-  U8 vlanProfilePtr() const;
+  VELMAR_NODISCARD U8 vlanProfilePtr() const;
   /// Sets VLAN_PROFILE_PTR.
   void vlanProfilePtrIs(U8 value);
   /// Width of VLAN_PROFILE_PTR in bits.
@@ -181,10 +182,10 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of VLAN_PROFILE_PTR in the entry.
   U16 vlanProfilePtrOffset() const;
   /// Whether the view has VLAN_PROFILE_PTR.
-  bool isVlanProfilePtrValid() const;
+  VELMAR_NODISCARD bool isVlanProfilePtrValid() const;
 
   /// Ingress member ports. ING_PORT_BITMAP: 136 bits; on BCM56960_A0, BCM56965_A0, BCM56968_A0.
-  Oru::PerUnitBitmap ingPortBitmap() const;
+  VELMAR_NODISCARD Oru::PerUnitBitmap ingPortBitmap() const;
   /// Sets ING_PORT_BITMAP.
   void ingPortBitmapIs(Oru::PerUnitBitmap value);
   /// Width of ING_PORT_BITMAP in bits.
@@ -192,11 +193,11 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of ING_PORT_BITMAP in the entry.
   U16 ingPortBitmapOffset() const;
   /// Whether the view has ING_PORT_BITMAP.
-  bool isIngPortBitmapValid() const;
+  VELMAR_NODISCARD bool isIngPortBitmapValid() const;
 
   /// Member ports. PORT_BITMAP: 136 bits, 132 from BCM56870_A0, 72 from BCM56470_A0; on all chips
   /// but BCM56970_A0, BCM56980_A0, BCM56990_B0, BCM56992_B0, BCM56993_B0, BCM56996_A0, BCM56996_B0.
-  Oru::PerUnitBitmap portBitmap() const;
+  VELMAR_NODISCARD Oru::PerUnitBitmap portBitmap() const;
   /// Sets PORT_BITMAP.
   void portBitmapIs(Oru::PerUnitBitmap value);
   /// Width of PORT_BITMAP in bits.
@@ -204,11 +205,11 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of PORT_BITMAP in the entry.
   U16 portBitmapOffset() const;
   /// Whether the view has PORT_BITMAP.
-  bool isPortBitmapValid() const;
+  VELMAR_NODISCARD bool isPortBitmapValid() const;
 
   /// Virtual forwarding instance. VFI: 14 bits, 12 from BCM56370_A0, 10 from BCM56275_A0, 9 from
   /// BCM56175_A0; on BCM56870_A0, BCM56770_A0, BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0.
-  U16 vfi() const;
+  VELMAR_NODISCARD U16 vfi() const;
   /// Sets VFI.
   void vfiIs(U16 value);
   /// Width of VFI in bits.
@@ -216,11 +217,11 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of VFI in the entry.
   U16 vfiOffset() const;
   /// Whether the view has VFI.
-  bool isVfiValid() const;
+  VELMAR_NODISCARD bool isVfiValid() const;
 
   /// Index of the membership profile. MEMBERSHIP_PROFILE_PTR: 12 bits; on all chips but
   /// BCM56960_A0, BCM56965_A0, BCM56968_A0, BCM56970_A0, BCM56980_A0.
-  U16 membershipProfilePtr() const;
+  VELMAR_NODISCARD U16 membershipProfilePtr() const;
   /// Sets MEMBERSHIP_PROFILE_PTR.
   void membershipProfilePtrIs(U16 value);
   /// Width of MEMBERSHIP_PROFILE_PTR in bits.
@@ -228,11 +229,11 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of MEMBERSHIP_PROFILE_PTR in the entry.
   U16 membershipProfilePtrOffset() const;
   /// Whether the view has MEMBERSHIP_PROFILE_PTR.
-  bool isMembershipProfilePtrValid() const;
+  VELMAR_NODISCARD bool isMembershipProfilePtrValid() const;
 
   /// Index of the port bitmap profile. PORT_BITMAP_PROFILE_PTR: 11 bits; on BCM56990_B0,
   /// BCM56992_B0, BCM56993_B0, BCM56996_A0, BCM56996_B0.
-  U16 portBitmapProfilePtr() const;
+  VELMAR_NODISCARD U16 portBitmapProfilePtr() const;
   /// Sets PORT_BITMAP_PROFILE_PTR.
   void portBitmapProfilePtrIs(U16 value);
   /// Width of PORT_BITMAP_PROFILE_PTR in bits.
@@ -240,11 +241,11 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of PORT_BITMAP_PROFILE_PTR in the entry.
   U16 portBitmapProfilePtrOffset() const;
   /// Whether the view has PORT_BITMAP_PROFILE_PTR.
-  bool isPortBitmapProfilePtrValid() const;
+  VELMAR_NODISCARD bool isPortBitmapProfilePtrValid() const;
 
   /// The ingress filter is enabled. EN_IFILTER: 1 bit; on BCM56870_A0, BCM56770_A0, BCM56470_A0,
   /// BCM56370_A0, BCM56275_A0, BCM56175_A0.
-  U8 enIfilter() const;
+  VELMAR_NODISCARD U8 enIfilter() const;
   /// Sets EN_IFILTER.
   void enIfilterIs(U8 value);
   /// Width of EN_IFILTER in bits.
@@ -252,11 +253,11 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of EN_IFILTER in the entry.
   U16 enIfilterOffset() const;
   /// Whether the view has EN_IFILTER.
-  bool isEnIfilterValid() const;
+  VELMAR_NODISCARD bool isEnIfilterValid() const;
 
   /// Layer-3 ingress interface. L3_IIF: 14 bits, 13 from BCM56370_A0, 11 from BCM56275_A0, 10 from
   /// BCM56175_A0; on BCM56870_A0, BCM56770_A0, BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0.
-  U16 l3Iif() const;
+  VELMAR_NODISCARD U16 l3Iif() const;
   /// Sets L3_IIF.
   void l3IifIs(U16 value);
   /// Width of L3_IIF in bits.
@@ -264,10 +265,10 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of L3_IIF in the entry.
   U16 l3IifOffset() const;
   /// Whether the view has L3_IIF.
-  bool isL3IifValid() const;
+  VELMAR_NODISCARD bool isL3IifValid() const;
 
   /// Virtual ports are enabled. VIRTUAL_PORT_EN: 1 bit; on all chips but BCM56980_A0.
-  U8 virtualPortEn() const;
+  VELMAR_NODISCARD U8 virtualPortEn() const;
   /// Sets VIRTUAL_PORT_EN.
   void virtualPortEnIs(U8 value);
   /// Width of VIRTUAL_PORT_EN in bits.
@@ -275,11 +276,11 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of VIRTUAL_PORT_EN in the entry.
   U16 virtualPortEnOffset() const;
   /// Whether the view has VIRTUAL_PORT_EN.
-  bool isVirtualPortEnValid() const;
+  VELMAR_NODISCARD bool isVirtualPortEnValid() const;
 
   /// Learning is disabled. LEARN_DISABLE: 1 bit; on BCM56990_B0, BCM56992_B0, BCM56993_B0,
   /// BCM56996_A0, BCM56996_B0.
-  U8 learnDisable() const;
+  VELMAR_NODISCARD U8 learnDisable() const;
   /// Sets LEARN_DISABLE.
   void learnDisableIs(U8 value);
   /// Width of LEARN_DISABLE in bits.
@@ -287,10 +288,10 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of LEARN_DISABLE in the entry.
   U16 learnDisableOffset() const;
   /// Whether the view has LEARN_DISABLE.
-  bool isLearnDisableValid() const;
+  VELMAR_NODISCARD bool isLearnDisableValid() const;
 
   /// Key type of the layer-2 entry. L2_ENTRY_KEY_TYPE: 2 bits; on all chips.
-  U8 l2EntryKeyType() const;
+  VELMAR_NODISCARD U8 l2EntryKeyType() const;
   /// Sets L2_ENTRY_KEY_TYPE.
   void l2EntryKeyTypeIs(U8 value);
   /// Width of L2_ENTRY_KEY_TYPE in bits.
@@ -298,11 +299,11 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of L2_ENTRY_KEY_TYPE in the entry.
   U16 l2EntryKeyTypeOffset() const;
   /// Whether the view has L2_ENTRY_KEY_TYPE.
-  bool isL2EntryKeyTypeValid() const;
+  VELMAR_NODISCARD bool isL2EntryKeyTypeValid() const;
 
   /// Flexible counter action. FLEX_CTR_ACTION: 5 bits; on BCM56990_B0, BCM56992_B0, BCM56993_B0,
   /// BCM56996_A0, BCM56996_B0.
-  U8 flexCtrAction() const;
+  VELMAR_NODISCARD U8 flexCtrAction() const;
   /// Sets FLEX_CTR_ACTION.
   void flexCtrActionIs(U8 value);
   /// Width of FLEX_CTR_ACTION in bits.
@@ -310,11 +311,11 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of FLEX_CTR_ACTION in the entry.
   U16 flexCtrActionOffset() const;
   /// Whether the view has FLEX_CTR_ACTION.
-  bool isFlexCtrActionValid() const;
+  VELMAR_NODISCARD bool isFlexCtrActionValid() const;
 
   /// Unknown unicast flood index. UUC_IDX: 13 bits, 9 from BCM56980_A0; on all chips but
   /// BCM56870_A0, BCM56770_A0, BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0.
-  U16 uucIdx() const;
+  VELMAR_NODISCARD U16 uucIdx() const;
   /// Sets UUC_IDX.
   void uucIdxIs(U16 value);
   /// Width of UUC_IDX in bits.
@@ -322,11 +323,11 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of UUC_IDX in the entry.
   U16 uucIdxOffset() const;
   /// Whether the view has UUC_IDX.
-  bool isUucIdxValid() const;
+  VELMAR_NODISCARD bool isUucIdxValid() const;
 
   /// Unknown multicast flood index. UMC_IDX: 13 bits, 9 from BCM56980_A0; on all chips but
   /// BCM56870_A0, BCM56770_A0, BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0.
-  U16 umcIdx() const;
+  VELMAR_NODISCARD U16 umcIdx() const;
   /// Sets UMC_IDX.
   void umcIdxIs(U16 value);
   /// Width of UMC_IDX in bits.
@@ -334,11 +335,11 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of UMC_IDX in the entry.
   U16 umcIdxOffset() const;
   /// Whether the view has UMC_IDX.
-  bool isUmcIdxValid() const;
+  VELMAR_NODISCARD bool isUmcIdxValid() const;
 
   /// Broadcast flood index. BC_IDX: 13 bits, 9 from BCM56980_A0; on all chips but BCM56870_A0,
   /// BCM56770_A0, BCM56470_A0, BCM56370_A0, BCM56275_A0, BCM56175_A0.
-  U16 bcIdx() const;
+  VELMAR_NODISCARD U16 bcIdx() const;
   /// Sets BC_IDX.
   void bcIdxIs(U16 value);
   /// Width of BC_IDX in bits.
@@ -346,7 +347,7 @@ class VELMAR_EXPORT VlanEntry : public AsicUtils::BcmAsicBase {
   /// First bit of BC_IDX in the entry.
   U16 bcIdxOffset() const;
   /// Whether the view has BC_IDX.
-  bool isBcIdxValid() const;
+  VELMAR_NODISCARD bool isBcIdxValid() const;
 };
 
 }  // namespace Velmar

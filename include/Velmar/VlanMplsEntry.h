@@ -3,6 +3,7 @@
 #pragma once
 
 #include "AsicUtils/BcmAsicBase.h"
+#include "AsicUtils/ChipType.h"
 #include "Velmar/Export.h"
 
 namespace Velmar {
@@ -35,7 +36,7 @@ class VELMAR_EXPORT VlanMplsEntry : public AsicUtils::BcmAsicBase {
   /// Does nothing.
   static void handleBuf(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
   /// Whether the constructor accepts the pair. Never fails.
-  static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
+  VELMAR_NODISCARD static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
   /// True.
   bool isPrimary() const;
   /// True: a memory.
@@ -49,22 +50,22 @@ class VELMAR_EXPORT VlanMplsEntry : public AsicUtils::BcmAsicBase {
   /// First bit of a field. An identifier that the class does not declare fails "false".
   U16 fieldOffset(U32 fieldId) const override;
   /// Whether the view has a field. Never fails.
-  bool isFieldValid(U32 fieldId) const override;
+  VELMAR_NODISCARD bool isFieldValid(U32 fieldId) const override;
   /// The entry with its reserved bits zero. Fails "len_ >= 4" if the buffer is shorter.
   U32 getAllFields() const;
   /// A one at every bit of an entry that belongs to a field.
-  static Raw8192 allFieldsMask(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static Raw8192 allFieldsMask(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  Raw8192 allFieldsMask() const override;
+  VELMAR_NODISCARD Raw8192 allFieldsMask() const override;
   /// Number of fields that the chip has.
-  static U32 fieldCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 fieldCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 fieldCount() const override;
+  VELMAR_NODISCARD U32 fieldCount() const override;
 
   /// Whether an instance identifier is accepted.
-  static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
+  VELMAR_NODISCARD static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
   /// The same for the view's chip and variant.
-  bool hasIdentifier(U32 identifier) const override;
+  VELMAR_NODISCARD bool hasIdentifier(U32 identifier) const override;
   /// S-channel address, access code and block (1 ingress, 2 egress). Returns false and writes
   /// nothing if the chip or variant lacks the class. Fails "tableEntry < N", "arrayIndex == 0",
   /// "hasIdentifier( chipType, variant, identifier )".
@@ -75,35 +76,35 @@ class VELMAR_EXPORT VlanMplsEntry : public AsicUtils::BcmAsicBase {
                        U16 arrayIndex) const override;
 
   /// Size of an entry in 32-bit words.
-  static U16 width(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 width(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U16 width() const override;
+  VELMAR_NODISCARD U16 width() const override;
   /// The same as width().
-  static U16 tableWidth(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 tableWidth(U32 chipType, U8 variant);
   /// 1.
-  static U32 arrayElements(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayElements(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayElements() const override;
+  VELMAR_NODISCARD U32 arrayElements() const override;
   /// Number of instances: 1.
-  static U32 instanceCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 instanceCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 instanceCount() const override;
+  VELMAR_NODISCARD U32 instanceCount() const override;
   /// Number of entries.
-  static U32 entries(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 entries(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 entries() const override;
+  VELMAR_NODISCARD U32 entries() const override;
   /// Lowest index of an entry: 0.
-  static U32 index_min(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 index_min(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 index_min() const;
+  VELMAR_NODISCARD U32 index_min() const;
   /// 0.
-  static U32 arrayIndex_min(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayIndex_min(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayIndex_min() const;
+  VELMAR_NODISCARD U32 arrayIndex_min() const;
   /// The ranges of valid indices.
-  static EntrySpans entrySpans(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static EntrySpans entrySpans(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  EntrySpans entrySpans() const override;
+  VELMAR_NODISCARD EntrySpans entrySpans() const override;
   /// 1 if the chip has the memory, else 0. Never fails.
   static U32 tableVariantCount(U32 chipType);
   /// The same for the view's chip.
@@ -114,7 +115,7 @@ class VELMAR_EXPORT VlanMplsEntry : public AsicUtils::BcmAsicBase {
   static const AsicUtils::EntrySpan _entrySpans_BCM56996_A0[1];
 
   /// MPLS is enabled. MPLS_ENABLE: 1 bit; on all chips.
-  U8 mplsEnable() const;
+  VELMAR_NODISCARD U8 mplsEnable() const;
   /// Sets MPLS_ENABLE.
   void mplsEnableIs(U8 value);
   /// Width of MPLS_ENABLE in bits.
@@ -122,11 +123,11 @@ class VELMAR_EXPORT VlanMplsEntry : public AsicUtils::BcmAsicBase {
   /// First bit of MPLS_ENABLE in the entry.
   U16 mplsEnableOffset() const;
   /// Whether the view has MPLS_ENABLE.
-  bool isMplsEnableValid() const;
+  VELMAR_NODISCARD bool isMplsEnableValid() const;
 
   /// MAC-in-MAC termination is enabled. MIM_TERM_ENABLE: 1 bit; on BCM56960_A0, BCM56965_A0,
   /// BCM56968_A0, BCM56970_A0.
-  U8 mimTermEnable() const;
+  VELMAR_NODISCARD U8 mimTermEnable() const;
   /// Sets MIM_TERM_ENABLE.
   void mimTermEnableIs(U8 value);
   /// Width of MIM_TERM_ENABLE in bits.
@@ -134,10 +135,10 @@ class VELMAR_EXPORT VlanMplsEntry : public AsicUtils::BcmAsicBase {
   /// First bit of MIM_TERM_ENABLE in the entry.
   U16 mimTermEnableOffset() const;
   /// Whether the view has MIM_TERM_ENABLE.
-  bool isMimTermEnableValid() const;
+  VELMAR_NODISCARD bool isMimTermEnableValid() const;
 
   /// Layer-3 ingress interface. L3_IIF: 13 bits; on all chips.
-  U16 l3Iif() const;
+  VELMAR_NODISCARD U16 l3Iif() const;
   /// Sets L3_IIF.
   void l3IifIs(U16 value);
   /// Width of L3_IIF in bits.
@@ -145,10 +146,10 @@ class VELMAR_EXPORT VlanMplsEntry : public AsicUtils::BcmAsicBase {
   /// First bit of L3_IIF in the entry.
   U16 l3IifOffset() const;
   /// Whether the view has L3_IIF.
-  bool isL3IifValid() const;
+  VELMAR_NODISCARD bool isL3IifValid() const;
 
   /// The ingress filter is enabled. EN_IFILTER: on no chip.
-  U8 enIfilter() const;
+  VELMAR_NODISCARD U8 enIfilter() const;
   /// Sets EN_IFILTER.
   void enIfilterIs(U8 value);
   /// Width of EN_IFILTER in bits.
@@ -156,10 +157,10 @@ class VELMAR_EXPORT VlanMplsEntry : public AsicUtils::BcmAsicBase {
   /// First bit of EN_IFILTER in the entry.
   U16 enIfilterOffset() const;
   /// Whether the view has EN_IFILTER.
-  bool isEnIfilterValid() const;
+  VELMAR_NODISCARD bool isEnIfilterValid() const;
 
   /// Index of the membership profile. MEMBERSHIP_PROFILE_PTR: on no chip.
-  U8 membershipProfilePtr() const;
+  VELMAR_NODISCARD U8 membershipProfilePtr() const;
   /// Sets MEMBERSHIP_PROFILE_PTR.
   void membershipProfilePtrIs(U8 value);
   /// Width of MEMBERSHIP_PROFILE_PTR in bits.
@@ -167,10 +168,10 @@ class VELMAR_EXPORT VlanMplsEntry : public AsicUtils::BcmAsicBase {
   /// First bit of MEMBERSHIP_PROFILE_PTR in the entry.
   U16 membershipProfilePtrOffset() const;
   /// Whether the view has MEMBERSHIP_PROFILE_PTR.
-  bool isMembershipProfilePtrValid() const;
+  VELMAR_NODISCARD bool isMembershipProfilePtrValid() const;
 
   /// Virtual forwarding instance. VFI: on no chip.
-  U8 vfi() const;
+  VELMAR_NODISCARD U8 vfi() const;
   /// Sets VFI.
   void vfiIs(U8 value);
   /// Width of VFI in bits.
@@ -178,7 +179,7 @@ class VELMAR_EXPORT VlanMplsEntry : public AsicUtils::BcmAsicBase {
   /// First bit of VFI in the entry.
   U16 vfiOffset() const;
   /// Whether the view has VFI.
-  bool isVfiValid() const;
+  VELMAR_NODISCARD bool isVfiValid() const;
 };
 
 }  // namespace Velmar

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "AsicUtils/BcmAsicBase.h"
+#include "AsicUtils/ChipType.h"
 #include "Velmar/Export.h"
 
 namespace Velmar {
@@ -36,7 +37,7 @@ class VELMAR_EXPORT VlanProfileEntry : public AsicUtils::BcmAsicBase {
   /// Does nothing.
   static void handleBuf(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
   /// Whether the constructor accepts the pair. Never fails.
-  static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
+  VELMAR_NODISCARD static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
   /// True.
   bool isPrimary() const;
   /// True: a memory.
@@ -50,22 +51,22 @@ class VELMAR_EXPORT VlanProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of a field. An identifier that the class does not declare fails "false".
   U16 fieldOffset(U32 fieldId) const override;
   /// Whether the view has a field. Never fails.
-  bool isFieldValid(U32 fieldId) const override;
+  VELMAR_NODISCARD bool isFieldValid(U32 fieldId) const override;
   /// The entry with its reserved bits zero. Fails "len_ >= 16" if the buffer is shorter.
   Raw128 getAllFields() const;
   /// A one at every bit of an entry that belongs to a field.
-  static Raw8192 allFieldsMask(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static Raw8192 allFieldsMask(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  Raw8192 allFieldsMask() const override;
+  VELMAR_NODISCARD Raw8192 allFieldsMask() const override;
   /// Number of fields that the chip has.
-  static U32 fieldCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 fieldCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 fieldCount() const override;
+  VELMAR_NODISCARD U32 fieldCount() const override;
 
   /// Whether an instance identifier is accepted.
-  static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
+  VELMAR_NODISCARD static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
   /// The same for the view's chip and variant.
-  bool hasIdentifier(U32 identifier) const override;
+  VELMAR_NODISCARD bool hasIdentifier(U32 identifier) const override;
   /// S-channel address, access code and block (1 ingress, 2 egress). Returns false and writes
   /// nothing if the chip or variant lacks the class. Fails "tableEntry < N", "arrayIndex == 0",
   /// "hasIdentifier( chipType, variant, identifier )".
@@ -76,35 +77,35 @@ class VELMAR_EXPORT VlanProfileEntry : public AsicUtils::BcmAsicBase {
                        U16 arrayIndex) const override;
 
   /// Size of an entry in 32-bit words.
-  static U16 width(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 width(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U16 width() const override;
+  VELMAR_NODISCARD U16 width() const override;
   /// The same as width().
-  static U16 tableWidth(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 tableWidth(U32 chipType, U8 variant);
   /// 1.
-  static U32 arrayElements(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayElements(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayElements() const override;
+  VELMAR_NODISCARD U32 arrayElements() const override;
   /// Number of instances: 1.
-  static U32 instanceCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 instanceCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 instanceCount() const override;
+  VELMAR_NODISCARD U32 instanceCount() const override;
   /// Number of entries.
-  static U32 entries(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 entries(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 entries() const override;
+  VELMAR_NODISCARD U32 entries() const override;
   /// Lowest index of an entry: 0.
-  static U32 index_min(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 index_min(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 index_min() const;
+  VELMAR_NODISCARD U32 index_min() const;
   /// 0.
-  static U32 arrayIndex_min(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayIndex_min(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayIndex_min() const;
+  VELMAR_NODISCARD U32 arrayIndex_min() const;
   /// The ranges of valid indices.
-  static EntrySpans entrySpans(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static EntrySpans entrySpans(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  EntrySpans entrySpans() const override;
+  VELMAR_NODISCARD EntrySpans entrySpans() const override;
   /// 1 if the chip has the memory, else 0. Never fails.
   static U32 tableVariantCount(U32 chipType);
   /// The same for the view's chip.
@@ -113,7 +114,7 @@ class VELMAR_EXPORT VlanProfileEntry : public AsicUtils::BcmAsicBase {
   static const AsicUtils::EntrySpan _entrySpans_BCM56968_A0[1];
 
   /// IPv4 multicast is forwarded on layer 2. IPMCV4_L2_ENABLE: 1 bit; on all chips.
-  U8 ipmcv4L2Enable() const;
+  VELMAR_NODISCARD U8 ipmcv4L2Enable() const;
   /// Sets IPMCV4_L2_ENABLE.
   void ipmcv4L2EnableIs(U8 value);
   /// Width of IPMCV4_L2_ENABLE in bits.
@@ -121,10 +122,10 @@ class VELMAR_EXPORT VlanProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of IPMCV4_L2_ENABLE in the entry.
   U16 ipmcv4L2EnableOffset() const;
   /// Whether the view has IPMCV4_L2_ENABLE.
-  bool isIpmcv4L2EnableValid() const;
+  VELMAR_NODISCARD bool isIpmcv4L2EnableValid() const;
 
   /// IPv6 multicast is forwarded on layer 2. IPMCV6_L2_ENABLE: 1 bit; on all chips.
-  U8 ipmcv6L2Enable() const;
+  VELMAR_NODISCARD U8 ipmcv6L2Enable() const;
   /// Sets IPMCV6_L2_ENABLE.
   void ipmcv6L2EnableIs(U8 value);
   /// Width of IPMCV6_L2_ENABLE in bits.
@@ -132,10 +133,10 @@ class VELMAR_EXPORT VlanProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of IPMCV6_L2_ENABLE in the entry.
   U16 ipmcv6L2EnableOffset() const;
   /// Whether the view has IPMCV6_L2_ENABLE.
-  bool isIpmcv6L2EnableValid() const;
+  VELMAR_NODISCARD bool isIpmcv6L2EnableValid() const;
 
   /// Element of the packet control registers. PROTOCOL_PKT_INDEX: 6 bits; on all chips.
-  U8 protocolPktIndex() const;
+  VELMAR_NODISCARD U8 protocolPktIndex() const;
   /// Sets PROTOCOL_PKT_INDEX.
   void protocolPktIndexIs(U8 value);
   /// Width of PROTOCOL_PKT_INDEX in bits.
@@ -143,11 +144,11 @@ class VELMAR_EXPORT VlanProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of PROTOCOL_PKT_INDEX in the entry.
   U16 protocolPktIndexOffset() const;
   /// Whether the view has PROTOCOL_PKT_INDEX.
-  bool isProtocolPktIndexValid() const;
+  VELMAR_NODISCARD bool isProtocolPktIndexValid() const;
 
   /// The ingress filter is enabled. EN_IFILTER: 1 bit; on BCM56990_B0, BCM56992_B0, BCM56993_B0,
   /// BCM56996_A0, BCM56996_B0.
-  U8 enIfilter() const;
+  VELMAR_NODISCARD U8 enIfilter() const;
   /// Sets EN_IFILTER.
   void enIfilterIs(U8 value);
   /// Width of EN_IFILTER in bits.
@@ -155,10 +156,10 @@ class VELMAR_EXPORT VlanProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of EN_IFILTER in the entry.
   U16 enIfilterOffset() const;
   /// Whether the view has EN_IFILTER.
-  bool isEnIfilterValid() const;
+  VELMAR_NODISCARD bool isEnIfilterValid() const;
 
   /// Packet forwarding mode, layer-3 IPv6. L3_IPV6_PFM: 2 bits; on all chips.
-  U8 l3Ipv6Pfm() const;
+  VELMAR_NODISCARD U8 l3Ipv6Pfm() const;
   /// Sets L3_IPV6_PFM.
   void l3Ipv6PfmIs(U8 value);
   /// Width of L3_IPV6_PFM in bits.
@@ -166,10 +167,10 @@ class VELMAR_EXPORT VlanProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of L3_IPV6_PFM in the entry.
   U16 l3Ipv6PfmOffset() const;
   /// Whether the view has L3_IPV6_PFM.
-  bool isL3Ipv6PfmValid() const;
+  VELMAR_NODISCARD bool isL3Ipv6PfmValid() const;
 
   /// Packet forwarding mode, layer-3 IPv4. L3_IPV4_PFM: 2 bits; on all chips.
-  U8 l3Ipv4Pfm() const;
+  VELMAR_NODISCARD U8 l3Ipv4Pfm() const;
   /// Sets L3_IPV4_PFM.
   void l3Ipv4PfmIs(U8 value);
   /// Width of L3_IPV4_PFM in bits.
@@ -177,10 +178,10 @@ class VELMAR_EXPORT VlanProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of L3_IPV4_PFM in the entry.
   U16 l3Ipv4PfmOffset() const;
   /// Whether the view has L3_IPV4_PFM.
-  bool isL3Ipv4PfmValid() const;
+  VELMAR_NODISCARD bool isL3Ipv4PfmValid() const;
 
   /// Packet forwarding mode, layer 2. L2_PFM: 2 bits; on all chips.
-  U8 l2Pfm() const;
+  VELMAR_NODISCARD U8 l2Pfm() const;
   /// Sets L2_PFM.
   void l2PfmIs(U8 value);
   /// Width of L2_PFM in bits.
@@ -188,10 +189,10 @@ class VELMAR_EXPORT VlanProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of L2_PFM in the entry.
   U16 l2PfmOffset() const;
   /// Whether the view has L2_PFM.
-  bool isL2PfmValid() const;
+  VELMAR_NODISCARD bool isL2PfmValid() const;
 
   /// Layer-2 misses are dropped. L2_MISS_DROP: 1 bit; on all chips.
-  U8 l2MissDrop() const;
+  VELMAR_NODISCARD U8 l2MissDrop() const;
   /// Sets L2_MISS_DROP.
   void l2MissDropIs(U8 value);
   /// Width of L2_MISS_DROP in bits.
@@ -199,10 +200,10 @@ class VELMAR_EXPORT VlanProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of L2_MISS_DROP in the entry.
   U16 l2MissDropOffset() const;
   /// Whether the view has L2_MISS_DROP.
-  bool isL2MissDropValid() const;
+  VELMAR_NODISCARD bool isL2MissDropValid() const;
 
   /// Layer-2 misses are copied to the CPU. L2_MISS_TOCPU: 1 bit; on all chips.
-  U8 l2MissTocpu() const;
+  VELMAR_NODISCARD U8 l2MissTocpu() const;
   /// Sets L2_MISS_TOCPU.
   void l2MissTocpuIs(U8 value);
   /// Width of L2_MISS_TOCPU in bits.
@@ -210,10 +211,10 @@ class VELMAR_EXPORT VlanProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of L2_MISS_TOCPU in the entry.
   U16 l2MissTocpuOffset() const;
   /// Whether the view has L2_MISS_TOCPU.
-  bool isL2MissTocpuValid() const;
+  VELMAR_NODISCARD bool isL2MissTocpuValid() const;
 
   /// Layer-2 non-unicast is dropped. L2_NON_UCAST_DROP: 1 bit; on all chips.
-  U8 l2NonUcastDrop() const;
+  VELMAR_NODISCARD U8 l2NonUcastDrop() const;
   /// Sets L2_NON_UCAST_DROP.
   void l2NonUcastDropIs(U8 value);
   /// Width of L2_NON_UCAST_DROP in bits.
@@ -221,10 +222,10 @@ class VELMAR_EXPORT VlanProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of L2_NON_UCAST_DROP in the entry.
   U16 l2NonUcastDropOffset() const;
   /// Whether the view has L2_NON_UCAST_DROP.
-  bool isL2NonUcastDropValid() const;
+  VELMAR_NODISCARD bool isL2NonUcastDropValid() const;
 
   /// Layer-2 non-unicast is copied to the CPU. L2_NON_UCAST_TOCPU: 1 bit; on all chips.
-  U8 l2NonUcastTocpu() const;
+  VELMAR_NODISCARD U8 l2NonUcastTocpu() const;
   /// Sets L2_NON_UCAST_TOCPU.
   void l2NonUcastTocpuIs(U8 value);
   /// Width of L2_NON_UCAST_TOCPU in bits.
@@ -232,11 +233,11 @@ class VELMAR_EXPORT VlanProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of L2_NON_UCAST_TOCPU in the entry.
   U16 l2NonUcastTocpuOffset() const;
   /// Whether the view has L2_NON_UCAST_TOCPU.
-  bool isL2NonUcastTocpuValid() const;
+  VELMAR_NODISCARD bool isL2NonUcastTocpuValid() const;
 
   /// Learning is disabled. LEARN_DISABLE: 1 bit; on all chips but BCM56990_B0, BCM56992_B0,
   /// BCM56993_B0, BCM56996_A0, BCM56996_B0.
-  U8 learnDisable() const;
+  VELMAR_NODISCARD U8 learnDisable() const;
   /// Sets LEARN_DISABLE.
   void learnDisableIs(U8 value);
   /// Width of LEARN_DISABLE in bits.
@@ -244,7 +245,7 @@ class VELMAR_EXPORT VlanProfileEntry : public AsicUtils::BcmAsicBase {
   /// First bit of LEARN_DISABLE in the entry.
   U16 learnDisableOffset() const;
   /// Whether the view has LEARN_DISABLE.
-  bool isLearnDisableValid() const;
+  VELMAR_NODISCARD bool isLearnDisableValid() const;
 };
 
 }  // namespace Velmar

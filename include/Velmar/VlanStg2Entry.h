@@ -3,6 +3,7 @@
 #pragma once
 
 #include "AsicUtils/BcmAsicBase.h"
+#include "AsicUtils/ChipType.h"
 #include "Velmar/Export.h"
 
 namespace Velmar {
@@ -33,7 +34,7 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// Does nothing.
   static void handleBuf(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
   /// Whether the constructor accepts the pair. Never fails.
-  static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
+  VELMAR_NODISCARD static bool chipTypeVariantValid(ChipType_ chipType, U8 variant);
   /// True.
   bool isPrimary() const;
   /// True: a memory.
@@ -47,22 +48,22 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of a field. An identifier that the class does not declare fails "false".
   U16 fieldOffset(U32 fieldId) const override;
   /// Whether the view has a field. Never fails.
-  bool isFieldValid(U32 fieldId) const override;
+  VELMAR_NODISCARD bool isFieldValid(U32 fieldId) const override;
   /// The entry with its reserved bits zero. Fails "len_ >= 64" if the buffer is shorter.
   Raw512 getAllFields() const;
   /// A one at every bit of an entry that belongs to a field.
-  static Raw8192 allFieldsMask(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static Raw8192 allFieldsMask(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  Raw8192 allFieldsMask() const override;
+  VELMAR_NODISCARD Raw8192 allFieldsMask() const override;
   /// Number of fields that the chip has.
-  static U32 fieldCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 fieldCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 fieldCount() const override;
+  VELMAR_NODISCARD U32 fieldCount() const override;
 
   /// Whether an instance identifier is accepted.
-  static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
+  VELMAR_NODISCARD static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier);
   /// The same for the view's chip and variant.
-  bool hasIdentifier(U32 identifier) const override;
+  VELMAR_NODISCARD bool hasIdentifier(U32 identifier) const override;
   /// S-channel address, access code and block (1 ingress, 2 egress). Returns false and writes
   /// nothing if the chip or variant lacks the class. Fails "tableEntry < N", "arrayIndex == 0",
   /// "hasIdentifier( chipType, variant, identifier )".
@@ -73,35 +74,35 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
                        U16 arrayIndex) const override;
 
   /// Size of an entry in 32-bit words.
-  static U16 width(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 width(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U16 width() const override;
+  VELMAR_NODISCARD U16 width() const override;
   /// The same as width().
-  static U16 tableWidth(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U16 tableWidth(U32 chipType, U8 variant);
   /// 1.
-  static U32 arrayElements(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayElements(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayElements() const override;
+  VELMAR_NODISCARD U32 arrayElements() const override;
   /// Number of instances: 1.
-  static U32 instanceCount(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 instanceCount(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 instanceCount() const override;
+  VELMAR_NODISCARD U32 instanceCount() const override;
   /// Number of entries.
-  static U32 entries(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 entries(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 entries() const override;
+  VELMAR_NODISCARD U32 entries() const override;
   /// Lowest index of an entry: 0.
-  static U32 index_min(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 index_min(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 index_min() const;
+  VELMAR_NODISCARD U32 index_min() const;
   /// 0.
-  static U32 arrayIndex_min(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static U32 arrayIndex_min(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  U32 arrayIndex_min() const;
+  VELMAR_NODISCARD U32 arrayIndex_min() const;
   /// The ranges of valid indices.
-  static EntrySpans entrySpans(U32 chipType, U8 variant);
+  VELMAR_NODISCARD static EntrySpans entrySpans(U32 chipType, U8 variant);
   /// The same for the view's chip and variant.
-  EntrySpans entrySpans() const override;
+  VELMAR_NODISCARD EntrySpans entrySpans() const override;
   /// 1 if the chip has the memory, else 0. Never fails.
   static U32 tableVariantCount(U32 chipType);
   /// The same for the view's chip.
@@ -110,7 +111,7 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   static const AsicUtils::EntrySpan _entrySpans_BCM56980_A0[1];
 
   /// Spanning-tree state of the port. SP_TREE_PORT0: 2 bits; on all chips.
-  U8 spTreePort0() const;
+  VELMAR_NODISCARD U8 spTreePort0() const;
   /// Sets SP_TREE_PORT0.
   void spTreePort0Is(U8 value);
   /// Width of SP_TREE_PORT0 in bits.
@@ -118,10 +119,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT0 in the entry.
   U16 spTreePort0Offset() const;
   /// Whether the view has SP_TREE_PORT0.
-  bool isSpTreePort0Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort0Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT1: 2 bits; on all chips.
-  U8 spTreePort1() const;
+  VELMAR_NODISCARD U8 spTreePort1() const;
   /// Sets SP_TREE_PORT1.
   void spTreePort1Is(U8 value);
   /// Width of SP_TREE_PORT1 in bits.
@@ -129,10 +130,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT1 in the entry.
   U16 spTreePort1Offset() const;
   /// Whether the view has SP_TREE_PORT1.
-  bool isSpTreePort1Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort1Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT2: 2 bits; on all chips.
-  U8 spTreePort2() const;
+  VELMAR_NODISCARD U8 spTreePort2() const;
   /// Sets SP_TREE_PORT2.
   void spTreePort2Is(U8 value);
   /// Width of SP_TREE_PORT2 in bits.
@@ -140,10 +141,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT2 in the entry.
   U16 spTreePort2Offset() const;
   /// Whether the view has SP_TREE_PORT2.
-  bool isSpTreePort2Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort2Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT3: 2 bits; on all chips.
-  U8 spTreePort3() const;
+  VELMAR_NODISCARD U8 spTreePort3() const;
   /// Sets SP_TREE_PORT3.
   void spTreePort3Is(U8 value);
   /// Width of SP_TREE_PORT3 in bits.
@@ -151,10 +152,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT3 in the entry.
   U16 spTreePort3Offset() const;
   /// Whether the view has SP_TREE_PORT3.
-  bool isSpTreePort3Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort3Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT4: 2 bits; on all chips.
-  U8 spTreePort4() const;
+  VELMAR_NODISCARD U8 spTreePort4() const;
   /// Sets SP_TREE_PORT4.
   void spTreePort4Is(U8 value);
   /// Width of SP_TREE_PORT4 in bits.
@@ -162,10 +163,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT4 in the entry.
   U16 spTreePort4Offset() const;
   /// Whether the view has SP_TREE_PORT4.
-  bool isSpTreePort4Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort4Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT5: 2 bits; on all chips.
-  U8 spTreePort5() const;
+  VELMAR_NODISCARD U8 spTreePort5() const;
   /// Sets SP_TREE_PORT5.
   void spTreePort5Is(U8 value);
   /// Width of SP_TREE_PORT5 in bits.
@@ -173,10 +174,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT5 in the entry.
   U16 spTreePort5Offset() const;
   /// Whether the view has SP_TREE_PORT5.
-  bool isSpTreePort5Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort5Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT6: 2 bits; on all chips.
-  U8 spTreePort6() const;
+  VELMAR_NODISCARD U8 spTreePort6() const;
   /// Sets SP_TREE_PORT6.
   void spTreePort6Is(U8 value);
   /// Width of SP_TREE_PORT6 in bits.
@@ -184,10 +185,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT6 in the entry.
   U16 spTreePort6Offset() const;
   /// Whether the view has SP_TREE_PORT6.
-  bool isSpTreePort6Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort6Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT7: 2 bits; on all chips.
-  U8 spTreePort7() const;
+  VELMAR_NODISCARD U8 spTreePort7() const;
   /// Sets SP_TREE_PORT7.
   void spTreePort7Is(U8 value);
   /// Width of SP_TREE_PORT7 in bits.
@@ -195,10 +196,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT7 in the entry.
   U16 spTreePort7Offset() const;
   /// Whether the view has SP_TREE_PORT7.
-  bool isSpTreePort7Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort7Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT8: 2 bits; on all chips.
-  U8 spTreePort8() const;
+  VELMAR_NODISCARD U8 spTreePort8() const;
   /// Sets SP_TREE_PORT8.
   void spTreePort8Is(U8 value);
   /// Width of SP_TREE_PORT8 in bits.
@@ -206,10 +207,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT8 in the entry.
   U16 spTreePort8Offset() const;
   /// Whether the view has SP_TREE_PORT8.
-  bool isSpTreePort8Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort8Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT9: 2 bits; on all chips.
-  U8 spTreePort9() const;
+  VELMAR_NODISCARD U8 spTreePort9() const;
   /// Sets SP_TREE_PORT9.
   void spTreePort9Is(U8 value);
   /// Width of SP_TREE_PORT9 in bits.
@@ -217,10 +218,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT9 in the entry.
   U16 spTreePort9Offset() const;
   /// Whether the view has SP_TREE_PORT9.
-  bool isSpTreePort9Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort9Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT10: 2 bits; on all chips.
-  U8 spTreePort10() const;
+  VELMAR_NODISCARD U8 spTreePort10() const;
   /// Sets SP_TREE_PORT10.
   void spTreePort10Is(U8 value);
   /// Width of SP_TREE_PORT10 in bits.
@@ -228,10 +229,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT10 in the entry.
   U16 spTreePort10Offset() const;
   /// Whether the view has SP_TREE_PORT10.
-  bool isSpTreePort10Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort10Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT11: 2 bits; on all chips.
-  U8 spTreePort11() const;
+  VELMAR_NODISCARD U8 spTreePort11() const;
   /// Sets SP_TREE_PORT11.
   void spTreePort11Is(U8 value);
   /// Width of SP_TREE_PORT11 in bits.
@@ -239,10 +240,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT11 in the entry.
   U16 spTreePort11Offset() const;
   /// Whether the view has SP_TREE_PORT11.
-  bool isSpTreePort11Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort11Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT12: 2 bits; on all chips.
-  U8 spTreePort12() const;
+  VELMAR_NODISCARD U8 spTreePort12() const;
   /// Sets SP_TREE_PORT12.
   void spTreePort12Is(U8 value);
   /// Width of SP_TREE_PORT12 in bits.
@@ -250,10 +251,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT12 in the entry.
   U16 spTreePort12Offset() const;
   /// Whether the view has SP_TREE_PORT12.
-  bool isSpTreePort12Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort12Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT13: 2 bits; on all chips.
-  U8 spTreePort13() const;
+  VELMAR_NODISCARD U8 spTreePort13() const;
   /// Sets SP_TREE_PORT13.
   void spTreePort13Is(U8 value);
   /// Width of SP_TREE_PORT13 in bits.
@@ -261,10 +262,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT13 in the entry.
   U16 spTreePort13Offset() const;
   /// Whether the view has SP_TREE_PORT13.
-  bool isSpTreePort13Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort13Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT14: 2 bits; on all chips.
-  U8 spTreePort14() const;
+  VELMAR_NODISCARD U8 spTreePort14() const;
   /// Sets SP_TREE_PORT14.
   void spTreePort14Is(U8 value);
   /// Width of SP_TREE_PORT14 in bits.
@@ -272,10 +273,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT14 in the entry.
   U16 spTreePort14Offset() const;
   /// Whether the view has SP_TREE_PORT14.
-  bool isSpTreePort14Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort14Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT15: 2 bits; on all chips.
-  U8 spTreePort15() const;
+  VELMAR_NODISCARD U8 spTreePort15() const;
   /// Sets SP_TREE_PORT15.
   void spTreePort15Is(U8 value);
   /// Width of SP_TREE_PORT15 in bits.
@@ -283,10 +284,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT15 in the entry.
   U16 spTreePort15Offset() const;
   /// Whether the view has SP_TREE_PORT15.
-  bool isSpTreePort15Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort15Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT16: 2 bits; on all chips.
-  U8 spTreePort16() const;
+  VELMAR_NODISCARD U8 spTreePort16() const;
   /// Sets SP_TREE_PORT16.
   void spTreePort16Is(U8 value);
   /// Width of SP_TREE_PORT16 in bits.
@@ -294,10 +295,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT16 in the entry.
   U16 spTreePort16Offset() const;
   /// Whether the view has SP_TREE_PORT16.
-  bool isSpTreePort16Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort16Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT17: 2 bits; on all chips.
-  U8 spTreePort17() const;
+  VELMAR_NODISCARD U8 spTreePort17() const;
   /// Sets SP_TREE_PORT17.
   void spTreePort17Is(U8 value);
   /// Width of SP_TREE_PORT17 in bits.
@@ -305,10 +306,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT17 in the entry.
   U16 spTreePort17Offset() const;
   /// Whether the view has SP_TREE_PORT17.
-  bool isSpTreePort17Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort17Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT18: 2 bits; on all chips.
-  U8 spTreePort18() const;
+  VELMAR_NODISCARD U8 spTreePort18() const;
   /// Sets SP_TREE_PORT18.
   void spTreePort18Is(U8 value);
   /// Width of SP_TREE_PORT18 in bits.
@@ -316,10 +317,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT18 in the entry.
   U16 spTreePort18Offset() const;
   /// Whether the view has SP_TREE_PORT18.
-  bool isSpTreePort18Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort18Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT19: 2 bits; on all chips.
-  U8 spTreePort19() const;
+  VELMAR_NODISCARD U8 spTreePort19() const;
   /// Sets SP_TREE_PORT19.
   void spTreePort19Is(U8 value);
   /// Width of SP_TREE_PORT19 in bits.
@@ -327,10 +328,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT19 in the entry.
   U16 spTreePort19Offset() const;
   /// Whether the view has SP_TREE_PORT19.
-  bool isSpTreePort19Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort19Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT20: 2 bits; on all chips.
-  U8 spTreePort20() const;
+  VELMAR_NODISCARD U8 spTreePort20() const;
   /// Sets SP_TREE_PORT20.
   void spTreePort20Is(U8 value);
   /// Width of SP_TREE_PORT20 in bits.
@@ -338,10 +339,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT20 in the entry.
   U16 spTreePort20Offset() const;
   /// Whether the view has SP_TREE_PORT20.
-  bool isSpTreePort20Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort20Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT21: 2 bits; on all chips.
-  U8 spTreePort21() const;
+  VELMAR_NODISCARD U8 spTreePort21() const;
   /// Sets SP_TREE_PORT21.
   void spTreePort21Is(U8 value);
   /// Width of SP_TREE_PORT21 in bits.
@@ -349,10 +350,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT21 in the entry.
   U16 spTreePort21Offset() const;
   /// Whether the view has SP_TREE_PORT21.
-  bool isSpTreePort21Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort21Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT22: 2 bits; on all chips.
-  U8 spTreePort22() const;
+  VELMAR_NODISCARD U8 spTreePort22() const;
   /// Sets SP_TREE_PORT22.
   void spTreePort22Is(U8 value);
   /// Width of SP_TREE_PORT22 in bits.
@@ -360,10 +361,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT22 in the entry.
   U16 spTreePort22Offset() const;
   /// Whether the view has SP_TREE_PORT22.
-  bool isSpTreePort22Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort22Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT23: 2 bits; on all chips.
-  U8 spTreePort23() const;
+  VELMAR_NODISCARD U8 spTreePort23() const;
   /// Sets SP_TREE_PORT23.
   void spTreePort23Is(U8 value);
   /// Width of SP_TREE_PORT23 in bits.
@@ -371,10 +372,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT23 in the entry.
   U16 spTreePort23Offset() const;
   /// Whether the view has SP_TREE_PORT23.
-  bool isSpTreePort23Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort23Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT24: 2 bits; on all chips.
-  U8 spTreePort24() const;
+  VELMAR_NODISCARD U8 spTreePort24() const;
   /// Sets SP_TREE_PORT24.
   void spTreePort24Is(U8 value);
   /// Width of SP_TREE_PORT24 in bits.
@@ -382,10 +383,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT24 in the entry.
   U16 spTreePort24Offset() const;
   /// Whether the view has SP_TREE_PORT24.
-  bool isSpTreePort24Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort24Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT25: 2 bits; on all chips.
-  U8 spTreePort25() const;
+  VELMAR_NODISCARD U8 spTreePort25() const;
   /// Sets SP_TREE_PORT25.
   void spTreePort25Is(U8 value);
   /// Width of SP_TREE_PORT25 in bits.
@@ -393,10 +394,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT25 in the entry.
   U16 spTreePort25Offset() const;
   /// Whether the view has SP_TREE_PORT25.
-  bool isSpTreePort25Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort25Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT26: 2 bits; on all chips.
-  U8 spTreePort26() const;
+  VELMAR_NODISCARD U8 spTreePort26() const;
   /// Sets SP_TREE_PORT26.
   void spTreePort26Is(U8 value);
   /// Width of SP_TREE_PORT26 in bits.
@@ -404,10 +405,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT26 in the entry.
   U16 spTreePort26Offset() const;
   /// Whether the view has SP_TREE_PORT26.
-  bool isSpTreePort26Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort26Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT27: 2 bits; on all chips.
-  U8 spTreePort27() const;
+  VELMAR_NODISCARD U8 spTreePort27() const;
   /// Sets SP_TREE_PORT27.
   void spTreePort27Is(U8 value);
   /// Width of SP_TREE_PORT27 in bits.
@@ -415,10 +416,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT27 in the entry.
   U16 spTreePort27Offset() const;
   /// Whether the view has SP_TREE_PORT27.
-  bool isSpTreePort27Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort27Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT28: 2 bits; on all chips.
-  U8 spTreePort28() const;
+  VELMAR_NODISCARD U8 spTreePort28() const;
   /// Sets SP_TREE_PORT28.
   void spTreePort28Is(U8 value);
   /// Width of SP_TREE_PORT28 in bits.
@@ -426,10 +427,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT28 in the entry.
   U16 spTreePort28Offset() const;
   /// Whether the view has SP_TREE_PORT28.
-  bool isSpTreePort28Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort28Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT29: 2 bits; on all chips.
-  U8 spTreePort29() const;
+  VELMAR_NODISCARD U8 spTreePort29() const;
   /// Sets SP_TREE_PORT29.
   void spTreePort29Is(U8 value);
   /// Width of SP_TREE_PORT29 in bits.
@@ -437,10 +438,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT29 in the entry.
   U16 spTreePort29Offset() const;
   /// Whether the view has SP_TREE_PORT29.
-  bool isSpTreePort29Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort29Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT30: 2 bits; on all chips.
-  U8 spTreePort30() const;
+  VELMAR_NODISCARD U8 spTreePort30() const;
   /// Sets SP_TREE_PORT30.
   void spTreePort30Is(U8 value);
   /// Width of SP_TREE_PORT30 in bits.
@@ -448,10 +449,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT30 in the entry.
   U16 spTreePort30Offset() const;
   /// Whether the view has SP_TREE_PORT30.
-  bool isSpTreePort30Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort30Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT31: 2 bits; on all chips.
-  U8 spTreePort31() const;
+  VELMAR_NODISCARD U8 spTreePort31() const;
   /// Sets SP_TREE_PORT31.
   void spTreePort31Is(U8 value);
   /// Width of SP_TREE_PORT31 in bits.
@@ -459,10 +460,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT31 in the entry.
   U16 spTreePort31Offset() const;
   /// Whether the view has SP_TREE_PORT31.
-  bool isSpTreePort31Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort31Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT32: 2 bits; on all chips.
-  U8 spTreePort32() const;
+  VELMAR_NODISCARD U8 spTreePort32() const;
   /// Sets SP_TREE_PORT32.
   void spTreePort32Is(U8 value);
   /// Width of SP_TREE_PORT32 in bits.
@@ -470,10 +471,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT32 in the entry.
   U16 spTreePort32Offset() const;
   /// Whether the view has SP_TREE_PORT32.
-  bool isSpTreePort32Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort32Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT33: 2 bits; on all chips.
-  U8 spTreePort33() const;
+  VELMAR_NODISCARD U8 spTreePort33() const;
   /// Sets SP_TREE_PORT33.
   void spTreePort33Is(U8 value);
   /// Width of SP_TREE_PORT33 in bits.
@@ -481,10 +482,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT33 in the entry.
   U16 spTreePort33Offset() const;
   /// Whether the view has SP_TREE_PORT33.
-  bool isSpTreePort33Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort33Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT34: 2 bits; on all chips.
-  U8 spTreePort34() const;
+  VELMAR_NODISCARD U8 spTreePort34() const;
   /// Sets SP_TREE_PORT34.
   void spTreePort34Is(U8 value);
   /// Width of SP_TREE_PORT34 in bits.
@@ -492,10 +493,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT34 in the entry.
   U16 spTreePort34Offset() const;
   /// Whether the view has SP_TREE_PORT34.
-  bool isSpTreePort34Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort34Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT35: 2 bits; on all chips.
-  U8 spTreePort35() const;
+  VELMAR_NODISCARD U8 spTreePort35() const;
   /// Sets SP_TREE_PORT35.
   void spTreePort35Is(U8 value);
   /// Width of SP_TREE_PORT35 in bits.
@@ -503,10 +504,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT35 in the entry.
   U16 spTreePort35Offset() const;
   /// Whether the view has SP_TREE_PORT35.
-  bool isSpTreePort35Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort35Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT36: 2 bits; on all chips.
-  U8 spTreePort36() const;
+  VELMAR_NODISCARD U8 spTreePort36() const;
   /// Sets SP_TREE_PORT36.
   void spTreePort36Is(U8 value);
   /// Width of SP_TREE_PORT36 in bits.
@@ -514,10 +515,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT36 in the entry.
   U16 spTreePort36Offset() const;
   /// Whether the view has SP_TREE_PORT36.
-  bool isSpTreePort36Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort36Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT37: 2 bits; on all chips.
-  U8 spTreePort37() const;
+  VELMAR_NODISCARD U8 spTreePort37() const;
   /// Sets SP_TREE_PORT37.
   void spTreePort37Is(U8 value);
   /// Width of SP_TREE_PORT37 in bits.
@@ -525,10 +526,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT37 in the entry.
   U16 spTreePort37Offset() const;
   /// Whether the view has SP_TREE_PORT37.
-  bool isSpTreePort37Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort37Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT38: 2 bits; on all chips.
-  U8 spTreePort38() const;
+  VELMAR_NODISCARD U8 spTreePort38() const;
   /// Sets SP_TREE_PORT38.
   void spTreePort38Is(U8 value);
   /// Width of SP_TREE_PORT38 in bits.
@@ -536,10 +537,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT38 in the entry.
   U16 spTreePort38Offset() const;
   /// Whether the view has SP_TREE_PORT38.
-  bool isSpTreePort38Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort38Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT39: 2 bits; on all chips.
-  U8 spTreePort39() const;
+  VELMAR_NODISCARD U8 spTreePort39() const;
   /// Sets SP_TREE_PORT39.
   void spTreePort39Is(U8 value);
   /// Width of SP_TREE_PORT39 in bits.
@@ -547,10 +548,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT39 in the entry.
   U16 spTreePort39Offset() const;
   /// Whether the view has SP_TREE_PORT39.
-  bool isSpTreePort39Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort39Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT40: 2 bits; on all chips.
-  U8 spTreePort40() const;
+  VELMAR_NODISCARD U8 spTreePort40() const;
   /// Sets SP_TREE_PORT40.
   void spTreePort40Is(U8 value);
   /// Width of SP_TREE_PORT40 in bits.
@@ -558,10 +559,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT40 in the entry.
   U16 spTreePort40Offset() const;
   /// Whether the view has SP_TREE_PORT40.
-  bool isSpTreePort40Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort40Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT41: 2 bits; on all chips.
-  U8 spTreePort41() const;
+  VELMAR_NODISCARD U8 spTreePort41() const;
   /// Sets SP_TREE_PORT41.
   void spTreePort41Is(U8 value);
   /// Width of SP_TREE_PORT41 in bits.
@@ -569,10 +570,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT41 in the entry.
   U16 spTreePort41Offset() const;
   /// Whether the view has SP_TREE_PORT41.
-  bool isSpTreePort41Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort41Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT42: 2 bits; on all chips.
-  U8 spTreePort42() const;
+  VELMAR_NODISCARD U8 spTreePort42() const;
   /// Sets SP_TREE_PORT42.
   void spTreePort42Is(U8 value);
   /// Width of SP_TREE_PORT42 in bits.
@@ -580,10 +581,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT42 in the entry.
   U16 spTreePort42Offset() const;
   /// Whether the view has SP_TREE_PORT42.
-  bool isSpTreePort42Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort42Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT43: 2 bits; on all chips.
-  U8 spTreePort43() const;
+  VELMAR_NODISCARD U8 spTreePort43() const;
   /// Sets SP_TREE_PORT43.
   void spTreePort43Is(U8 value);
   /// Width of SP_TREE_PORT43 in bits.
@@ -591,10 +592,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT43 in the entry.
   U16 spTreePort43Offset() const;
   /// Whether the view has SP_TREE_PORT43.
-  bool isSpTreePort43Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort43Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT44: 2 bits; on all chips.
-  U8 spTreePort44() const;
+  VELMAR_NODISCARD U8 spTreePort44() const;
   /// Sets SP_TREE_PORT44.
   void spTreePort44Is(U8 value);
   /// Width of SP_TREE_PORT44 in bits.
@@ -602,10 +603,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT44 in the entry.
   U16 spTreePort44Offset() const;
   /// Whether the view has SP_TREE_PORT44.
-  bool isSpTreePort44Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort44Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT45: 2 bits; on all chips.
-  U8 spTreePort45() const;
+  VELMAR_NODISCARD U8 spTreePort45() const;
   /// Sets SP_TREE_PORT45.
   void spTreePort45Is(U8 value);
   /// Width of SP_TREE_PORT45 in bits.
@@ -613,10 +614,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT45 in the entry.
   U16 spTreePort45Offset() const;
   /// Whether the view has SP_TREE_PORT45.
-  bool isSpTreePort45Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort45Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT46: 2 bits; on all chips.
-  U8 spTreePort46() const;
+  VELMAR_NODISCARD U8 spTreePort46() const;
   /// Sets SP_TREE_PORT46.
   void spTreePort46Is(U8 value);
   /// Width of SP_TREE_PORT46 in bits.
@@ -624,10 +625,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT46 in the entry.
   U16 spTreePort46Offset() const;
   /// Whether the view has SP_TREE_PORT46.
-  bool isSpTreePort46Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort46Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT47: 2 bits; on all chips.
-  U8 spTreePort47() const;
+  VELMAR_NODISCARD U8 spTreePort47() const;
   /// Sets SP_TREE_PORT47.
   void spTreePort47Is(U8 value);
   /// Width of SP_TREE_PORT47 in bits.
@@ -635,10 +636,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT47 in the entry.
   U16 spTreePort47Offset() const;
   /// Whether the view has SP_TREE_PORT47.
-  bool isSpTreePort47Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort47Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT48: 2 bits; on all chips.
-  U8 spTreePort48() const;
+  VELMAR_NODISCARD U8 spTreePort48() const;
   /// Sets SP_TREE_PORT48.
   void spTreePort48Is(U8 value);
   /// Width of SP_TREE_PORT48 in bits.
@@ -646,10 +647,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT48 in the entry.
   U16 spTreePort48Offset() const;
   /// Whether the view has SP_TREE_PORT48.
-  bool isSpTreePort48Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort48Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT49: 2 bits; on all chips.
-  U8 spTreePort49() const;
+  VELMAR_NODISCARD U8 spTreePort49() const;
   /// Sets SP_TREE_PORT49.
   void spTreePort49Is(U8 value);
   /// Width of SP_TREE_PORT49 in bits.
@@ -657,10 +658,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT49 in the entry.
   U16 spTreePort49Offset() const;
   /// Whether the view has SP_TREE_PORT49.
-  bool isSpTreePort49Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort49Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT50: 2 bits; on all chips.
-  U8 spTreePort50() const;
+  VELMAR_NODISCARD U8 spTreePort50() const;
   /// Sets SP_TREE_PORT50.
   void spTreePort50Is(U8 value);
   /// Width of SP_TREE_PORT50 in bits.
@@ -668,10 +669,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT50 in the entry.
   U16 spTreePort50Offset() const;
   /// Whether the view has SP_TREE_PORT50.
-  bool isSpTreePort50Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort50Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT51: 2 bits; on all chips.
-  U8 spTreePort51() const;
+  VELMAR_NODISCARD U8 spTreePort51() const;
   /// Sets SP_TREE_PORT51.
   void spTreePort51Is(U8 value);
   /// Width of SP_TREE_PORT51 in bits.
@@ -679,10 +680,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT51 in the entry.
   U16 spTreePort51Offset() const;
   /// Whether the view has SP_TREE_PORT51.
-  bool isSpTreePort51Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort51Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT52: 2 bits; on all chips.
-  U8 spTreePort52() const;
+  VELMAR_NODISCARD U8 spTreePort52() const;
   /// Sets SP_TREE_PORT52.
   void spTreePort52Is(U8 value);
   /// Width of SP_TREE_PORT52 in bits.
@@ -690,10 +691,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT52 in the entry.
   U16 spTreePort52Offset() const;
   /// Whether the view has SP_TREE_PORT52.
-  bool isSpTreePort52Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort52Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT53: 2 bits; on all chips.
-  U8 spTreePort53() const;
+  VELMAR_NODISCARD U8 spTreePort53() const;
   /// Sets SP_TREE_PORT53.
   void spTreePort53Is(U8 value);
   /// Width of SP_TREE_PORT53 in bits.
@@ -701,10 +702,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT53 in the entry.
   U16 spTreePort53Offset() const;
   /// Whether the view has SP_TREE_PORT53.
-  bool isSpTreePort53Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort53Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT54: 2 bits; on all chips.
-  U8 spTreePort54() const;
+  VELMAR_NODISCARD U8 spTreePort54() const;
   /// Sets SP_TREE_PORT54.
   void spTreePort54Is(U8 value);
   /// Width of SP_TREE_PORT54 in bits.
@@ -712,10 +713,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT54 in the entry.
   U16 spTreePort54Offset() const;
   /// Whether the view has SP_TREE_PORT54.
-  bool isSpTreePort54Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort54Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT55: 2 bits; on all chips.
-  U8 spTreePort55() const;
+  VELMAR_NODISCARD U8 spTreePort55() const;
   /// Sets SP_TREE_PORT55.
   void spTreePort55Is(U8 value);
   /// Width of SP_TREE_PORT55 in bits.
@@ -723,10 +724,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT55 in the entry.
   U16 spTreePort55Offset() const;
   /// Whether the view has SP_TREE_PORT55.
-  bool isSpTreePort55Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort55Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT56: 2 bits; on all chips.
-  U8 spTreePort56() const;
+  VELMAR_NODISCARD U8 spTreePort56() const;
   /// Sets SP_TREE_PORT56.
   void spTreePort56Is(U8 value);
   /// Width of SP_TREE_PORT56 in bits.
@@ -734,10 +735,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT56 in the entry.
   U16 spTreePort56Offset() const;
   /// Whether the view has SP_TREE_PORT56.
-  bool isSpTreePort56Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort56Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT57: 2 bits; on all chips.
-  U8 spTreePort57() const;
+  VELMAR_NODISCARD U8 spTreePort57() const;
   /// Sets SP_TREE_PORT57.
   void spTreePort57Is(U8 value);
   /// Width of SP_TREE_PORT57 in bits.
@@ -745,10 +746,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT57 in the entry.
   U16 spTreePort57Offset() const;
   /// Whether the view has SP_TREE_PORT57.
-  bool isSpTreePort57Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort57Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT58: 2 bits; on all chips.
-  U8 spTreePort58() const;
+  VELMAR_NODISCARD U8 spTreePort58() const;
   /// Sets SP_TREE_PORT58.
   void spTreePort58Is(U8 value);
   /// Width of SP_TREE_PORT58 in bits.
@@ -756,10 +757,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT58 in the entry.
   U16 spTreePort58Offset() const;
   /// Whether the view has SP_TREE_PORT58.
-  bool isSpTreePort58Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort58Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT59: 2 bits; on all chips.
-  U8 spTreePort59() const;
+  VELMAR_NODISCARD U8 spTreePort59() const;
   /// Sets SP_TREE_PORT59.
   void spTreePort59Is(U8 value);
   /// Width of SP_TREE_PORT59 in bits.
@@ -767,10 +768,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT59 in the entry.
   U16 spTreePort59Offset() const;
   /// Whether the view has SP_TREE_PORT59.
-  bool isSpTreePort59Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort59Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT60: 2 bits; on all chips.
-  U8 spTreePort60() const;
+  VELMAR_NODISCARD U8 spTreePort60() const;
   /// Sets SP_TREE_PORT60.
   void spTreePort60Is(U8 value);
   /// Width of SP_TREE_PORT60 in bits.
@@ -778,10 +779,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT60 in the entry.
   U16 spTreePort60Offset() const;
   /// Whether the view has SP_TREE_PORT60.
-  bool isSpTreePort60Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort60Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT61: 2 bits; on all chips.
-  U8 spTreePort61() const;
+  VELMAR_NODISCARD U8 spTreePort61() const;
   /// Sets SP_TREE_PORT61.
   void spTreePort61Is(U8 value);
   /// Width of SP_TREE_PORT61 in bits.
@@ -789,10 +790,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT61 in the entry.
   U16 spTreePort61Offset() const;
   /// Whether the view has SP_TREE_PORT61.
-  bool isSpTreePort61Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort61Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT62: 2 bits; on all chips.
-  U8 spTreePort62() const;
+  VELMAR_NODISCARD U8 spTreePort62() const;
   /// Sets SP_TREE_PORT62.
   void spTreePort62Is(U8 value);
   /// Width of SP_TREE_PORT62 in bits.
@@ -800,10 +801,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT62 in the entry.
   U16 spTreePort62Offset() const;
   /// Whether the view has SP_TREE_PORT62.
-  bool isSpTreePort62Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort62Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT63: 2 bits; on all chips.
-  U8 spTreePort63() const;
+  VELMAR_NODISCARD U8 spTreePort63() const;
   /// Sets SP_TREE_PORT63.
   void spTreePort63Is(U8 value);
   /// Width of SP_TREE_PORT63 in bits.
@@ -811,10 +812,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT63 in the entry.
   U16 spTreePort63Offset() const;
   /// Whether the view has SP_TREE_PORT63.
-  bool isSpTreePort63Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort63Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT64: 2 bits; on all chips.
-  U8 spTreePort64() const;
+  VELMAR_NODISCARD U8 spTreePort64() const;
   /// Sets SP_TREE_PORT64.
   void spTreePort64Is(U8 value);
   /// Width of SP_TREE_PORT64 in bits.
@@ -822,10 +823,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT64 in the entry.
   U16 spTreePort64Offset() const;
   /// Whether the view has SP_TREE_PORT64.
-  bool isSpTreePort64Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort64Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT65: 2 bits; on all chips.
-  U8 spTreePort65() const;
+  VELMAR_NODISCARD U8 spTreePort65() const;
   /// Sets SP_TREE_PORT65.
   void spTreePort65Is(U8 value);
   /// Width of SP_TREE_PORT65 in bits.
@@ -833,10 +834,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT65 in the entry.
   U16 spTreePort65Offset() const;
   /// Whether the view has SP_TREE_PORT65.
-  bool isSpTreePort65Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort65Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT66: 2 bits; on all chips.
-  U8 spTreePort66() const;
+  VELMAR_NODISCARD U8 spTreePort66() const;
   /// Sets SP_TREE_PORT66.
   void spTreePort66Is(U8 value);
   /// Width of SP_TREE_PORT66 in bits.
@@ -844,10 +845,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT66 in the entry.
   U16 spTreePort66Offset() const;
   /// Whether the view has SP_TREE_PORT66.
-  bool isSpTreePort66Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort66Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT67: 2 bits; on all chips.
-  U8 spTreePort67() const;
+  VELMAR_NODISCARD U8 spTreePort67() const;
   /// Sets SP_TREE_PORT67.
   void spTreePort67Is(U8 value);
   /// Width of SP_TREE_PORT67 in bits.
@@ -855,10 +856,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT67 in the entry.
   U16 spTreePort67Offset() const;
   /// Whether the view has SP_TREE_PORT67.
-  bool isSpTreePort67Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort67Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT68: 2 bits; on all chips.
-  U8 spTreePort68() const;
+  VELMAR_NODISCARD U8 spTreePort68() const;
   /// Sets SP_TREE_PORT68.
   void spTreePort68Is(U8 value);
   /// Width of SP_TREE_PORT68 in bits.
@@ -866,10 +867,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT68 in the entry.
   U16 spTreePort68Offset() const;
   /// Whether the view has SP_TREE_PORT68.
-  bool isSpTreePort68Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort68Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT69: 2 bits; on all chips.
-  U8 spTreePort69() const;
+  VELMAR_NODISCARD U8 spTreePort69() const;
   /// Sets SP_TREE_PORT69.
   void spTreePort69Is(U8 value);
   /// Width of SP_TREE_PORT69 in bits.
@@ -877,10 +878,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT69 in the entry.
   U16 spTreePort69Offset() const;
   /// Whether the view has SP_TREE_PORT69.
-  bool isSpTreePort69Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort69Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT70: 2 bits; on all chips.
-  U8 spTreePort70() const;
+  VELMAR_NODISCARD U8 spTreePort70() const;
   /// Sets SP_TREE_PORT70.
   void spTreePort70Is(U8 value);
   /// Width of SP_TREE_PORT70 in bits.
@@ -888,10 +889,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT70 in the entry.
   U16 spTreePort70Offset() const;
   /// Whether the view has SP_TREE_PORT70.
-  bool isSpTreePort70Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort70Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT71: 2 bits; on all chips.
-  U8 spTreePort71() const;
+  VELMAR_NODISCARD U8 spTreePort71() const;
   /// Sets SP_TREE_PORT71.
   void spTreePort71Is(U8 value);
   /// Width of SP_TREE_PORT71 in bits.
@@ -899,10 +900,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT71 in the entry.
   U16 spTreePort71Offset() const;
   /// Whether the view has SP_TREE_PORT71.
-  bool isSpTreePort71Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort71Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT72: 2 bits; on all chips.
-  U8 spTreePort72() const;
+  VELMAR_NODISCARD U8 spTreePort72() const;
   /// Sets SP_TREE_PORT72.
   void spTreePort72Is(U8 value);
   /// Width of SP_TREE_PORT72 in bits.
@@ -910,10 +911,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT72 in the entry.
   U16 spTreePort72Offset() const;
   /// Whether the view has SP_TREE_PORT72.
-  bool isSpTreePort72Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort72Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT73: 2 bits; on all chips.
-  U8 spTreePort73() const;
+  VELMAR_NODISCARD U8 spTreePort73() const;
   /// Sets SP_TREE_PORT73.
   void spTreePort73Is(U8 value);
   /// Width of SP_TREE_PORT73 in bits.
@@ -921,10 +922,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT73 in the entry.
   U16 spTreePort73Offset() const;
   /// Whether the view has SP_TREE_PORT73.
-  bool isSpTreePort73Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort73Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT74: 2 bits; on all chips.
-  U8 spTreePort74() const;
+  VELMAR_NODISCARD U8 spTreePort74() const;
   /// Sets SP_TREE_PORT74.
   void spTreePort74Is(U8 value);
   /// Width of SP_TREE_PORT74 in bits.
@@ -932,10 +933,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT74 in the entry.
   U16 spTreePort74Offset() const;
   /// Whether the view has SP_TREE_PORT74.
-  bool isSpTreePort74Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort74Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT75: 2 bits; on all chips.
-  U8 spTreePort75() const;
+  VELMAR_NODISCARD U8 spTreePort75() const;
   /// Sets SP_TREE_PORT75.
   void spTreePort75Is(U8 value);
   /// Width of SP_TREE_PORT75 in bits.
@@ -943,10 +944,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT75 in the entry.
   U16 spTreePort75Offset() const;
   /// Whether the view has SP_TREE_PORT75.
-  bool isSpTreePort75Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort75Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT76: 2 bits; on all chips.
-  U8 spTreePort76() const;
+  VELMAR_NODISCARD U8 spTreePort76() const;
   /// Sets SP_TREE_PORT76.
   void spTreePort76Is(U8 value);
   /// Width of SP_TREE_PORT76 in bits.
@@ -954,10 +955,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT76 in the entry.
   U16 spTreePort76Offset() const;
   /// Whether the view has SP_TREE_PORT76.
-  bool isSpTreePort76Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort76Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT77: 2 bits; on all chips.
-  U8 spTreePort77() const;
+  VELMAR_NODISCARD U8 spTreePort77() const;
   /// Sets SP_TREE_PORT77.
   void spTreePort77Is(U8 value);
   /// Width of SP_TREE_PORT77 in bits.
@@ -965,10 +966,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT77 in the entry.
   U16 spTreePort77Offset() const;
   /// Whether the view has SP_TREE_PORT77.
-  bool isSpTreePort77Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort77Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT78: 2 bits; on all chips.
-  U8 spTreePort78() const;
+  VELMAR_NODISCARD U8 spTreePort78() const;
   /// Sets SP_TREE_PORT78.
   void spTreePort78Is(U8 value);
   /// Width of SP_TREE_PORT78 in bits.
@@ -976,10 +977,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT78 in the entry.
   U16 spTreePort78Offset() const;
   /// Whether the view has SP_TREE_PORT78.
-  bool isSpTreePort78Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort78Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT79: 2 bits; on all chips.
-  U8 spTreePort79() const;
+  VELMAR_NODISCARD U8 spTreePort79() const;
   /// Sets SP_TREE_PORT79.
   void spTreePort79Is(U8 value);
   /// Width of SP_TREE_PORT79 in bits.
@@ -987,10 +988,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT79 in the entry.
   U16 spTreePort79Offset() const;
   /// Whether the view has SP_TREE_PORT79.
-  bool isSpTreePort79Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort79Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT80: 2 bits; on all chips.
-  U8 spTreePort80() const;
+  VELMAR_NODISCARD U8 spTreePort80() const;
   /// Sets SP_TREE_PORT80.
   void spTreePort80Is(U8 value);
   /// Width of SP_TREE_PORT80 in bits.
@@ -998,10 +999,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT80 in the entry.
   U16 spTreePort80Offset() const;
   /// Whether the view has SP_TREE_PORT80.
-  bool isSpTreePort80Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort80Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT81: 2 bits; on all chips.
-  U8 spTreePort81() const;
+  VELMAR_NODISCARD U8 spTreePort81() const;
   /// Sets SP_TREE_PORT81.
   void spTreePort81Is(U8 value);
   /// Width of SP_TREE_PORT81 in bits.
@@ -1009,10 +1010,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT81 in the entry.
   U16 spTreePort81Offset() const;
   /// Whether the view has SP_TREE_PORT81.
-  bool isSpTreePort81Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort81Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT82: 2 bits; on all chips.
-  U8 spTreePort82() const;
+  VELMAR_NODISCARD U8 spTreePort82() const;
   /// Sets SP_TREE_PORT82.
   void spTreePort82Is(U8 value);
   /// Width of SP_TREE_PORT82 in bits.
@@ -1020,10 +1021,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT82 in the entry.
   U16 spTreePort82Offset() const;
   /// Whether the view has SP_TREE_PORT82.
-  bool isSpTreePort82Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort82Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT83: 2 bits; on all chips.
-  U8 spTreePort83() const;
+  VELMAR_NODISCARD U8 spTreePort83() const;
   /// Sets SP_TREE_PORT83.
   void spTreePort83Is(U8 value);
   /// Width of SP_TREE_PORT83 in bits.
@@ -1031,10 +1032,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT83 in the entry.
   U16 spTreePort83Offset() const;
   /// Whether the view has SP_TREE_PORT83.
-  bool isSpTreePort83Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort83Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT84: 2 bits; on all chips.
-  U8 spTreePort84() const;
+  VELMAR_NODISCARD U8 spTreePort84() const;
   /// Sets SP_TREE_PORT84.
   void spTreePort84Is(U8 value);
   /// Width of SP_TREE_PORT84 in bits.
@@ -1042,10 +1043,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT84 in the entry.
   U16 spTreePort84Offset() const;
   /// Whether the view has SP_TREE_PORT84.
-  bool isSpTreePort84Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort84Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT85: 2 bits; on all chips.
-  U8 spTreePort85() const;
+  VELMAR_NODISCARD U8 spTreePort85() const;
   /// Sets SP_TREE_PORT85.
   void spTreePort85Is(U8 value);
   /// Width of SP_TREE_PORT85 in bits.
@@ -1053,10 +1054,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT85 in the entry.
   U16 spTreePort85Offset() const;
   /// Whether the view has SP_TREE_PORT85.
-  bool isSpTreePort85Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort85Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT86: 2 bits; on all chips.
-  U8 spTreePort86() const;
+  VELMAR_NODISCARD U8 spTreePort86() const;
   /// Sets SP_TREE_PORT86.
   void spTreePort86Is(U8 value);
   /// Width of SP_TREE_PORT86 in bits.
@@ -1064,10 +1065,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT86 in the entry.
   U16 spTreePort86Offset() const;
   /// Whether the view has SP_TREE_PORT86.
-  bool isSpTreePort86Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort86Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT87: 2 bits; on all chips.
-  U8 spTreePort87() const;
+  VELMAR_NODISCARD U8 spTreePort87() const;
   /// Sets SP_TREE_PORT87.
   void spTreePort87Is(U8 value);
   /// Width of SP_TREE_PORT87 in bits.
@@ -1075,10 +1076,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT87 in the entry.
   U16 spTreePort87Offset() const;
   /// Whether the view has SP_TREE_PORT87.
-  bool isSpTreePort87Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort87Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT88: 2 bits; on all chips.
-  U8 spTreePort88() const;
+  VELMAR_NODISCARD U8 spTreePort88() const;
   /// Sets SP_TREE_PORT88.
   void spTreePort88Is(U8 value);
   /// Width of SP_TREE_PORT88 in bits.
@@ -1086,10 +1087,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT88 in the entry.
   U16 spTreePort88Offset() const;
   /// Whether the view has SP_TREE_PORT88.
-  bool isSpTreePort88Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort88Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT89: 2 bits; on all chips.
-  U8 spTreePort89() const;
+  VELMAR_NODISCARD U8 spTreePort89() const;
   /// Sets SP_TREE_PORT89.
   void spTreePort89Is(U8 value);
   /// Width of SP_TREE_PORT89 in bits.
@@ -1097,10 +1098,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT89 in the entry.
   U16 spTreePort89Offset() const;
   /// Whether the view has SP_TREE_PORT89.
-  bool isSpTreePort89Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort89Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT90: 2 bits; on all chips.
-  U8 spTreePort90() const;
+  VELMAR_NODISCARD U8 spTreePort90() const;
   /// Sets SP_TREE_PORT90.
   void spTreePort90Is(U8 value);
   /// Width of SP_TREE_PORT90 in bits.
@@ -1108,10 +1109,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT90 in the entry.
   U16 spTreePort90Offset() const;
   /// Whether the view has SP_TREE_PORT90.
-  bool isSpTreePort90Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort90Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT91: 2 bits; on all chips.
-  U8 spTreePort91() const;
+  VELMAR_NODISCARD U8 spTreePort91() const;
   /// Sets SP_TREE_PORT91.
   void spTreePort91Is(U8 value);
   /// Width of SP_TREE_PORT91 in bits.
@@ -1119,10 +1120,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT91 in the entry.
   U16 spTreePort91Offset() const;
   /// Whether the view has SP_TREE_PORT91.
-  bool isSpTreePort91Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort91Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT92: 2 bits; on all chips.
-  U8 spTreePort92() const;
+  VELMAR_NODISCARD U8 spTreePort92() const;
   /// Sets SP_TREE_PORT92.
   void spTreePort92Is(U8 value);
   /// Width of SP_TREE_PORT92 in bits.
@@ -1130,10 +1131,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT92 in the entry.
   U16 spTreePort92Offset() const;
   /// Whether the view has SP_TREE_PORT92.
-  bool isSpTreePort92Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort92Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT93: 2 bits; on all chips.
-  U8 spTreePort93() const;
+  VELMAR_NODISCARD U8 spTreePort93() const;
   /// Sets SP_TREE_PORT93.
   void spTreePort93Is(U8 value);
   /// Width of SP_TREE_PORT93 in bits.
@@ -1141,10 +1142,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT93 in the entry.
   U16 spTreePort93Offset() const;
   /// Whether the view has SP_TREE_PORT93.
-  bool isSpTreePort93Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort93Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT94: 2 bits; on all chips.
-  U8 spTreePort94() const;
+  VELMAR_NODISCARD U8 spTreePort94() const;
   /// Sets SP_TREE_PORT94.
   void spTreePort94Is(U8 value);
   /// Width of SP_TREE_PORT94 in bits.
@@ -1152,10 +1153,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT94 in the entry.
   U16 spTreePort94Offset() const;
   /// Whether the view has SP_TREE_PORT94.
-  bool isSpTreePort94Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort94Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT95: 2 bits; on all chips.
-  U8 spTreePort95() const;
+  VELMAR_NODISCARD U8 spTreePort95() const;
   /// Sets SP_TREE_PORT95.
   void spTreePort95Is(U8 value);
   /// Width of SP_TREE_PORT95 in bits.
@@ -1163,10 +1164,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT95 in the entry.
   U16 spTreePort95Offset() const;
   /// Whether the view has SP_TREE_PORT95.
-  bool isSpTreePort95Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort95Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT96: 2 bits; on all chips.
-  U8 spTreePort96() const;
+  VELMAR_NODISCARD U8 spTreePort96() const;
   /// Sets SP_TREE_PORT96.
   void spTreePort96Is(U8 value);
   /// Width of SP_TREE_PORT96 in bits.
@@ -1174,10 +1175,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT96 in the entry.
   U16 spTreePort96Offset() const;
   /// Whether the view has SP_TREE_PORT96.
-  bool isSpTreePort96Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort96Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT97: 2 bits; on all chips.
-  U8 spTreePort97() const;
+  VELMAR_NODISCARD U8 spTreePort97() const;
   /// Sets SP_TREE_PORT97.
   void spTreePort97Is(U8 value);
   /// Width of SP_TREE_PORT97 in bits.
@@ -1185,10 +1186,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT97 in the entry.
   U16 spTreePort97Offset() const;
   /// Whether the view has SP_TREE_PORT97.
-  bool isSpTreePort97Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort97Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT98: 2 bits; on all chips.
-  U8 spTreePort98() const;
+  VELMAR_NODISCARD U8 spTreePort98() const;
   /// Sets SP_TREE_PORT98.
   void spTreePort98Is(U8 value);
   /// Width of SP_TREE_PORT98 in bits.
@@ -1196,10 +1197,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT98 in the entry.
   U16 spTreePort98Offset() const;
   /// Whether the view has SP_TREE_PORT98.
-  bool isSpTreePort98Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort98Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT99: 2 bits; on all chips.
-  U8 spTreePort99() const;
+  VELMAR_NODISCARD U8 spTreePort99() const;
   /// Sets SP_TREE_PORT99.
   void spTreePort99Is(U8 value);
   /// Width of SP_TREE_PORT99 in bits.
@@ -1207,10 +1208,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT99 in the entry.
   U16 spTreePort99Offset() const;
   /// Whether the view has SP_TREE_PORT99.
-  bool isSpTreePort99Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort99Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT100: 2 bits; on all chips.
-  U8 spTreePort100() const;
+  VELMAR_NODISCARD U8 spTreePort100() const;
   /// Sets SP_TREE_PORT100.
   void spTreePort100Is(U8 value);
   /// Width of SP_TREE_PORT100 in bits.
@@ -1218,10 +1219,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT100 in the entry.
   U16 spTreePort100Offset() const;
   /// Whether the view has SP_TREE_PORT100.
-  bool isSpTreePort100Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort100Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT101: 2 bits; on all chips.
-  U8 spTreePort101() const;
+  VELMAR_NODISCARD U8 spTreePort101() const;
   /// Sets SP_TREE_PORT101.
   void spTreePort101Is(U8 value);
   /// Width of SP_TREE_PORT101 in bits.
@@ -1229,10 +1230,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT101 in the entry.
   U16 spTreePort101Offset() const;
   /// Whether the view has SP_TREE_PORT101.
-  bool isSpTreePort101Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort101Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT102: 2 bits; on all chips.
-  U8 spTreePort102() const;
+  VELMAR_NODISCARD U8 spTreePort102() const;
   /// Sets SP_TREE_PORT102.
   void spTreePort102Is(U8 value);
   /// Width of SP_TREE_PORT102 in bits.
@@ -1240,10 +1241,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT102 in the entry.
   U16 spTreePort102Offset() const;
   /// Whether the view has SP_TREE_PORT102.
-  bool isSpTreePort102Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort102Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT103: 2 bits; on all chips.
-  U8 spTreePort103() const;
+  VELMAR_NODISCARD U8 spTreePort103() const;
   /// Sets SP_TREE_PORT103.
   void spTreePort103Is(U8 value);
   /// Width of SP_TREE_PORT103 in bits.
@@ -1251,10 +1252,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT103 in the entry.
   U16 spTreePort103Offset() const;
   /// Whether the view has SP_TREE_PORT103.
-  bool isSpTreePort103Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort103Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT104: 2 bits; on all chips.
-  U8 spTreePort104() const;
+  VELMAR_NODISCARD U8 spTreePort104() const;
   /// Sets SP_TREE_PORT104.
   void spTreePort104Is(U8 value);
   /// Width of SP_TREE_PORT104 in bits.
@@ -1262,10 +1263,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT104 in the entry.
   U16 spTreePort104Offset() const;
   /// Whether the view has SP_TREE_PORT104.
-  bool isSpTreePort104Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort104Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT105: 2 bits; on all chips.
-  U8 spTreePort105() const;
+  VELMAR_NODISCARD U8 spTreePort105() const;
   /// Sets SP_TREE_PORT105.
   void spTreePort105Is(U8 value);
   /// Width of SP_TREE_PORT105 in bits.
@@ -1273,10 +1274,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT105 in the entry.
   U16 spTreePort105Offset() const;
   /// Whether the view has SP_TREE_PORT105.
-  bool isSpTreePort105Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort105Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT106: 2 bits; on all chips.
-  U8 spTreePort106() const;
+  VELMAR_NODISCARD U8 spTreePort106() const;
   /// Sets SP_TREE_PORT106.
   void spTreePort106Is(U8 value);
   /// Width of SP_TREE_PORT106 in bits.
@@ -1284,10 +1285,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT106 in the entry.
   U16 spTreePort106Offset() const;
   /// Whether the view has SP_TREE_PORT106.
-  bool isSpTreePort106Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort106Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT107: 2 bits; on all chips.
-  U8 spTreePort107() const;
+  VELMAR_NODISCARD U8 spTreePort107() const;
   /// Sets SP_TREE_PORT107.
   void spTreePort107Is(U8 value);
   /// Width of SP_TREE_PORT107 in bits.
@@ -1295,10 +1296,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT107 in the entry.
   U16 spTreePort107Offset() const;
   /// Whether the view has SP_TREE_PORT107.
-  bool isSpTreePort107Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort107Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT108: 2 bits; on all chips.
-  U8 spTreePort108() const;
+  VELMAR_NODISCARD U8 spTreePort108() const;
   /// Sets SP_TREE_PORT108.
   void spTreePort108Is(U8 value);
   /// Width of SP_TREE_PORT108 in bits.
@@ -1306,10 +1307,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT108 in the entry.
   U16 spTreePort108Offset() const;
   /// Whether the view has SP_TREE_PORT108.
-  bool isSpTreePort108Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort108Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT109: 2 bits; on all chips.
-  U8 spTreePort109() const;
+  VELMAR_NODISCARD U8 spTreePort109() const;
   /// Sets SP_TREE_PORT109.
   void spTreePort109Is(U8 value);
   /// Width of SP_TREE_PORT109 in bits.
@@ -1317,10 +1318,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT109 in the entry.
   U16 spTreePort109Offset() const;
   /// Whether the view has SP_TREE_PORT109.
-  bool isSpTreePort109Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort109Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT110: 2 bits; on all chips.
-  U8 spTreePort110() const;
+  VELMAR_NODISCARD U8 spTreePort110() const;
   /// Sets SP_TREE_PORT110.
   void spTreePort110Is(U8 value);
   /// Width of SP_TREE_PORT110 in bits.
@@ -1328,10 +1329,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT110 in the entry.
   U16 spTreePort110Offset() const;
   /// Whether the view has SP_TREE_PORT110.
-  bool isSpTreePort110Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort110Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT111: 2 bits; on all chips.
-  U8 spTreePort111() const;
+  VELMAR_NODISCARD U8 spTreePort111() const;
   /// Sets SP_TREE_PORT111.
   void spTreePort111Is(U8 value);
   /// Width of SP_TREE_PORT111 in bits.
@@ -1339,10 +1340,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT111 in the entry.
   U16 spTreePort111Offset() const;
   /// Whether the view has SP_TREE_PORT111.
-  bool isSpTreePort111Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort111Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT112: 2 bits; on all chips.
-  U8 spTreePort112() const;
+  VELMAR_NODISCARD U8 spTreePort112() const;
   /// Sets SP_TREE_PORT112.
   void spTreePort112Is(U8 value);
   /// Width of SP_TREE_PORT112 in bits.
@@ -1350,10 +1351,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT112 in the entry.
   U16 spTreePort112Offset() const;
   /// Whether the view has SP_TREE_PORT112.
-  bool isSpTreePort112Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort112Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT113: 2 bits; on all chips.
-  U8 spTreePort113() const;
+  VELMAR_NODISCARD U8 spTreePort113() const;
   /// Sets SP_TREE_PORT113.
   void spTreePort113Is(U8 value);
   /// Width of SP_TREE_PORT113 in bits.
@@ -1361,10 +1362,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT113 in the entry.
   U16 spTreePort113Offset() const;
   /// Whether the view has SP_TREE_PORT113.
-  bool isSpTreePort113Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort113Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT114: 2 bits; on all chips.
-  U8 spTreePort114() const;
+  VELMAR_NODISCARD U8 spTreePort114() const;
   /// Sets SP_TREE_PORT114.
   void spTreePort114Is(U8 value);
   /// Width of SP_TREE_PORT114 in bits.
@@ -1372,10 +1373,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT114 in the entry.
   U16 spTreePort114Offset() const;
   /// Whether the view has SP_TREE_PORT114.
-  bool isSpTreePort114Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort114Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT115: 2 bits; on all chips.
-  U8 spTreePort115() const;
+  VELMAR_NODISCARD U8 spTreePort115() const;
   /// Sets SP_TREE_PORT115.
   void spTreePort115Is(U8 value);
   /// Width of SP_TREE_PORT115 in bits.
@@ -1383,10 +1384,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT115 in the entry.
   U16 spTreePort115Offset() const;
   /// Whether the view has SP_TREE_PORT115.
-  bool isSpTreePort115Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort115Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT116: 2 bits; on all chips.
-  U8 spTreePort116() const;
+  VELMAR_NODISCARD U8 spTreePort116() const;
   /// Sets SP_TREE_PORT116.
   void spTreePort116Is(U8 value);
   /// Width of SP_TREE_PORT116 in bits.
@@ -1394,10 +1395,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT116 in the entry.
   U16 spTreePort116Offset() const;
   /// Whether the view has SP_TREE_PORT116.
-  bool isSpTreePort116Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort116Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT117: 2 bits; on all chips.
-  U8 spTreePort117() const;
+  VELMAR_NODISCARD U8 spTreePort117() const;
   /// Sets SP_TREE_PORT117.
   void spTreePort117Is(U8 value);
   /// Width of SP_TREE_PORT117 in bits.
@@ -1405,10 +1406,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT117 in the entry.
   U16 spTreePort117Offset() const;
   /// Whether the view has SP_TREE_PORT117.
-  bool isSpTreePort117Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort117Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT118: 2 bits; on all chips.
-  U8 spTreePort118() const;
+  VELMAR_NODISCARD U8 spTreePort118() const;
   /// Sets SP_TREE_PORT118.
   void spTreePort118Is(U8 value);
   /// Width of SP_TREE_PORT118 in bits.
@@ -1416,10 +1417,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT118 in the entry.
   U16 spTreePort118Offset() const;
   /// Whether the view has SP_TREE_PORT118.
-  bool isSpTreePort118Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort118Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT119: 2 bits; on all chips.
-  U8 spTreePort119() const;
+  VELMAR_NODISCARD U8 spTreePort119() const;
   /// Sets SP_TREE_PORT119.
   void spTreePort119Is(U8 value);
   /// Width of SP_TREE_PORT119 in bits.
@@ -1427,10 +1428,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT119 in the entry.
   U16 spTreePort119Offset() const;
   /// Whether the view has SP_TREE_PORT119.
-  bool isSpTreePort119Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort119Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT120: 2 bits; on all chips.
-  U8 spTreePort120() const;
+  VELMAR_NODISCARD U8 spTreePort120() const;
   /// Sets SP_TREE_PORT120.
   void spTreePort120Is(U8 value);
   /// Width of SP_TREE_PORT120 in bits.
@@ -1438,10 +1439,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT120 in the entry.
   U16 spTreePort120Offset() const;
   /// Whether the view has SP_TREE_PORT120.
-  bool isSpTreePort120Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort120Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT121: 2 bits; on all chips.
-  U8 spTreePort121() const;
+  VELMAR_NODISCARD U8 spTreePort121() const;
   /// Sets SP_TREE_PORT121.
   void spTreePort121Is(U8 value);
   /// Width of SP_TREE_PORT121 in bits.
@@ -1449,10 +1450,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT121 in the entry.
   U16 spTreePort121Offset() const;
   /// Whether the view has SP_TREE_PORT121.
-  bool isSpTreePort121Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort121Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT122: 2 bits; on all chips.
-  U8 spTreePort122() const;
+  VELMAR_NODISCARD U8 spTreePort122() const;
   /// Sets SP_TREE_PORT122.
   void spTreePort122Is(U8 value);
   /// Width of SP_TREE_PORT122 in bits.
@@ -1460,10 +1461,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT122 in the entry.
   U16 spTreePort122Offset() const;
   /// Whether the view has SP_TREE_PORT122.
-  bool isSpTreePort122Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort122Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT123: 2 bits; on all chips.
-  U8 spTreePort123() const;
+  VELMAR_NODISCARD U8 spTreePort123() const;
   /// Sets SP_TREE_PORT123.
   void spTreePort123Is(U8 value);
   /// Width of SP_TREE_PORT123 in bits.
@@ -1471,10 +1472,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT123 in the entry.
   U16 spTreePort123Offset() const;
   /// Whether the view has SP_TREE_PORT123.
-  bool isSpTreePort123Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort123Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT124: 2 bits; on all chips.
-  U8 spTreePort124() const;
+  VELMAR_NODISCARD U8 spTreePort124() const;
   /// Sets SP_TREE_PORT124.
   void spTreePort124Is(U8 value);
   /// Width of SP_TREE_PORT124 in bits.
@@ -1482,10 +1483,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT124 in the entry.
   U16 spTreePort124Offset() const;
   /// Whether the view has SP_TREE_PORT124.
-  bool isSpTreePort124Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort124Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT125: 2 bits; on all chips.
-  U8 spTreePort125() const;
+  VELMAR_NODISCARD U8 spTreePort125() const;
   /// Sets SP_TREE_PORT125.
   void spTreePort125Is(U8 value);
   /// Width of SP_TREE_PORT125 in bits.
@@ -1493,10 +1494,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT125 in the entry.
   U16 spTreePort125Offset() const;
   /// Whether the view has SP_TREE_PORT125.
-  bool isSpTreePort125Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort125Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT126: 2 bits; on all chips.
-  U8 spTreePort126() const;
+  VELMAR_NODISCARD U8 spTreePort126() const;
   /// Sets SP_TREE_PORT126.
   void spTreePort126Is(U8 value);
   /// Width of SP_TREE_PORT126 in bits.
@@ -1504,10 +1505,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT126 in the entry.
   U16 spTreePort126Offset() const;
   /// Whether the view has SP_TREE_PORT126.
-  bool isSpTreePort126Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort126Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT127: 2 bits; on all chips.
-  U8 spTreePort127() const;
+  VELMAR_NODISCARD U8 spTreePort127() const;
   /// Sets SP_TREE_PORT127.
   void spTreePort127Is(U8 value);
   /// Width of SP_TREE_PORT127 in bits.
@@ -1515,10 +1516,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT127 in the entry.
   U16 spTreePort127Offset() const;
   /// Whether the view has SP_TREE_PORT127.
-  bool isSpTreePort127Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort127Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT128: 2 bits; on all chips.
-  U8 spTreePort128() const;
+  VELMAR_NODISCARD U8 spTreePort128() const;
   /// Sets SP_TREE_PORT128.
   void spTreePort128Is(U8 value);
   /// Width of SP_TREE_PORT128 in bits.
@@ -1526,10 +1527,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT128 in the entry.
   U16 spTreePort128Offset() const;
   /// Whether the view has SP_TREE_PORT128.
-  bool isSpTreePort128Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort128Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT129: 2 bits; on all chips.
-  U8 spTreePort129() const;
+  VELMAR_NODISCARD U8 spTreePort129() const;
   /// Sets SP_TREE_PORT129.
   void spTreePort129Is(U8 value);
   /// Width of SP_TREE_PORT129 in bits.
@@ -1537,10 +1538,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT129 in the entry.
   U16 spTreePort129Offset() const;
   /// Whether the view has SP_TREE_PORT129.
-  bool isSpTreePort129Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort129Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT130: 2 bits; on all chips.
-  U8 spTreePort130() const;
+  VELMAR_NODISCARD U8 spTreePort130() const;
   /// Sets SP_TREE_PORT130.
   void spTreePort130Is(U8 value);
   /// Width of SP_TREE_PORT130 in bits.
@@ -1548,10 +1549,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT130 in the entry.
   U16 spTreePort130Offset() const;
   /// Whether the view has SP_TREE_PORT130.
-  bool isSpTreePort130Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort130Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT131: 2 bits; on all chips.
-  U8 spTreePort131() const;
+  VELMAR_NODISCARD U8 spTreePort131() const;
   /// Sets SP_TREE_PORT131.
   void spTreePort131Is(U8 value);
   /// Width of SP_TREE_PORT131 in bits.
@@ -1559,10 +1560,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT131 in the entry.
   U16 spTreePort131Offset() const;
   /// Whether the view has SP_TREE_PORT131.
-  bool isSpTreePort131Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort131Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT132: 2 bits; on all chips.
-  U8 spTreePort132() const;
+  VELMAR_NODISCARD U8 spTreePort132() const;
   /// Sets SP_TREE_PORT132.
   void spTreePort132Is(U8 value);
   /// Width of SP_TREE_PORT132 in bits.
@@ -1570,10 +1571,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT132 in the entry.
   U16 spTreePort132Offset() const;
   /// Whether the view has SP_TREE_PORT132.
-  bool isSpTreePort132Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort132Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT133: 2 bits; on all chips.
-  U8 spTreePort133() const;
+  VELMAR_NODISCARD U8 spTreePort133() const;
   /// Sets SP_TREE_PORT133.
   void spTreePort133Is(U8 value);
   /// Width of SP_TREE_PORT133 in bits.
@@ -1581,10 +1582,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT133 in the entry.
   U16 spTreePort133Offset() const;
   /// Whether the view has SP_TREE_PORT133.
-  bool isSpTreePort133Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort133Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT134: 2 bits; on all chips.
-  U8 spTreePort134() const;
+  VELMAR_NODISCARD U8 spTreePort134() const;
   /// Sets SP_TREE_PORT134.
   void spTreePort134Is(U8 value);
   /// Width of SP_TREE_PORT134 in bits.
@@ -1592,10 +1593,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT134 in the entry.
   U16 spTreePort134Offset() const;
   /// Whether the view has SP_TREE_PORT134.
-  bool isSpTreePort134Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort134Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT135: 2 bits; on all chips.
-  U8 spTreePort135() const;
+  VELMAR_NODISCARD U8 spTreePort135() const;
   /// Sets SP_TREE_PORT135.
   void spTreePort135Is(U8 value);
   /// Width of SP_TREE_PORT135 in bits.
@@ -1603,10 +1604,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT135 in the entry.
   U16 spTreePort135Offset() const;
   /// Whether the view has SP_TREE_PORT135.
-  bool isSpTreePort135Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort135Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT136: 2 bits; on all chips.
-  U8 spTreePort136() const;
+  VELMAR_NODISCARD U8 spTreePort136() const;
   /// Sets SP_TREE_PORT136.
   void spTreePort136Is(U8 value);
   /// Width of SP_TREE_PORT136 in bits.
@@ -1614,10 +1615,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT136 in the entry.
   U16 spTreePort136Offset() const;
   /// Whether the view has SP_TREE_PORT136.
-  bool isSpTreePort136Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort136Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT137: 2 bits; on all chips.
-  U8 spTreePort137() const;
+  VELMAR_NODISCARD U8 spTreePort137() const;
   /// Sets SP_TREE_PORT137.
   void spTreePort137Is(U8 value);
   /// Width of SP_TREE_PORT137 in bits.
@@ -1625,10 +1626,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT137 in the entry.
   U16 spTreePort137Offset() const;
   /// Whether the view has SP_TREE_PORT137.
-  bool isSpTreePort137Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort137Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT138: 2 bits; on all chips.
-  U8 spTreePort138() const;
+  VELMAR_NODISCARD U8 spTreePort138() const;
   /// Sets SP_TREE_PORT138.
   void spTreePort138Is(U8 value);
   /// Width of SP_TREE_PORT138 in bits.
@@ -1636,10 +1637,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT138 in the entry.
   U16 spTreePort138Offset() const;
   /// Whether the view has SP_TREE_PORT138.
-  bool isSpTreePort138Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort138Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT139: 2 bits; on all chips.
-  U8 spTreePort139() const;
+  VELMAR_NODISCARD U8 spTreePort139() const;
   /// Sets SP_TREE_PORT139.
   void spTreePort139Is(U8 value);
   /// Width of SP_TREE_PORT139 in bits.
@@ -1647,10 +1648,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT139 in the entry.
   U16 spTreePort139Offset() const;
   /// Whether the view has SP_TREE_PORT139.
-  bool isSpTreePort139Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort139Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT140: 2 bits; on all chips.
-  U8 spTreePort140() const;
+  VELMAR_NODISCARD U8 spTreePort140() const;
   /// Sets SP_TREE_PORT140.
   void spTreePort140Is(U8 value);
   /// Width of SP_TREE_PORT140 in bits.
@@ -1658,10 +1659,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT140 in the entry.
   U16 spTreePort140Offset() const;
   /// Whether the view has SP_TREE_PORT140.
-  bool isSpTreePort140Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort140Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT141: 2 bits; on all chips.
-  U8 spTreePort141() const;
+  VELMAR_NODISCARD U8 spTreePort141() const;
   /// Sets SP_TREE_PORT141.
   void spTreePort141Is(U8 value);
   /// Width of SP_TREE_PORT141 in bits.
@@ -1669,10 +1670,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT141 in the entry.
   U16 spTreePort141Offset() const;
   /// Whether the view has SP_TREE_PORT141.
-  bool isSpTreePort141Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort141Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT142: 2 bits; on all chips.
-  U8 spTreePort142() const;
+  VELMAR_NODISCARD U8 spTreePort142() const;
   /// Sets SP_TREE_PORT142.
   void spTreePort142Is(U8 value);
   /// Width of SP_TREE_PORT142 in bits.
@@ -1680,10 +1681,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT142 in the entry.
   U16 spTreePort142Offset() const;
   /// Whether the view has SP_TREE_PORT142.
-  bool isSpTreePort142Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort142Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT143: 2 bits; on all chips.
-  U8 spTreePort143() const;
+  VELMAR_NODISCARD U8 spTreePort143() const;
   /// Sets SP_TREE_PORT143.
   void spTreePort143Is(U8 value);
   /// Width of SP_TREE_PORT143 in bits.
@@ -1691,10 +1692,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT143 in the entry.
   U16 spTreePort143Offset() const;
   /// Whether the view has SP_TREE_PORT143.
-  bool isSpTreePort143Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort143Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT144: 2 bits; on all chips.
-  U8 spTreePort144() const;
+  VELMAR_NODISCARD U8 spTreePort144() const;
   /// Sets SP_TREE_PORT144.
   void spTreePort144Is(U8 value);
   /// Width of SP_TREE_PORT144 in bits.
@@ -1702,10 +1703,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT144 in the entry.
   U16 spTreePort144Offset() const;
   /// Whether the view has SP_TREE_PORT144.
-  bool isSpTreePort144Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort144Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT145: 2 bits; on all chips.
-  U8 spTreePort145() const;
+  VELMAR_NODISCARD U8 spTreePort145() const;
   /// Sets SP_TREE_PORT145.
   void spTreePort145Is(U8 value);
   /// Width of SP_TREE_PORT145 in bits.
@@ -1713,10 +1714,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT145 in the entry.
   U16 spTreePort145Offset() const;
   /// Whether the view has SP_TREE_PORT145.
-  bool isSpTreePort145Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort145Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT146: 2 bits; on all chips.
-  U8 spTreePort146() const;
+  VELMAR_NODISCARD U8 spTreePort146() const;
   /// Sets SP_TREE_PORT146.
   void spTreePort146Is(U8 value);
   /// Width of SP_TREE_PORT146 in bits.
@@ -1724,10 +1725,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT146 in the entry.
   U16 spTreePort146Offset() const;
   /// Whether the view has SP_TREE_PORT146.
-  bool isSpTreePort146Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort146Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT147: 2 bits; on all chips.
-  U8 spTreePort147() const;
+  VELMAR_NODISCARD U8 spTreePort147() const;
   /// Sets SP_TREE_PORT147.
   void spTreePort147Is(U8 value);
   /// Width of SP_TREE_PORT147 in bits.
@@ -1735,10 +1736,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT147 in the entry.
   U16 spTreePort147Offset() const;
   /// Whether the view has SP_TREE_PORT147.
-  bool isSpTreePort147Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort147Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT148: 2 bits; on all chips.
-  U8 spTreePort148() const;
+  VELMAR_NODISCARD U8 spTreePort148() const;
   /// Sets SP_TREE_PORT148.
   void spTreePort148Is(U8 value);
   /// Width of SP_TREE_PORT148 in bits.
@@ -1746,10 +1747,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT148 in the entry.
   U16 spTreePort148Offset() const;
   /// Whether the view has SP_TREE_PORT148.
-  bool isSpTreePort148Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort148Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT149: 2 bits; on all chips.
-  U8 spTreePort149() const;
+  VELMAR_NODISCARD U8 spTreePort149() const;
   /// Sets SP_TREE_PORT149.
   void spTreePort149Is(U8 value);
   /// Width of SP_TREE_PORT149 in bits.
@@ -1757,10 +1758,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT149 in the entry.
   U16 spTreePort149Offset() const;
   /// Whether the view has SP_TREE_PORT149.
-  bool isSpTreePort149Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort149Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT150: 2 bits; on all chips.
-  U8 spTreePort150() const;
+  VELMAR_NODISCARD U8 spTreePort150() const;
   /// Sets SP_TREE_PORT150.
   void spTreePort150Is(U8 value);
   /// Width of SP_TREE_PORT150 in bits.
@@ -1768,10 +1769,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT150 in the entry.
   U16 spTreePort150Offset() const;
   /// Whether the view has SP_TREE_PORT150.
-  bool isSpTreePort150Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort150Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT151: 2 bits; on all chips.
-  U8 spTreePort151() const;
+  VELMAR_NODISCARD U8 spTreePort151() const;
   /// Sets SP_TREE_PORT151.
   void spTreePort151Is(U8 value);
   /// Width of SP_TREE_PORT151 in bits.
@@ -1779,10 +1780,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT151 in the entry.
   U16 spTreePort151Offset() const;
   /// Whether the view has SP_TREE_PORT151.
-  bool isSpTreePort151Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort151Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT152: 2 bits; on all chips.
-  U8 spTreePort152() const;
+  VELMAR_NODISCARD U8 spTreePort152() const;
   /// Sets SP_TREE_PORT152.
   void spTreePort152Is(U8 value);
   /// Width of SP_TREE_PORT152 in bits.
@@ -1790,10 +1791,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT152 in the entry.
   U16 spTreePort152Offset() const;
   /// Whether the view has SP_TREE_PORT152.
-  bool isSpTreePort152Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort152Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT153: 2 bits; on all chips.
-  U8 spTreePort153() const;
+  VELMAR_NODISCARD U8 spTreePort153() const;
   /// Sets SP_TREE_PORT153.
   void spTreePort153Is(U8 value);
   /// Width of SP_TREE_PORT153 in bits.
@@ -1801,10 +1802,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT153 in the entry.
   U16 spTreePort153Offset() const;
   /// Whether the view has SP_TREE_PORT153.
-  bool isSpTreePort153Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort153Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT154: 2 bits; on all chips.
-  U8 spTreePort154() const;
+  VELMAR_NODISCARD U8 spTreePort154() const;
   /// Sets SP_TREE_PORT154.
   void spTreePort154Is(U8 value);
   /// Width of SP_TREE_PORT154 in bits.
@@ -1812,10 +1813,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT154 in the entry.
   U16 spTreePort154Offset() const;
   /// Whether the view has SP_TREE_PORT154.
-  bool isSpTreePort154Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort154Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT155: 2 bits; on all chips.
-  U8 spTreePort155() const;
+  VELMAR_NODISCARD U8 spTreePort155() const;
   /// Sets SP_TREE_PORT155.
   void spTreePort155Is(U8 value);
   /// Width of SP_TREE_PORT155 in bits.
@@ -1823,10 +1824,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT155 in the entry.
   U16 spTreePort155Offset() const;
   /// Whether the view has SP_TREE_PORT155.
-  bool isSpTreePort155Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort155Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT156: 2 bits; on all chips.
-  U8 spTreePort156() const;
+  VELMAR_NODISCARD U8 spTreePort156() const;
   /// Sets SP_TREE_PORT156.
   void spTreePort156Is(U8 value);
   /// Width of SP_TREE_PORT156 in bits.
@@ -1834,10 +1835,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT156 in the entry.
   U16 spTreePort156Offset() const;
   /// Whether the view has SP_TREE_PORT156.
-  bool isSpTreePort156Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort156Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT157: 2 bits; on all chips.
-  U8 spTreePort157() const;
+  VELMAR_NODISCARD U8 spTreePort157() const;
   /// Sets SP_TREE_PORT157.
   void spTreePort157Is(U8 value);
   /// Width of SP_TREE_PORT157 in bits.
@@ -1845,10 +1846,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT157 in the entry.
   U16 spTreePort157Offset() const;
   /// Whether the view has SP_TREE_PORT157.
-  bool isSpTreePort157Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort157Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT158: 2 bits; on all chips.
-  U8 spTreePort158() const;
+  VELMAR_NODISCARD U8 spTreePort158() const;
   /// Sets SP_TREE_PORT158.
   void spTreePort158Is(U8 value);
   /// Width of SP_TREE_PORT158 in bits.
@@ -1856,10 +1857,10 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT158 in the entry.
   U16 spTreePort158Offset() const;
   /// Whether the view has SP_TREE_PORT158.
-  bool isSpTreePort158Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort158Valid() const;
 
   /// Spanning-tree state of the port. SP_TREE_PORT159: 2 bits; on all chips.
-  U8 spTreePort159() const;
+  VELMAR_NODISCARD U8 spTreePort159() const;
   /// Sets SP_TREE_PORT159.
   void spTreePort159Is(U8 value);
   /// Width of SP_TREE_PORT159 in bits.
@@ -1867,7 +1868,7 @@ class VELMAR_EXPORT VlanStg2Entry : public AsicUtils::BcmAsicBase {
   /// First bit of SP_TREE_PORT159 in the entry.
   U16 spTreePort159Offset() const;
   /// Whether the view has SP_TREE_PORT159.
-  bool isSpTreePort159Valid() const;
+  VELMAR_NODISCARD bool isSpTreePort159Valid() const;
 };
 
 }  // namespace Velmar

@@ -1,18 +1,8 @@
-#include <cstdio>
 #include <stdexcept>
 #include <string>
 
-#include "AsicUtils/BcmAsicBase.h"
 #include "Detail/MaskBuf.h"
-#include "Kiv/SassertHelper.h"
 #include "Morvo/VectorOutOfRange.h"
-
-// Another policy for soft assertions, and another place for trace lines.
-
-Kiv::SassertHelper::~SassertHelper() {
-  std::fprintf(stderr, "soft assertion %s in %s: %s\n", expression_, function_,
-               stream_.text().c_str());
-}
 
 void maskBuf(const U32* src, int srcWords, U32* dst, int dstWords, const U32* mask, int maskWords) {
   for (int i = 0; i < dstWords; ++i) dst[i] = i < srcWords && i < maskWords ? src[i] & mask[i] : 0;

@@ -73,6 +73,9 @@ std::string fieldText(const ClassRows& rows, const FieldRows& field) {
   return start + ": " + width + "; on " + chipsText(rows, field) + ".";
 }
 
+/// Begins the declaration of a member whose result is all that it does.
+const std::string query = "VELMAR_NODISCARD ";
+
 std::string member(const std::string& text, const std::string& declaration) {
   const std::string line = "  " + declaration + ";\n";
   if (line.size() <= lineWidth + 1) return comment("  ", text) + line;
@@ -88,22 +91,22 @@ std::string fieldMembers(const ClassRows& rows, const FieldRows& field) {
   const std::string hardwareName = field.name.hardwareName;
   return "\n" +
          member(fieldText(rows, field),
-                std::string(valueName(field.name.type)) + " " + name + "() const") +
+                query + std::string(valueName(field.name.type)) + " " + name + "() const") +
          member("Sets " + hardwareName + ".",
                 "void " + name + "Is(" + parameterName(field.name.type) + " value)") +
          member("Width of " + hardwareName + " in bits.", "U16 " + name + "Len() const") +
          member("First bit of " + hardwareName + " in the entry.",
                 "U16 " + name + "Offset() const") +
          member("Whether the view has " + hardwareName + ".",
-                std::string("bool is") + field.name.capitalised + "Valid() const");
+                query + std::string("bool is") + field.name.capitalised + "Valid() const");
 }
 
 /// A geometry value: the static member, and the one for the view's chip and variant.
 std::string geometry(const std::string& text, const std::string& type, const std::string& name,
                      bool overrides = true) {
-  return member(text, "static " + type + " " + name + "(U32 chipType, U8 variant)") +
+  return member(text, query + "static " + type + " " + name + "(U32 chipType, U8 variant)") +
          member("The same for the view's chip and variant.",
-                type + " " + name + "() const" + (overrides ? " override" : ""));
+                query + type + " " + name + "() const" + (overrides ? " override" : ""));
 }
 
 std::string classComment(const ClassRows& rows) {
@@ -150,7 +153,7 @@ std::string viewMembers(const ClassRows& rows) {
                 "static void handleBuf(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 "
                 "variant)") +
          member("Whether the constructor accepts the pair. Never fails.",
-                "static bool chipTypeVariantValid(ChipType_ chipType, U8 variant)") +
+                query + "static bool chipTypeVariantValid(ChipType_ chipType, U8 variant)") +
          member("True.", "bool isPrimary() const") +
          member(rows.kind == Kind::table ? "True: a memory." : "False: a register array.",
                 "bool isTable() const override") +
@@ -165,7 +168,7 @@ std::string viewMembers(const ClassRows& rows) {
              "First bit of a field. An identifier that the class does not declare fails \"false\".",
              "U16 fieldOffset(U32 fieldId) const override") +
          member("Whether the view has a field. Never fails.",
-                "bool isFieldValid(U32 fieldId) const override") +
+                query + "bool isFieldValid(U32 fieldId) const override") +
          member("The entry with its reserved bits zero. Fails \"len_ >= " + rawBytes +
                     "\" if the buffer is shorter.",
                 rows.raw + " getAllFields() const") +
@@ -173,9 +176,9 @@ std::string viewMembers(const ClassRows& rows) {
                   "allFieldsMask") +
          geometry("Number of fields that the chip has.", "U32", "fieldCount") + "\n" +
          member("Whether an instance identifier is accepted.",
-                "static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier)") +
+                query + "static bool hasIdentifier(U32 chipType, U8 variant, U32 identifier)") +
          member("The same for the view's chip and variant.",
-                "bool hasIdentifier(U32 identifier) const override");
+                query + "bool hasIdentifier(U32 identifier) const override");
 }
 
 std::string addressMembers(const ClassRows& rows) {
@@ -197,7 +200,7 @@ std::string addressMembers(const ClassRows& rows) {
 std::string geometryMembers(const ClassRows& rows) {
   const bool isTable = rows.kind == Kind::table;
   std::string text = "\n" + geometry("Size of an entry in 32-bit words.", "U16", "width");
-  text += member("The same as width().", std::string("static U16 ") +
+  text += member("The same as width().", query + std::string("static U16 ") +
                                              (isTable ? "tableWidth" : "regWidth") +
                                              "(U32 chipType, U8 variant)");
   text += geometry(isTable ? "1." : "Number of elements.", "U32", "arrayElements") +
@@ -227,7 +230,8 @@ std::string classHeader(const ClassRows& rows) {
       std::any_of(rows.fields.begin(), rows.fields.end(),
                   [](const FieldRows& field) { return field.name.type == ValueType::bitmap; });
   std::string text = derivedFrom("tables/" + rows.name + ".cpp") +
-                     "#pragma once\n\n#include \"AsicUtils/BcmAsicBase.h\"\n";
+                     "#pragma once\n\n#include \"AsicUtils/BcmAsicBase.h\"\n"
+                     "#include \"AsicUtils/ChipType.h\"\n";
   if (hasBitmap) text += "#include \"Oru/PerUnitBitmap.h\"\n";
   text += "#include \"Velmar/Export.h\"\n\nnamespace Velmar {\n\n" + classComment(rows) +
           "class VELMAR_EXPORT " + rows.name + " : public AsicUtils::BcmAsicBase {\n public:\n" +

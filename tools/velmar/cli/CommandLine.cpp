@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "Velmar/Version.h"
 #include "cli/Completion.h"
 #include "cli/Help.h"
 #include "cli/ManPage.h"
@@ -61,7 +62,7 @@ int runCommandLine(const VerbList& verbs, const std::vector<std::string>& words)
   }
   if (first == "help" && !rest.empty()) return printHelp(findVerb(verbs, rest[0]));
   if (asksForHelp) return print([&](size_t width) { return overview(verbs, width); });
-  if (first == "--version") return print(formatText("velmar {}\n", VELMAR_VERSION));
+  if (first == "--version") return print(formatText("velmar {}\n", Velmar::version()));
   // For the build and for the shell, not for people.
   if (first == "__man") return print(manPage(verbs));
   if (first == "__complete") return print(completion(verbs, rest));

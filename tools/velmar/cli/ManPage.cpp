@@ -1,5 +1,7 @@
 #include "cli/ManPage.h"
 
+#include "Velmar/Version.h"
+
 #include "model/Formatting.h"
 
 #include "cli/Help.h"
@@ -48,7 +50,7 @@ std::string manPage(const VerbList& verbs) {
       ".SH NAME\nvelmar \\- decode, encode, compare and explain switch table entries\n"
       ".SH SYNOPSIS\n.B velmar\nVERB [ARGUMENT...]\n"
       ".SH DESCRIPTION\n{}\n.SH VERBS\n",
-      VELMAR_VERSION, escaped(purposeText));
+      Velmar::version(), escaped(purposeText));
   for (const VerbName& name : verbs) text += section(name.make());
   text += ".SH INPUT\nThe notations of dumps that are read:\n";
   for (const Notation& notation : notations) text += item(notation.name, notation.meaning);

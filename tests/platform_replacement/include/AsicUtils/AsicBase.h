@@ -31,6 +31,7 @@ class AsicBase {
   virtual bool getSchanAddress(U32&, U32&, U32&, U16, U32, U16) const = 0;
 
  protected:
+  // clang-format off
   AsicBase(U8 chipType, U8* buf, U32 len, bool flag, U8 variant, U8)
       : chipType_(chipType), variant_(variant), flag_(flag), len_(static_cast<U16>(len)), buf_(buf) {}
 

@@ -3,10 +3,8 @@
 #include "AsicUtils/AsicBase.h"
 
 namespace AsicUtils {
-
-class BcmAsicBase : public AsicBase {
+struct BcmAsicBase : AsicBase {
  protected:
   using AsicBase::AsicBase;
 };
-
 }  // namespace AsicUtils

@@ -2,6 +2,7 @@
 
 #include "AsicUtils/Types.h"
 
+// clang-format off
 #define ASICUTILS_CHIP_TYPES(CHIP)                                                         \
   CHIP(BCM56960_A0, 6) CHIP(BCM56965_A0, 9) CHIP(BCM56968_A0, 11) CHIP(BCM56970_A0, 12)    \
   CHIP(BCM56870_A0, 18) CHIP(BCM56770_A0, 20) CHIP(BCM56470_A0, 21) CHIP(BCM56370_A0, 23)  \

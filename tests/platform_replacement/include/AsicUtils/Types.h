@@ -9,12 +9,9 @@ typedef std::uint32_t U32;
 typedef std::uint64_t U64;
 typedef std::int32_t S32;
 
-template <int WORDS>
-struct RawWords {
-  U32 words[WORDS];
-};
-struct Raw128 : RawWords<4> {};
-struct Raw256 : RawWords<8> {};
-struct Raw512 : RawWords<16> {};
-struct Raw1024 : RawWords<32> {};
-struct Raw8192 : RawWords<256> {};
+// clang-format off
+struct Raw128 { U32 words[4]; };
+struct Raw256 { U32 words[8]; };
+struct Raw512 { U32 words[16]; };
+struct Raw1024 { U32 words[32]; };
+struct Raw8192 { U32 words[256]; };

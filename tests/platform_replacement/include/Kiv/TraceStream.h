@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdio>
 #include <sstream>
 
 #include "AsicUtils/Types.h"
@@ -13,11 +14,22 @@ class TraceStream {
     text_ << +value;
     return *this;
   }
-  TraceStream& operator<<(const char* text) { return text_ << text, *this; }
   std::string text() const { return text_.str(); }
 
  private:
   std::ostringstream text_;
+};
+
+/// Prints its line when it ends: another policy than that of the stand-ins.
+class Line {
+ public:
+  explicit Line(const char* what) : what_(what) {}
+  ~Line() { std::fprintf(stderr, "%s: %s\n", what_, stream_.text().c_str()); }
+  TraceStream& stream() { return stream_; }
+
+ private:
+  const char* what_;
+  TraceStream stream_;
 };
 
 }  // namespace Kiv

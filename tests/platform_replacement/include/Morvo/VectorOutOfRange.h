@@ -2,8 +2,6 @@
 
 #include <cstddef>
 
-namespace Morvo {
-namespace Impl {
+namespace Morvo::Impl {
 [[noreturn]] void throwVectorOutOfRangeException(std::size_t index, std::size_t count);
 }
-}  // namespace Morvo
