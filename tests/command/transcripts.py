@@ -48,7 +48,19 @@ def session(text, directory):
     return "\n".join(result) + "\n"
 
 
+def has_terminals():
+    try:
+        for descriptor in os.openpty():
+            os.close(descriptor)
+        return True
+    except OSError:
+        print("no terminal: terminal.txt is not checked")
+        return False
+
+
 check(len(paths) >= 5, "transcripts are missing")
+if not has_terminals():
+    paths = [path for path in paths if not path.endswith("terminal.txt")]
 for path in paths:
     with open(path, encoding="utf-8") as file:
         expected = file.read()
