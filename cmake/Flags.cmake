@@ -59,6 +59,8 @@ function(velmar_library target)
   set_target_properties(${target} PROPERTIES
     VERSION ${PROJECT_VERSION}
     SOVERSION ${PROJECT_VERSION_MAJOR}
+    # Also in the build folder, whose name is then not in the file.
+    BUILD_WITH_INSTALL_RPATH ON
     INSTALL_RPATH "$ORIGIN")
   target_compile_features(${target} PUBLIC cxx_std_14)
   target_compile_options(${target} PRIVATE -fno-semantic-interposition)

@@ -1,6 +1,7 @@
 #include "framework/FieldAccess.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace Velmar {
 namespace Framework {
@@ -46,19 +47,54 @@ void write(const EntryView& view, const FieldSlot& slot, const T& value) {
 
 U32 wordsOf(const FieldSlot& slot) { return (slot.width + 31U) / 32; }
 
+// The words of a bitmap go from buffer to list, and back, through registers: what is written in
+// pieces of one size and read in pieces of another waits for both.
+
 void read(const EntryView& view, const FieldSlot& slot, Oru::PerUnitBitmap& bitmap) {
-  U32 words[mostBitmapWords] = {};
-  read(view, slot, words);
-  for (U32 i = 0; i < wordsOf(slot); ++i) bitmap.bitListIs(i, words[i]);
+  const auto wordAt = [&view, &slot](U32 i, U32 bits) {
+    U64 word = 0;
+    Detail::copyBits(bytesOf(word), sizeof(word), ViewAccess::buf(view), ViewAccess::len(view),
+                     static_cast<int>(bits), 0, static_cast<int>(slot.offset + 32 * i));
+    return static_cast<U32>(word);
+  };
+  // From the last word down, so that the list grows once.
+  U32 i = wordsOf(slot) - 1;
+  bitmap.bitListIs(i, wordAt(i, slot.width - 32 * i));
+  while (i-- > 0) bitmap.bitListIs(i, wordAt(i, 32));
+}
+
+/// Puts the lowest `bits` bits of the words at an offset of the buffer, 64 bits at a time.
+void putWords(U8* buf, U32 offset, U32 bits, const Oru::PerUnitBitmap& bitmap) {
+  const U32 below = offset % 8;  // bits of the first byte to keep
+  U8* into = buf + offset / 8;
+  U64 carry = *into & ((1U << below) - 1);
+  U32 word = 0;
+  for (; bits >= 64; bits -= 64, word += 2, into += 8) {
+    const U64 value = wordOf(bitmap, word) | U64{wordOf(bitmap, word + 1)} << 32;
+    const U64 shifted = value << below | carry;
+    std::memcpy(into, &shifted, sizeof(shifted));
+    carry = value >> 1 >> (63 - below);
+  }
+  // The last words and the carry go byte by byte: up to 32 bits with what is left of those before.
+  for (U32 held = below; bits != 0 || held != 0;) {
+    if (bits != 0) {
+      const U32 count = std::min<U32>(bits, 32);
+      carry |= (wordOf(bitmap, word++) & (~U64{0} >> (64 - count))) << held;
+      held += count;
+      bits -= count;
+    }
+    for (; held >= 8; held -= 8, carry >>= 8) *into++ = static_cast<U8>(carry);
+    if (bits != 0 || held == 0) continue;
+    *into = static_cast<U8>((*into & 0xffU << held) | carry);
+    return;
+  }
 }
 
 /// Writes the words that the bitmap has, then throws if the field needs more.
 void write(const EntryView& view, const FieldSlot& slot, const Oru::PerUnitBitmap& bitmap) {
   const U32 given = std::min(wordsOf(slot), wordCountOf(bitmap));
-  U32 words[mostBitmapWords];
-  for (U32 i = 0; i < given; ++i) words[i] = wordOf(bitmap, i);
-  Detail::copyBits(ViewAccess::buf(view), ViewAccess::len(view), bytesOf(words), sizeof(words),
-                   std::min<int>(slot.width, static_cast<int>(32 * given)), slot.offset, 0);
+  const U32 bits = std::min<U32>(slot.width, 32 * given);
+  if (bits != 0) putWords(ViewAccess::buf(view), slot.offset, bits, bitmap);
   if (given < wordsOf(slot)) Morvo::Impl::throwVectorOutOfRangeException(given, given);
 }
 
