@@ -44,9 +44,10 @@ class SeenIndexes {
   bool insert(U64 index) {
     constexpr U64 most = 1U << 16;
     if (index >= most) return true;
-    if (index >= seen_.size()) seen_.resize(index + 1);
-    const bool isNew = !seen_[index];
-    seen_[index] = true;
+    const auto at = static_cast<size_t>(index);
+    if (at >= seen_.size()) seen_.resize(at + 1);
+    const bool isNew = !seen_[at];
+    seen_[at] = true;
     return isNew;
   }
 
