@@ -199,8 +199,7 @@ Verb decodeVerb() {
            Options::nonzero, Options::limit, Options::plain, Options::expand, Options::check,
            Options::input, Options::hexOrder, Options::byteOrder, Options::stride, Options::first,
            Options::listFormat, Options::output, Options::color},
-          {"velmar encode VlanEntry --chip 56990_B0 valid=1 stg=5 | velmar decode VlanEntry --chip "
-           "56990_B0",
+          {"velmar decode VlanEntry --chip BCM56990_B0 samples/vlan-bcm56990.bin --where stg=3,4",
            "velmar encode VlanMpls --chip 56980 --index 7 mplsEnable=1 --whole -f raw | velmar "
            "decode VlanMpls --chip 56980 --nonzero --format jsonl -"},
           run};

@@ -408,8 +408,8 @@ Verb diffVerb() {
            Options::byteOrder, Options::stride, Options::first, Options::listFormat,
            Options::output, Options::color},
           {"velmar diff VlanMpls --chip 56980 <(echo 00000000) <(echo 00000001)",
-           "velmar diff VlanEntry --chip 56990_B0 <(velmar encode vlan --chip 56990_B0 stg=1) "
-           "<(velmar encode vlan --chip 56990_B0 stg=2) --format jsonl"},
+           "velmar diff VlanStg --chip 56980 samples/vlan-stg-bcm56980.bin <(head -c 96 "
+           "samples/vlan-stg-bcm56980.bin) --format jsonl"},
           run};
 }
 

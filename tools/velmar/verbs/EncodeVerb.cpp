@@ -265,8 +265,8 @@ Verb encodeVerb() {
        Options::input, Options::hexOrder, Options::byteOrder, Options::stride, Options::first,
        Options::format("hex,words,raw,json,jsonl"), Options::plain, Options::output},
       {"velmar encode VlanEntry --chip BCM56960_A0 valid=1 fidId=100 portBitmap=0-3,17",
-       "velmar encode VlanEntry --chip 56960 valid=1 | velmar encode VlanEntry --chip 56960 "
-       "--base - stg=0x1f"},
+       "velmar encode EgrVlan --chip 56980 --base samples/egr-vlan-bcm56980.bin --index 1 "
+       "portBitmap+=17"},
       run};
 }
 
