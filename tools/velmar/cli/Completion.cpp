@@ -112,9 +112,10 @@ std::vector<std::string> proposals(Proposal kind, const Context& context, const 
 std::vector<std::string> optionNames(const Verb& verb) {
   std::vector<std::string> names = {"--help"};
   for (const Option& option : verb.options) {
-    names.push_back(option.longName());
+    const std::string name = option.longName();
+    names.push_back(name);
     if (!option.isOfDump || !hasTwoDumps(verb)) continue;
-    for (const char* side : {"--old-", "--new-"}) names.push_back(side + names.back().substr(2));
+    for (const char* side : {"--old-", "--new-"}) names.push_back(side + name.substr(2));
   }
   return names;
 }

@@ -67,7 +67,7 @@ class HexReader : public TextReader {
       takeStreamLine();
     } else if (!isEntry) {
       failLine("{} bytes, not {}; check {}", bytes_.size(), entrySizeText(stride_, layout_),
-               hasData_ ? "the line for lost digits" : "table and chip, and the line");
+               hasLines_ ? "the line for lost digits" : "table and chip, and the line");
     }
     if (index) {
       if (!seen_.insert(*index)) failLine("entry {} is given twice; give it once", *index);
@@ -76,7 +76,7 @@ class HexReader : public TextReader {
       index_ = *index;
     }
     pending_.insert(pending_.end(), bytes_.begin(), bytes_.end());
-    hasData_ = true;
+    hasLines_ = true;
     return true;
   }
 
@@ -339,7 +339,7 @@ class HexReader : public TextReader {
   U64 index_;
   SeenIndexes seen_;
   Shape shape_ = Shape::unknown;
-  bool hasData_ = false;    ///< a line was accepted
+  bool hasLines_ = false;    ///< a line was accepted
   bool hasOffset_ = false;  ///< the last index has zeros before it, and may be an offset
   U64 offset_ = 0;
   HexOrder numbers_ = HexOrder::byGroups;  ///< what numbers after 0x are, by the first line

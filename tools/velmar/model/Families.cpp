@@ -3,6 +3,7 @@
 #include <fnmatch.h>
 
 #include <algorithm>
+#include <limits>
 
 #include "model/Failure.h"
 #include "model/Text.h"
@@ -18,7 +19,7 @@ constexpr size_t smallestFamily = 4;
 std::optional<NumberedName> numberedName(std::string_view name) {
   const size_t digits = name.find_last_not_of("0123456789") + 1;
   const std::optional<U64> number = parseNumber(name.substr(digits));
-  if (!number || digits == 0) return std::nullopt;
+  if (!number || *number > std::numeric_limits<U32>::max() || digits == 0) return std::nullopt;
   return NumberedName{name.substr(0, digits), static_cast<U32>(*number)};
 }
 
