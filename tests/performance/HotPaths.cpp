@@ -1,6 +1,8 @@
 // Each hot path a thousand times, in a function of its own, to be counted by callgrind. The path
 // `nothing` is the cost of the loop and of a call into the shared library.
 
+#include <initializer_list>
+
 #include "Velmar/FieldId.h"
 #include "Velmar/IngVpVlanMembershipEccEntry.h"
 #include "Velmar/PortBitmapProfileEntry.h"
@@ -25,6 +27,15 @@ U32 addressOf(U32 chipType, U32 tableEntry) {
   U32 block = 0;
   VlanEntry::getSchanAddress(chipType, 0, address, accessType, block, 0, tableEntry, 0);
   return address + accessType + block;
+}
+
+/// A caller that does not know the class, over three of its fields.
+U32 walk(const AsicUtils::AsicBase& view) {
+  U32 sum = 0;
+  for (const U32 id : {FieldId::FID_ID, FieldId::STG, FieldId::BC_IDX}) {
+    if (view.isFieldValid(id)) sum += view.fieldWidth(id) + view.fieldOffset(id);
+  }
+  return sum;
 }
 
 }  // namespace
@@ -61,6 +72,8 @@ U32 addressOf(U32 chipType, U32 tableEntry) {
   PATH(bitmapGetter272, PortBitmapProfileEntry,    BCM56990_B0, 36, touch(view.bitmap())) \
   PATH(bitmapSetter136, VlanEntry,                 BCM56960_A0, 64, view.portBitmapIs(ports)) \
   PATH(bitmapSetter272, PortBitmapProfileEntry,    BCM56990_B0, 36, view.bitmapIs(ports)) \
+  PATH(allFields,       VlanEntry,                 BCM56990_B0, 64, touch(view.getAllFields())) \
+  PATH(walk,            VlanEntry,                 BCM56990_B0, 16, touch(walk(base))) \
   PATH(offsetById,      VlanEntry,                 BCM56990_B0, 16, base.fieldOffset(FieldId::STG)) \
   PATH(widthById,       VlanEntry,                 BCM56990_B0, 16, base.fieldWidth(FieldId::STG)) \
   PATH(validityById,    VlanEntry,                 BCM56990_B0, 16, base.isFieldValid(FieldId::STG)) \
