@@ -31,16 +31,19 @@ else()
   string(REGEX REPLACE "/$" "" VELMAR_PC_PREFIX "${VELMAR_PC_PREFIX}")
   set(VELMAR_PC_LIBDIR "\${prefix}/${CMAKE_INSTALL_LIBDIR}")
 endif()
+if(IS_ABSOLUTE "${CMAKE_INSTALL_INCLUDEDIR}")
+  set(VELMAR_PC_INCLUDEDIR ${CMAKE_INSTALL_INCLUDEDIR})
+else()
+  set(VELMAR_PC_INCLUDEDIR "\${prefix}/${CMAKE_INSTALL_INCLUDEDIR}")
+endif()
 configure_file(cmake/VelmarMetaInfo.pc.in VelmarMetaInfo.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/VelmarMetaInfo.pc
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
 
 # Documents for users, and the samples that their examples name.
 set(VELMAR_DOC_DIR ${CMAKE_INSTALL_DATADIR}/doc/velmar)
-install(FILES README.md CHANGELOG.md docs/recipes.md
-  DESTINATION ${VELMAR_DOC_DIR} COMPONENT documents)
-install(DIRECTORY docs/schema samples docs/reference
-  DESTINATION ${VELMAR_DOC_DIR} COMPONENT documents)
+install(FILES README.md CHANGELOG.md DESTINATION ${VELMAR_DOC_DIR} COMPONENT documents)
+install(DIRECTORY docs samples DESTINATION ${VELMAR_DOC_DIR} COMPONENT documents)
 
 # Removes what the last installation from this build folder wrote.
 if(PROJECT_IS_TOP_LEVEL)

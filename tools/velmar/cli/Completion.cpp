@@ -80,8 +80,9 @@ std::vector<std::string> assignmentProposals(const Context& context, const std::
     for (std::string& name : all) name += '=';
     return all;
   }
+  const std::string name = word.substr(0, word.find_first_of("=!<>+-"));
   const Layout layout(findTable(context.positionals.front()), findChip(context.chip), 0);
-  const FieldPlace& place = layout.find(word.substr(0, sign));
+  const FieldPlace& place = layout.find(name);
   all.clear();
   if (place.isBitmap()) all = {word.substr(0, sign + 1) + "none"};
   for (U32 value = 0; place.width <= fewBits && value < 1U << place.width; ++value) {

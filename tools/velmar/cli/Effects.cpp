@@ -17,20 +17,18 @@ struct Rule {
 
 // clang-format off
 constexpr Rule rules[] = {
-    {"--format,--output,--color", [](const Arguments& a) { return a.quiet; },
+    {"--format,--output,--color,--stat,--expand", [](const Arguments& a) { return a.quiet; },
      "with --quiet; give one of them"},
     {"--fields,--color,--plain,--expand", [](const Arguments& a) { return a.check; },
      "with --check; give one of them"},
-    {"--fields,--common,--stat,--expand", [](const Arguments& a) { return a.quiet && a.stat; },
-     "with --quiet; give one of them"},
+    {"--expand", [](const Arguments& a) { return a.stat; },
+     "with --stat, which counts each field; leave it out"},
     {"--expand", [](const Arguments& a) { return !a.format.empty() && a.format != "table"; },
      "with a --format for programs, which has all fields one by one; leave it out"},
     {"--plain", [](const Arguments& a) { return a.format != "json" && a.format != "jsonl"; },
      "without --format json or jsonl; give both"},
     {"--color", [](const Arguments& a) { return !a.format.empty() && a.format != "table"; },
      "with a --format for programs; leave it out"},
-    {"--variant", [](const Arguments& a) { return a.chips.empty(); },
-     "without --chip; give both"},
     {"--hex-order", [](const Arguments& a) { return a.input == "raw" || a.input == "json"; },
      "with --input raw or json; give one of them"},
     {"--stride,--byte-order", [](const Arguments& a) { return a.input == "json"; },

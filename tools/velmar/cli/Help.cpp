@@ -85,9 +85,9 @@ const std::vector<Notation> environment = {
 };
 
 const std::vector<Notation> files = {
-    {"share/doc/velmar/recipes.md", "questions and edits that take more than one command"},
+    {"share/doc/velmar/docs/recipes.md", "questions and edits that take more than one command"},
     {"share/doc/velmar/samples/", "the dumps that the examples name"},
-    {"share/doc/velmar/schema/", "a JSON Schema for each JSON document"},
+    {"share/doc/velmar/docs/schema/", "a JSON Schema for each JSON document"},
 };
 
 std::string headingOf(const Option& option) {

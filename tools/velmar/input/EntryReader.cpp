@@ -79,7 +79,7 @@ void EntryReader::failBeyond(U64 index, U64 count) const {
 }
 
 void EntryReader::checkFirst() const {
-  if (options_.first == 0 || options_.isForTwo) return;
+  if (options_.first == 0 || options_.shared.first) return;
   fail("{}: --first has no effect where the entries have their indexes; leave it out", name());
 }
 

@@ -18,9 +18,11 @@ struct InputOptions {
   HexOrder hexOrder = HexOrder::byGroups;
   bool bigEndian = false;  ///< the highest byte of each 32-bit word comes first
   bool beyondEnd = false;  ///< entries beyond the end of the table are given, not refused
-  bool isForTwo = false;   ///< two dumps share the options: one of them may make no use of one
-  U32 stride = 0;          ///< bytes from one entry to the next; 0: the bytes of an entry
-  U64 first = 0;           ///< index of the first entry
+  struct {
+    bool hexOrder = false, byteOrder = false, stride = false, first = false;
+  } shared;        ///< given for two dumps: one of them may make no use of it
+  U32 stride = 0;  ///< bytes from one entry to the next; 0: the bytes of an entry
+  U64 first = 0;   ///< index of the first entry
   std::function<void(const std::string&)> note;  ///< receives what is worth saying; may be empty
 };
 

@@ -339,7 +339,7 @@ class HexReader : public TextReader {
   U64 index_;
   SeenIndexes seen_;
   Shape shape_ = Shape::unknown;
-  bool hasLines_ = false;    ///< a line was accepted
+  bool hasLines_ = false;   ///< a line was accepted
   bool hasOffset_ = false;  ///< the last index has zeros before it, and may be an offset
   U64 offset_ = 0;
   HexOrder numbers_ = HexOrder::byGroups;  ///< what numbers after 0x are, by the first line

@@ -67,10 +67,11 @@ class JsonText::Source {
   explicit Source(JsonText& text) : text_(text) { update(); }
 
   char Peek() {
-    if (text_.at_ == end_) {
+    if (text_.at_ >= end_) {
       if (!text_.readMore()) return '\0';
       update();
     }
+    if (letters_[text_.at_] == '\0') text_.fail("a byte of zero is no JSON");
     return letters_[text_.at_];
   }
   char Take() {
@@ -97,14 +98,18 @@ class JsonText::Source {
 };
 
 bool JsonText::readMore() {
-  if (at_ >= longestPart) fail("an entry has more than 1 MiB");
+  if (at_ >= longestPart) tooLong();
   return stream_.readMore();
 }
 
+void JsonText::tooLong() { fail("an entry has more than 1 MiB"); }
+
 char JsonText::peek() {
   for (;; ++at_) {
+    if (at_ >= longestPart) tooLong();
     if (at_ == stream_.size() && !readMore()) return '\0';
     const char letter = stream_.text()[at_];
+    if (letter == '\0') fail("a byte of zero is no JSON");
     if (letter != '\n' && !isBlank(letter)) return letter;
   }
 }

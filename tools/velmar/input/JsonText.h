@@ -13,7 +13,7 @@ class JsonText {
  public:
   explicit JsonText(ByteStream& stream) : stream_(stream) {}
 
-  /// The next letter that is not a blank; 0 at the end.
+  /// The next letter that is not a blank; 0 at the end, and nowhere else.
   char peek();
   /// Takes the next letter that is not a blank, if it is this one.
   bool takeIf(char letter);
@@ -35,6 +35,7 @@ class JsonText {
   class Source;
 
   bool readMore();
+  [[noreturn]] void tooLong();
   void countLines(size_t end, U64& line, U64& column) const;
   [[noreturn]] void failAt(size_t at, const std::string& what) const;
 

@@ -157,13 +157,14 @@ const Notation& notationOf(ByteStream& stream, const InputOptions& options) {
 
 /// Refuses options that the notation makes no use of.
 void checkEffects(const Notation& notation, const ByteStream& stream, const InputOptions& options) {
-  if (options.isForTwo) return;
   const bool isJson = notation.open == openJson;
-  if (options.hexOrder != HexOrder::byGroups && (isJson || notation.open == openRaw)) {
+  const bool ignoresHexOrder = isJson || notation.open == openRaw;
+  if (options.hexOrder != HexOrder::byGroups && ignoresHexOrder && !options.shared.hexOrder) {
     fail("{}: --hex-order has no effect on a {} dump; leave it out, or give --input hex or xxd",
          stream.name(), notation.name);
   }
-  if (isJson && (options.stride != 0 || options.bigEndian)) {
+  const bool hasStride = options.stride != 0 && !options.shared.stride;
+  if (isJson && (hasStride || (options.bigEndian && !options.shared.byteOrder))) {
     fail("{}: --stride and --byte-order have no effect on a json dump; leave them out",
          stream.name());
   }

@@ -16,8 +16,9 @@ std::vector<Value> valuesOf(const FieldPlace& place, std::string_view text, bool
   const bool isRange = text.find_first_of("- ") != std::string_view::npos;
   if (isRange) {
     fail(
-        "--where {}: {} is one number; give a range as two conditions, --where {}>=1 --where {}<=3",
-        place.name(), inQuotes(text), place.name(), place.name());
+        "--where {}: {} is not one number; give a range as two conditions, one with >= and one "
+        "with <=",
+        place.name(), inQuotes(text));
   }
   std::vector<Value> values;
   for (const std::string& one : isList ? split(text, ',') : std::vector{std::string(text)}) {

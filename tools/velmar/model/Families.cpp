@@ -1,7 +1,5 @@
 #include "model/Families.h"
 
-#include <fnmatch.h>
-
 #include <algorithm>
 #include <limits>
 
@@ -44,6 +42,12 @@ std::string FieldGroup::hardwareName() const {
   return std::string(numberedName(first)->prefix) + name().substr(prefix);
 }
 
+std::vector<U32> FieldGroup::ids() const {
+  std::vector<U32> ids;
+  for (const FieldPlace& place : members) ids.push_back(place.field.id);
+  return ids;
+}
+
 std::string FieldGroup::bits() const {
   FieldPlace all = front();
   for (const FieldPlace& place : members) {
@@ -73,13 +77,13 @@ std::vector<FieldGroup> grouped(const std::vector<FieldPlace>& fields, bool asFa
 std::vector<FieldPlace> findFields(const Layout& layout, std::string_view name) {
   std::vector<FieldPlace> found;
   if (name.find_first_of("*?[") != std::string_view::npos) {
-    const std::string pattern = simplified(name);
+    const NamePattern pattern(name);
     for (const FieldPlace& place : layout.fields()) {
-      if (fnmatch(pattern.c_str(), simplified(place.name()).c_str(), 0) == 0)
-        found.push_back(place);
+      if (pattern.matches(place.name())) found.push_back(place);
     }
-    if (found.empty())
+    if (found.empty()) {
       fail("{} has no field like {}; {}", layout.name(), inQuotes(name), layout.seeFields());
+    }
     return found;
   }
   // "spTreePort0-3": numbers after the name of a family. Other hyphens are part of a name.

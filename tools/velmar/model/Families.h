@@ -32,6 +32,7 @@ struct FieldGroup {
   std::string name() const;
   /// Such as "SP_TREE_PORT0-63,68".
   std::string hardwareName() const;
+  std::vector<U32> ids() const;
   /// The bits from the first to the last member's, as FieldPlace::bits() has them.
   std::string bits() const;
 };

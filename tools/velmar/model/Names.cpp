@@ -191,7 +191,12 @@ std::string chipsText(const std::vector<std::string>& chips) {
 
 NamePattern::NamePattern(std::string_view pattern)
     : pattern_(simplified(pattern)),
-      hasWildcard_(pattern_.find_first_of("*?[") != std::string::npos) {}
+      hasWildcard_(pattern_.find_first_of("*?") != std::string::npos) {
+  if (pattern.find_first_of("[]") != std::string_view::npos) {
+    fail("{}: brackets are not understood; give * and ?, or numbers such as spTreePort0-3",
+         inQuotes(pattern));
+  }
+}
 
 bool NamePattern::matches(std::string_view name) const {
   const std::string simple = simplified(name);

@@ -101,8 +101,9 @@ class BytesWriter : public EntryWriter {
   void checkFollows(U64 index) {
     if (started_ && index != next_) {
       fail(
-          "entry {} cannot follow entry {}, because raw bytes carry no index; give --whole or "
-          "--format hex",
+          "entry {} cannot follow entry {}, because raw bytes carry no index; give --format hex, "
+          "or "
+          "write the whole table with --whole of encode",
           index, next_ - 1);
     }
     if (!started_ && index != 0) {

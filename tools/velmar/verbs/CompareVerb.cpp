@@ -155,7 +155,9 @@ int run(const Arguments& arguments) {
   } else {
     const Catalogue::Table table = findTable(arguments.table);
     // If neither chip has the table, an empty result would mean that nothing changed.
-    if (!table.isOn(after.number)) Layout(table, before, 0);
+    if (!table.isOn(after.number, variantOf(arguments))) {
+      Layout(table, before, variantOf(arguments));
+    }
     comparison.compare(table);
   }
   const Listing& listing = comparison.listing();

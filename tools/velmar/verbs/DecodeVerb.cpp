@@ -175,6 +175,7 @@ int check(const Arguments& arguments, const Layout& layout, Output& output) {
   for (Entry entry; walk.next(entry); output.flushIfLarge()) findings.examine(entry);
   findings.end();
   output.finish();
+  walk.report();
   return findings.any() ? exitFinding : exitSuccess;
 }
 

@@ -155,7 +155,8 @@ int run(const Arguments& arguments) {
 Verb exportVerb() {
   return {"export",
           "Prints the catalogue as JSON: chips, tables, fields, layouts, addresses.",
-          "The schema of this document, as of all others, is installed in share/doc/velmar/schema.",
+          "The schema of this document, as of all others, is installed in "
+          "share/doc/velmar/docs/schema.",
           {Positionals::tableIfAny},
           {Options::chipIfAny, Options::variant, Options::output},
           {"velmar export VlanEntry --chip BCM56990_B0", "velmar export --chip BCM56470_A0"},

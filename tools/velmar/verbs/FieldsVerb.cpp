@@ -76,7 +76,7 @@ Listing matchingFields(const Arguments& arguments) {
                               : isOnAll           ? "all of the table"
                                                   : join(match.chips, " ");
     Cell id = field.id;
-    if (match.group.isFamily()) id = formatText("{}-{}", field.id, match.group.back().field.id);
+    if (match.group.isFamily()) id = rangesText(match.group.ids());
     listing.add({match.group.name(), match.group.hardwareName(), id, match.table.name(),
                  isForPeople ? shortNameOf(field.type) : Catalogue::valueTypeName(field.type),
                  Cell(match.chips).shownAs(shown)});

@@ -22,10 +22,9 @@ struct Fit {
   double share() const { return static_cast<double>(entries) / indexCount; }
 };
 
-/// The layouts that a dump may have been made with.
+/// Chips on which a table has one layout: a dump fits all of them or none, unless it names its chip.
 struct Candidate {
-  Layout layout;
-  std::vector<std::string> chips;
+  std::vector<Layout> layouts;
 };
 
 bool areAlike(const Layout& a, const Layout& b) {
@@ -46,26 +45,30 @@ std::vector<Candidate> candidatesOf(const Arguments& arguments) {
       const bool isAsked = arguments.chips.empty() || chipOf(arguments).number == chip.number;
       if (!isAsked || !table.isOn(chip.number)) continue;
       const Layout layout(table, chip, 0);
-      const auto alike = std::find_if(
-          candidates.begin() + static_cast<long>(first), candidates.end(),
-          [&layout](const Candidate& candidate) { return areAlike(candidate.layout, layout); });
+      const auto alike = std::find_if(candidates.begin() + static_cast<long>(first),
+                                      candidates.end(), [&layout](const Candidate& candidate) {
+                                        return areAlike(candidate.layouts.front(), layout);
+                                      });
       if (alike == candidates.end()) {
-        candidates.push_back({layout, {chip.name}});
+        candidates.push_back({{layout}});
       } else {
-        alike->chips.emplace_back(chip.name);
+        alike->layouts.push_back(layout);
       }
     }
+  }
+  if (candidates.empty()) {
+    fail("{} does not exist on {}; leave out --table or --chip",
+         findTable(arguments.tableOption).name(), chipOf(arguments).name);
   }
   return candidates;
 }
 
 /// Reads the dump as entries of a layout; nothing where it cannot be one.
-std::optional<Fit> fitOf(const std::string& text, const Candidate& candidate,
+std::optional<Fit> fitOf(const std::string& text, const Layout& layout,
                          const InputOptions& options) {
-  const Layout& layout = candidate.layout;
   Fit fit;
   fit.table = layout.name();
-  fit.chips = candidate.chips;
+  fit.chips = {layout.chip().name};
   fit.indexCount = layout.indexCount();
   for (const U8 byte : layout.reservedMask()) {
     fit.reservedBits += static_cast<U32>(__builtin_popcount(byte));
@@ -117,9 +120,23 @@ int run(const Arguments& arguments) {
   const std::string text(stream.text());
   InputOptions options = inputOptionsOf(arguments);
   options.note = nullptr;
+  const size_t first = text.find_first_not_of(" \t\r\n");
+  const bool isJson = first != std::string::npos && (text[first] == '{' || text[first] == '[');
   std::vector<Fit> fits;
   for (const Candidate& candidate : candidatesOf(arguments)) {
-    if (const std::optional<Fit> fit = fitOf(text, candidate, options)) fits.push_back(*fit);
+    std::optional<Fit> fit;
+    for (const Layout& layout : candidate.layouts) {
+      // What fits one chip fits those like it, but a dump in JSON names its chip.
+      if (fit && !isJson) {
+        fit->chips.emplace_back(layout.chip().name);
+        continue;
+      }
+      const std::optional<Fit> other = fitOf(text, layout, options);
+      if (!other && !isJson) break;
+      if (other && fit) fit->chips.emplace_back(layout.chip().name);
+      if (other && !fit) fit = other;
+    }
+    if (fit) fits.push_back(*fit);
   }
   std::stable_sort(fits.begin(), fits.end(), isLikelier);
   Listing listing({"table", "chips", "entries", "tableEntries", "reason"});

@@ -48,12 +48,10 @@ Listing readableFields(const Layout& layout, const std::vector<FieldGroup>& grou
   Listing listing(columns);
   for (const FieldGroup& group : groups) {
     const FieldPlace& place = group.front();
-    const std::string lastId =
-        group.isFamily() ? formatText("-{}", group.back().field.id) : std::string();
     Row row = {group.name(),
                alignedBits(layout, group.bits()),
                shortNameOf(place.field.type),
-               formatText("{}{}", place.field.id, lastId),
+               rangesText(group.ids()),
                group.hardwareName(),
                meaningOf(group)};
     if (namesOverlaps) row.emplace_back(layout.overlapsOf(place));

@@ -68,6 +68,9 @@ Listing listTables(const std::string& pattern) {
 }
 
 int run(const Arguments& arguments) {
+  if (arguments.chips.empty() && !arguments.variant.empty()) {
+    fail("--variant has no effect without --chip; give both");
+  }
   const Listing listing =
       arguments.chips.empty()
           ? listTables(arguments.pattern)

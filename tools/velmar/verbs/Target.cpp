@@ -62,14 +62,18 @@ InputOptions inputOptionsOf(const Arguments& arguments) {
 
 InputOptions inputOptionsOf(const Arguments& arguments, bool isNew) {
   Arguments own = arguments;
-  bool hasOwn = false;
+  auto shared = InputOptions().shared;
+  shared = {true, true, true, true};
   for (const SideValue& side : arguments.sides) {
     if (side.isNew != isNew) continue;
     own.*side.member = side.value;
-    hasOwn = true;
+    if (side.member == &Arguments::hexOrder) shared.hexOrder = false;
+    if (side.member == &Arguments::byteOrder) shared.byteOrder = false;
+    if (side.member == &Arguments::stride) shared.stride = false;
+    if (side.member == &Arguments::first) shared.first = false;
   }
   InputOptions options = inputOptionsOf(own);
-  options.isForTwo = !hasOwn;
+  options.shared = shared;
   return options;
 }
 
