@@ -116,7 +116,7 @@ class HexReader : public TextReader {
       const size_t end = std::min(text.find_first_of(" \t"), text.size());
       if (!splitGroups(text.substr(0, end), groups)) {
         failLine("{} is not a hexadecimal number; {}", inQuotes(text.substr(0, end)),
-                 text.find_first_of("0123456789") != std::string_view::npos
+                 line.find_first_of("0123456789") != std::string_view::npos
                      ? "check the digits, and remove what is not data"
                      : "--input raw reads binary dumps");
       }
