@@ -13,7 +13,11 @@ from command import build, check, finish, golden_tables, run, source
 overview = run("--help")[1].decode()
 verbs = re.findall(r"^  ([a-z]+) ", overview, re.M)
 check({"decode", "encode", "identify"} <= set(verbs), f"verbs: {verbs}")
-manual = run("__man")[1].decode().replace("\\-", "-")
+manual = run("__man")[1].decode()
+with open(os.path.join(source, "tools", "velmar", "velmar.1"), encoding="utf-8") as file:
+    check(file.read() == manual, "tools/velmar/velmar.1 is stale; to refresh it: cmake --build "
+          "--preset release --target refresh")
+manual = manual.replace("\\-", "-")
 
 
 def completions(*words):
