@@ -60,7 +60,8 @@ Value parsePorts(const FieldPlace& place, std::string_view text) {
 }  // namespace
 
 Value::Value(U32 width) : width_(width) {
-  if (wordCount() > maxWords) fail("a field of {} bits is wider than this program takes", width);
+  if (wordCount() > maxWords)
+    fail("a field of {} bits is wider than this program takes; please report it", width);
   for (U32 i = 0; i < wordCount(); ++i) words_[i] = 0;
 }
 

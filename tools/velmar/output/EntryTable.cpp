@@ -24,7 +24,8 @@ class TableWriter : public EntryWriter {
     }
     for (Line& line : lines_) {
       line.head = formatText("  {:<{}}  {:<{}}  ", line.head, nameWidth, line.bits, bitsWidth);
-      if (line.head.size() > longestHead) fail("{}: the name is too long", line.group.name());
+      if (line.head.size() > longestHead)
+        fail("{}: the name is too long; please report it", line.group.name());
     }
   }
 

@@ -54,7 +54,7 @@ InputOptions inputOptionsOf(const Arguments& arguments) {
   };
   options.stride = static_cast<U32>(numberOf("--stride", arguments.stride, longestStride, 0));
   if (!arguments.stride.empty() && options.stride == 0) {
-    fail("--stride 0: give the bytes from one entry to the next");
+    fail("--stride 0 repeats one entry; give the bytes from one entry to the next");
   }
   options.first = numberOf("--first", arguments.first, std::numeric_limits<U32>::max(), 0);
   return options;
