@@ -68,10 +68,8 @@ void typeIndexes(const std::string& text) {
     ranges.emplace_back(*Tool::parseNumber(ends.front()),
                         Tool::parseNumber(ends.back()).value_or(0xffffffff));
   }
-  U64 first = ranges.front().first;
   U64 last = 0;
   for (const auto& [low, high] : ranges) {
-    first = std::min(first, low);
     last = std::max(last, high);
     for (const U64 index : {low - 1, low, low + 1, high - 1, high, high + 1}) {
       const bool isNamed = std::any_of(ranges.begin(), ranges.end(), [index](const auto& range) {
@@ -80,7 +78,7 @@ void typeIndexes(const std::string& text) {
       require(set.has(index) == isNamed, "a set has the indexes that it names", text);
     }
   }
-  require(set.first() == first && set.last() == last && !set.isAll(), "ends of a set", text);
+  require(set.last() == last && !set.isAll(), "ends of a set", text);
 }
 
 void typeNames(const std::string& text) {

@@ -18,7 +18,6 @@ class IndexSet {
 
   bool isAll() const { return ranges_.empty(); }
   bool has(U64 index) const;
-  U64 first() const { return isAll() ? 0 : ranges_.front().first; }
   U64 last() const { return isAll() ? std::numeric_limits<U64>::max() : ranges_.back().last; }
   /// The largest number that is written: of "5-" it is 5.
   U64 largestNamed() const;

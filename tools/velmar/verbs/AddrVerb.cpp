@@ -59,11 +59,6 @@ void addMatches(Listing& listing, const Layout& layout, U32 address) {
   }
 }
 
-/// The chips to look at: the one of --chip, or all.
-std::vector<Catalogue::Chip> chipsOf(const Arguments& arguments) {
-  return arguments.chips.empty() ? allChips() : std::vector{chipOf(arguments)};
-}
-
 /// Adds what has an address in a table, or in all tables where none is named; returns the names of
 /// the tables that have it.
 std::set<std::string> findAddress(Listing& listing, const Arguments& arguments,

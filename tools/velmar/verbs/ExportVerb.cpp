@@ -108,11 +108,6 @@ void writeTable(Document& document, const Catalogue::Table& table,
   });
 }
 
-std::vector<Catalogue::Chip> chipsOf(const Arguments& arguments) {
-  if (!arguments.chips.empty()) return {chipOf(arguments)};
-  return allChips();
-}
-
 std::vector<Catalogue::Table> tablesOf(const Arguments& arguments,
                                        const std::vector<Catalogue::Chip>& chips) {
   if (!arguments.table.empty()) {

@@ -16,6 +16,10 @@ Catalogue::Chip chipOf(const Arguments& arguments) {
   return findChip(arguments.chips.front());
 }
 
+std::vector<Catalogue::Chip> chipsOf(const Arguments& arguments) {
+  return arguments.chips.empty() ? allChips() : std::vector{chipOf(arguments)};
+}
+
 bool isAskedFor(const Arguments& arguments, const Catalogue::Table& table) {
   return arguments.tableOption.empty() ||
          findTable(arguments.tableOption).name() == std::string_view(table.name());

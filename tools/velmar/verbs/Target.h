@@ -13,6 +13,8 @@ namespace Tool {
 
 /// The chip of --chip, which must be given once.
 Catalogue::Chip chipOf(const Arguments& arguments);
+/// The chip of --chip; all where it is not given.
+std::vector<Catalogue::Chip> chipsOf(const Arguments& arguments);
 /// Whether --table names the table, or is not given.
 bool isAskedFor(const Arguments& arguments, const Catalogue::Table& table);
 /// The number of --variant.
