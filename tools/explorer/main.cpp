@@ -3,7 +3,7 @@
 
 #include <cstdio>
 #include <fstream>
-#include <sstream>
+#include <stdexcept>
 
 #include "CatalogueText.h"
 #include "Modules.h"

@@ -1,13 +1,18 @@
 // The catalogue as objects: chips, tables, and the layout of a table on a chip. Every fact comes
 // from the library's own catalogue, which the page carries in columns to stay small.
 
-import {largestOf, readBits, shareBits} from "./bits.js";
+import {bytesOf, largestOf, readBits, shareBits} from "./bits.js";
 
 /** Something that a person gave and that cannot be done; the text names the remedy. */
 export class Refusal extends Error {}
 
 export function refuse(text) {
   throw new Refusal(text);
+}
+
+/** A text of a person in quotes, cut where it is long. */
+export function quoted(text) {
+  return `"${text.length > 60 ? `${text.slice(0, 60)}…` : text}"`;
 }
 
 /** Fewer numbered fields than these are shown one by one. */
@@ -25,11 +30,13 @@ export class Layout {
     table.fields.forEach((field, i) => {
       const [offset, width] = [places.offsets[i], places.widths[i]];
       if (width === 0) return;
-      this.fields.push({...field, offset, width, last: offset + width - 1, bits: bitsText(offset, width)});
+      this.fields.push(
+          {...field, offset, width, last: offset + width - 1, bits: bitsText(offset, width)});
     });
     this.byName = new Map(this.fields.map((field) => [field.accessor, field]));
     this.groups = groupsOf(this.fields);
     this.reservedMask = this.maskOfReserved();
+    this.reservedBytes = bytesOf(this.reservedMask, this.entryBytes);
   }
 
   maskOfReserved() {
@@ -40,7 +47,8 @@ export class Layout {
 
   find(name) {
     return this.byName.get(name) ??
-        refuse(`${this.table.name} has no field "${name}" on ${this.chip}; see the field table`);
+        refuse(`${this.table.name} has no field ${quoted(name)} on ${
+            this.chip}; see the field table`);
   }
 
   /** S-channel address of an entry, or of an element of a register array. */
@@ -67,6 +75,11 @@ export class Layout {
     return this.fields.filter((other) => other !== field && shareBits(other, field));
   }
 
+  /** Whether bits are set outside all fields; `start` is the first byte of the entry. */
+  hasOutsideBits(bytes, start) {
+    return this.reservedBytes.some((mask, i) => (bytes[start + i] & mask) !== 0);
+  }
+
   /** The bits that are set outside all fields. */
   outsideFields(bytes) {
     return readBits(bytes, 0, 8 * this.entryBytes) & this.reservedMask;
@@ -91,8 +104,10 @@ export function rangesText(numbers) {
   const ranges = [];
   for (const number of numbers) {
     const last = ranges[ranges.length - 1];
-    if (last && last[1] + 1 === number) last[1] = number;
-    else ranges.push([number, number]);
+    if (last && last[1] + 1 === number)
+      last[1] = number;
+    else
+      ranges.push([number, number]);
   }
   return ranges.map(([a, b]) => (a === b ? `${a}` : `${a}-${b}`)).join(",") || "none";
 }
@@ -128,7 +143,10 @@ function groupOf(members) {
   const width = Math.max(...members.map((field) => field.last)) + 1 - offset;
   const isFamily = members.length > 1;
   return {
-    members, isFamily, offset, width,
+    members,
+    isFamily,
+    offset,
+    width,
     name: isFamily ? familyName(members, "accessor") : members[0].accessor,
     hardwareName: isFamily ? familyName(members, "hardwareName") : members[0].hardwareName,
     bits: bitsText(offset, width),
@@ -164,21 +182,26 @@ export class Catalogue {
   }
 
   tableOf(data) {
-    const table = {name: data.name, purpose: data.purpose, isRegisterArray: data.kind === "registerArray"};
+    const table = {
+      name: data.name,
+      purpose: data.purpose,
+      isRegisterArray: data.kind === "registerArray"
+    };
     table.fields = data.accessors.map((accessor, i) => ({
-      accessor,
-      hardwareName: data.hardwareNames[i],
-      meaning: data.meanings[data.meaning[i]],
-      id: data.ids[i],
-      type: data.types[data.type[i]],
-      isBitmap: data.types[data.type[i]].endsWith("Bitmap"),
-    }));
+                                        accessor,
+                                        hardwareName: data.hardwareNames[i],
+                                        meaning: data.meanings[data.meaning[i]],
+                                        id: data.ids[i],
+                                        type: data.types[data.type[i]],
+                                        isBitmap: data.types[data.type[i]].endsWith("Bitmap"),
+                                      }));
     table.chips = [];
     table.make = new Map();
     for (const row of data.layouts) {
       row.chips.forEach((number) => {
         const chip = this.chips[number].name;
-        table.make.set(chip, {row, geometry: data.geometries.find((one) => one.chips.includes(number))});
+        table.make.set(
+            chip, {row, geometry: data.geometries.find((one) => one.chips.includes(number))});
       });
     }
     table.chips = this.chips.map((chip) => chip.name).filter((chip) => table.make.has(chip));
@@ -187,18 +210,24 @@ export class Catalogue {
   }
 
   table(name) {
-    return this.byName.get(name) ?? refuse(`there is no table "${name}"; search for it above`);
+    return this.byName.get(name) ??
+        refuse(`there is no table ${quoted(name)}; search for it above`);
+  }
+
+  checkChip(chip) {
+    if (!this.chips.some((one) => one.name === chip))
+      refuse(`there is no chip ${quoted(chip)}; choose one above`);
   }
 
   /** The layout of a table on a chip; refuses a table that the chip does not have. */
   layout(tableName, chip) {
     const table = this.table(tableName);
     if (!table.layouts.has(chip)) {
-      if (!this.chips.some((one) => one.name === chip)) refuse(`there is no chip "${chip}"`);
+      this.checkChip(chip);
       const made = table.make.get(chip) ??
           refuse(`${table.name} does not exist on ${chip}; it exists on ${table.chips.join(", ")}`);
-      const geometry = Object.fromEntries(
-          Object.entries(made.geometry).filter(([key]) => key !== "chips"));
+      const geometry =
+          Object.fromEntries(Object.entries(made.geometry).filter(([key]) => key !== "chips"));
       table.layouts.set(chip, new Layout(table, chip, geometry, made.row));
     }
     return table.layouts.get(chip);
@@ -206,7 +235,8 @@ export class Catalogue {
 
   /** The tables that a chip has, as layouts. */
   layoutsOn(chip) {
-    return this.tables.filter((table) => table.make.has(chip)).map((table) => this.layout(table.name, chip));
+    return this.tables.filter((table) => table.make.has(chip))
+        .map((table) => this.layout(table.name, chip));
   }
 
   /** The chips of a table in groups that share one layout. */

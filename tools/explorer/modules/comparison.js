@@ -4,6 +4,7 @@ import {addressText} from "./catalogue.js";
 
 /** Rows {table, part, change, old, new}; of one table, or of all where none is named. */
 export function compareChips(catalogue, oldChip, newChip, tableName = null) {
+  for (const chip of [oldChip, newChip]) catalogue.checkChip(chip);
   const tables = tableName === null ? catalogue.tables : [catalogue.table(tableName)];
   return tables.flatMap((table) => compareTable(catalogue, table, oldChip, newChip));
 }
@@ -14,8 +15,11 @@ function compareTable(catalogue, table, oldChip, newChip) {
   if (!wasThere && !isThere) return [];
   if (!wasThere || !isThere) {
     return [{
-      table: table.name, part: "(table)", change: isThere ? "added" : "gone",
-      old: wasThere ? sizeText(layout(oldChip)) : null, new: isThere ? sizeText(layout(newChip)) : null,
+      table: table.name,
+      part: "(table)",
+      change: isThere ? "added" : "gone",
+      old: wasThere ? sizeText(layout(oldChip)) : null,
+      new: isThere ? sizeText(layout(newChip)) : null,
     }];
   }
   const [before, after] = [layout(oldChip), layout(newChip)];
@@ -39,7 +43,10 @@ function compareGeometry(table, before, after) {
     ["(block)", (layout) => layout.block],
     ["(variants)", (layout) => (layout.variants === "any" ? "any" : "0 only")],
   ];
-  return parts.map(([part, of]) => ({table: table.name, part, change: "changed", old: of(before), new: of(after)}))
+  return parts
+      .map(
+          ([part, of]) =>
+              ({table: table.name, part, change: "changed", old: of(before), new: of(after)}))
       .filter((row) => row.old !== row.new);
 }
 

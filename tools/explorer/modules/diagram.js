@@ -16,7 +16,7 @@ export function numberedGroups(layout) {
   return sorted.map((group, i) => ({...group, number: i + 1}));
 }
 
-/** Draws a layout; `classOf` names a class for a group, such as how it differs from another chip. */
+/** Draws a layout; `classOf` names a class for a group: how it differs from another chip. */
 export function diagramOf(layout, groups, classOf = () => "") {
   const lanes = lanesOf(groups);
   const rows = foldedRows(layout, lanes);
@@ -29,10 +29,12 @@ export function diagramOf(layout, groups, classOf = () => "") {
   const width = left + 32 * bitWidth + 4;
   const label = `The bits of an entry of ${layout.table.name} on ${layout.chip}: ` +
       groups.map((group) => `${group.name} ${group.bits}`).join(", ");
-  return svg("svg", {class: "diagram", viewBox: `0 0 ${width} ${y}`, role: "img", "aria-label": label}, parts);
+  return svg(
+      "svg", {class: "diagram", viewBox: `0 0 ${width} ${y}`, role: "img", "aria-label": label},
+      parts);
 }
 
-/** Puts each group in the first lane where it shares no bit; narrow ones first, wide aliases below. */
+/** Puts each group in the first lane where it shares no bit: narrow ones first, wide ones below. */
 function lanesOf(groups) {
   const lanes = [[]];
   for (const group of [...groups].sort((a, b) => a.width - b.width || a.offset - b.offset)) {
@@ -50,12 +52,15 @@ function foldedRows(layout, lanes) {
     const row = {first: word, last: word, segments: segmentsOf(lanes, word)};
     const before = rows[rows.length - 1];
     const whole = wholeOf(row);
-    if (before && whole !== undefined && whole === wholeOf(before)) before.last = word;
-    else rows.push(row);
+    if (before && whole !== undefined && whole === wholeOf(before))
+      before.last = word;
+    else
+      rows.push(row);
   }
   for (const row of rows) {
     // Lanes that are empty in this row take no place.
-    const used = [...new Set([0, ...row.segments.map((segment) => segment.lane)])].sort((a, b) => a - b);
+    const used =
+        [...new Set([0, ...row.segments.map((segment) => segment.lane)])].sort((a, b) => a - b);
     for (const segment of row.segments) segment.lane = used.indexOf(segment.lane);
     row.height = rowHeight + (used.length - 1) * barHeight;
   }
@@ -89,8 +94,9 @@ function rowOf(row, y, classOf) {
   ];
   const isFolded = row.first !== row.last;
   if (row.segments.length === 0) {
-    parts.push(svg("text", {class: "empty", x: left + 16 * bitWidth, y: y + 21, "text-anchor": "middle"},
-        `bits ${bitsText(32 * row.first, 32 * (row.last - row.first + 1))} reserved`));
+    parts.push(
+        svg("text", {class: "empty", x: left + 16 * bitWidth, y: y + 21, "text-anchor": "middle"},
+            `bits ${bitsText(32 * row.first, 32 * (row.last - row.first + 1))} reserved`));
   }
   for (const segment of row.segments) parts.push(segmentOf(segment, row, y, isFolded, classOf));
   return parts;
@@ -105,12 +111,23 @@ function segmentOf({group, lane, low, width}, row, y, isFolded, classOf) {
   const parts = [
     svg("title", {}, `${group.name} ${group.bits} (${group.hardwareName})`),
     svg("rect", {x, y: top, ...size}),
-    svg("text", {class: "name", x: x + size.width / 2, y: top + (lane === 0 ? 26 : 13), "text-anchor": "middle"}, text),
+    svg("text", {
+      class: "name",
+      x: x + size.width / 2,
+      y: top + (lane === 0 ? 26 : 13),
+      "text-anchor": "middle"
+    },
+        text),
   ];
   if (lane === 0) {
-    const number = (at, anchor, bit) => svg("text", {class: "bit", x: at, y: top + 11, "text-anchor": anchor}, `${bit}`);
-    if (high === low) parts.push(number(x + size.width / 2, "middle", low));
-    else parts.push(number(x + 3, "start", high), number(x + size.width - 3, "end", low));
+    const number = (at, anchor, bit) =>
+        svg("text", {class: "bit", x: at, y: top + 11, "text-anchor": anchor}, `${bit}`);
+    if (high === low)
+      parts.push(number(x + size.width / 2, "middle", low));
+    else
+      parts.push(number(x + 3, "start", high), number(x + size.width - 3, "end", low));
   }
-  return svg("g", {class: `segment ${lane > 0 ? "bar " : ""}${classOf(group)}`, "data-group": group.name}, parts);
+  return svg(
+      "g", {class: `segment ${lane > 0 ? "bar " : ""}${classOf(group)}`, "data-group": group.name},
+      parts);
 }

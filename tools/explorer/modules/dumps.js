@@ -7,7 +7,7 @@ import {changesOf, csvText, decodeEntry, hexText, valueJson} from "./values.js";
 /** A dump: the entries `indexes` of a layout, one after another in `bytes`. */
 export class Dump {
   constructor(layout, indexes, bytes) {
-    Object.assign(this, {layout, indexes, bytes, count: indexes.length});
+    Object.assign(this, {layout, indexes, bytes});
     this.rows = new Map(Array.from(indexes, (index, row) => [index, row]));
   }
 
@@ -20,15 +20,23 @@ export class Dump {
 export function jsonOf(dump, rows) {
   const layout = dump.layout;
   const head = {
-    format: "velmar-entries", version: 1, table: layout.table.name, chip: layout.chip, variant: 0,
+    format: "velmar-entries",
+    version: 1,
+    table: layout.table.name,
+    chip: layout.chip,
+    variant: 0,
     entryBytes: layout.entryBytes,
-    layout: Object.fromEntries(layout.fields.map(({accessor, offset, width}) => [accessor, {offset, width}])),
+    layout: Object.fromEntries(
+        layout.fields.map(({accessor, offset, width}) => [accessor, {offset, width}])),
   };
   const entries = rows.map((row) => {
     const bytes = dump.entry(row);
     const entry = {
-      index: dump.indexes[row], address: addressText(layout.addressOf(dump.indexes[row])),
-      accessType: layout.accessType, block: layout.block, fields: decodeEntry(layout, bytes),
+      index: dump.indexes[row],
+      address: addressText(layout.addressOf(dump.indexes[row])),
+      accessType: layout.accessType,
+      block: layout.block,
+      fields: decodeEntry(layout, bytes),
     };
     const outside = layout.outsideFields(bytes);
     return JSON.stringify(outside === 0n ? entry : {...entry, outsideFields: hexText(outside)});
@@ -36,18 +44,24 @@ export function jsonOf(dump, rows) {
   return `${JSON.stringify(head).slice(0, -1)},"entries":[\n${entries.join(",\n")}\n]}\n`;
 }
 
+function csvQuoted(text) {
+  return /[",\n]/.test(text) ? `"${text.replaceAll("\"", "\"\"")}"` : text;
+}
+
 /** Entries as CSV, with the columns of `velmar decode --format csv`. */
 export function csvOf(dump, rows) {
   const layout = dump.layout;
-  const quoted = (text) => (/[",\n]/.test(text) ? `"${text.replaceAll('"', '""')}"` : text);
   const fields = layout.fields.map((field) => field.accessor);
   const head = ["index", "address", "accessType", "block", ...fields, "outsideFields"];
   const lines = rows.map((row) => {
     const bytes = dump.entry(row);
     const outside = layout.outsideFields(bytes);
-    const values = layout.fields.map((field) => csvText(field, readBits(bytes, field.offset, field.width)));
-    return [dump.indexes[row], addressText(layout.addressOf(dump.indexes[row])), layout.accessType, layout.block,
-      ...values.map(quoted), outside === 0n ? "" : hexText(outside)].join(",");
+    const values =
+        layout.fields.map((field) => csvText(field, readBits(bytes, field.offset, field.width)));
+    return [
+      dump.indexes[row], addressText(layout.addressOf(dump.indexes[row])), layout.accessType,
+      layout.block, ...values.map(csvQuoted), outside === 0n ? "" : hexText(outside)
+    ].join(",");
   });
   return [head.join(","), ...lines].join("\n") + "\n";
 }
@@ -65,9 +79,40 @@ export function joinDumps(old, now) {
 /** What differs between two dumps, as `velmar diff --format json` has it under "entries". */
 export function diffOf(old, now) {
   return joinDumps(old, now).filter((row) => row.differs).map((row) => {
-    if (row.old < 0 || row.now < 0) return {index: row.index, change: row.old < 0 ? "only in NEW" : "only in OLD"};
-    const fields = changesOf(old.layout, old.entry(row.old), now.entry(row.now)).map(
-        ({field, old: before, now: after}) => [field.accessor, {old: valueJson(field, before), new: valueJson(field, after)}]);
+    if (row.old < 0 || row.now < 0)
+      return {index: row.index, change: row.old < 0 ? "only in NEW" : "only in OLD"};
+    const fields = changesOf(old.layout, old.entry(row.old), now.entry(row.now))
+                       .map(({field, old: before, now: after}) => [field.accessor, {
+                              old: valueJson(field, before),
+                              new: valueJson(field, after)
+                            }]);
     return {index: row.index, change: "changed", fields: Object.fromEntries(fields)};
   });
+}
+
+/** Differences as a document of `velmar diff --format json`. */
+export function diffJsonOf(layout, changes) {
+  const head =
+      {format: "velmar-diff", version: 1, table: layout.table.name, chip: layout.chip, variant: 0};
+  const rows = changes.map((row) => `  ${JSON.stringify(row)}`).join(",\n");
+  return `${JSON.stringify(head).slice(0, -1)},"entries":[\n${rows}\n]}\n`;
+}
+
+/** Differences as CSV, with the columns of `velmar diff --format csv`: a row for each field. */
+export function diffCsvOf(layout, changes) {
+  const text = (name, value) => {
+    const field = layout.byName.get(name);
+    return csvQuoted(field ? csvText(field, BigInt(value.hex)) : value.hex);
+  };
+  const lines = changes.flatMap(
+      ({index, change, fields}) =>
+          (fields ?
+               Object.entries(fields).map(
+                   ([name,
+                     {old, new: now}]) => [index, change, name, text(name, old), text(name, now)]) :
+               [[index, change, "", "", ""]]));
+  return [["index", "change", "field", "old", "new"], ...lines]
+             .map((line) => line.join(","))
+             .join("\n") +
+      "\n";
 }

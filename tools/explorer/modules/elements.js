@@ -15,10 +15,13 @@ export function svg(tag, properties = {}, ...children) {
 function filled(element, properties, children) {
   for (const [name, value] of Object.entries(properties)) {
     if (value === null || value === undefined || value === false) continue;
-    if (name.startsWith("on")) element.addEventListener(name.slice(2), value);
-    else element.setAttribute(name, value === true ? "" : value);
+    if (name.startsWith("on"))
+      element.addEventListener(name.slice(2), value);
+    else
+      element.setAttribute(name, value === true ? "" : value);
   }
-  element.append(...children.flat(Infinity).filter((child) => child !== null && child !== undefined));
+  element.append(
+      ...children.flat(Infinity).filter((child) => child !== null && child !== undefined));
   return element;
 }
 
@@ -27,23 +30,35 @@ let labels = 0;
 /** A control with its label before it. */
 export function labelled(text, control) {
   control.id ||= `control-${++labels}`;
-  return h("span", {class: "labelled"}, h("label", {for: control.id}, text), control);
+  return h("span", {class: "labelled"}, h("label", {for: control.id
+           }, text), control);
 }
 
 /** A choice of one of several: {value: text}, with groups as {label: {value: text}}. */
 export function choice(options, chosen, onchange) {
   const option = ([value, text]) => h("option", {value, selected: value === chosen}, text);
-  const select = h("select", {onchange: () => onchange(select.value)},
-      Object.entries(options).map(([value, text]) => (typeof text === "string" ? option([value, text]) :
-          h("optgroup", {label: value}, Object.entries(text).map(option)))));
+  const select =
+      h("select", {onchange: () => onchange(select.value)},
+        Object.entries(options).map(
+            ([value, text]) =>
+                (typeof text === "string" ?
+                     option([value, text]) :
+                     h("optgroup", {label: value}, Object.entries(text).map(option)))));
   return select;
 }
 
 /** A table with a head; cells are texts or elements. */
 export function grid(caption, columns, rows) {
-  return h("table", {}, h("caption", {class: "hidden"}, caption),
+  return h(
+      "table", {}, h("caption", {class: "hidden"}, caption),
       h("thead", {}, h("tr", {}, columns.map((column) => h("th", {scope: "col"}, column)))),
       h("tbody", {}, rows));
+}
+
+/** What to tell a person of an error: the refusal, or that the page is at fault. */
+export function messageOf(error) {
+  return error instanceof Refusal ? error.message :
+                                    `this page is at fault (${error.message}); please report it`;
 }
 
 /** Runs an action of a person; a refusal becomes the text of `place`. */
@@ -52,8 +67,7 @@ export function attempt(place, action) {
     place.textContent = "";
     return action();
   } catch (error) {
-    if (!(error instanceof Refusal)) throw error;
-    place.textContent = error.message;
+    place.textContent = messageOf(error);
     return undefined;
   }
 }
@@ -63,10 +77,16 @@ export function refusalPlace() {
   return h("p", {class: "refusal", role: "alert"});
 }
 
-/** The arrow keys move the focus among the elements of a list; one of them takes part in tabbing. */
-export function roving(container, selector, step = {ArrowDown: 1, ArrowUp: -1, ArrowRight: 1, ArrowLeft: -1}) {
+/** The arrow keys move the focus among the elements of a list; the tab key meets one of them. */
+export function roving(container, selector, step = {
+  ArrowDown: 1,
+  ArrowUp: -1,
+  ArrowRight: 1,
+  ArrowLeft: -1
+}) {
   container.addEventListener("keydown", (event) => {
-    const all = [...container.querySelectorAll(selector)].filter((one) => one.offsetParent !== null);
+    const all =
+        [...container.querySelectorAll(selector)].filter((one) => one.offsetParent !== null);
     const at = all.indexOf(document.activeElement);
     const to = {...step, Home: -all.length, End: all.length}[event.key];
     if (at < 0 || to === undefined) return;

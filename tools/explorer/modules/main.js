@@ -1,17 +1,17 @@
 // The page: search, choice of the chip, the views, and what scripts may call.
 
-import {Catalogue, Refusal} from "./catalogue.js";
-import {compareChips} from "./comparison.js";
+import {Catalogue} from "./catalogue.js";
 import {compareView} from "./compareView.js";
-import {dumpView} from "./dumpView.js";
-import {choice, h, roving} from "./elements.js";
-import {homeView, resultsOf} from "./homeView.js";
+import {compareChips} from "./comparison.js";
 import {readDump} from "./dumpReaders.js";
 import {diffOf} from "./dumps.js";
+import {dumpView} from "./dumpView.js";
+import {choice, h, messageOf, roving} from "./elements.js";
+import {homeView, resultsOf} from "./homeView.js";
 import {searchItems} from "./search.js";
 import {formatState, parseState} from "./state.js";
 import {TableView} from "./tableView.js";
-import {decodeEntry, encodeEntry} from "./values.js";
+import {bytesFrom, decodeEntry, encodeEntry} from "./values.js";
 
 const byId = (id) => document.getElementById(id);
 const catalogue = new Catalogue(JSON.parse(byId("catalogue").textContent));
@@ -20,45 +20,73 @@ const page = {
   catalogue,
   items: searchItems(catalogue),
   chip: catalogue.chips[catalogue.chips.length - 1].name,
+  /** The entry that was shown last, to be kept where the table stays. */
+  entry: null,
   dumps: {files: [null, null]},
 
   go(state) {
+    this.flush();
     location.hash = formatState(state);
   },
 
   /** The state was reached by editing: the address follows, without a step back for each letter. */
   replace(state) {
+    const shown = location.hash;
+    this.pending = () => {
+      // Somebody may have gone elsewhere meanwhile.
+      if (location.hash === shown) history.replaceState(null, "", formatState(state));
+    };
     clearTimeout(this.timer);
-    const show = () => history.replaceState(null, "", formatState(state));
-    this.timer = setTimeout(show, 100);
+    this.timer = setTimeout(() => this.flush(), 100);
+  },
+
+  flush() {
+    clearTimeout(this.timer);
+    this.pending?.();
+    this.pending = null;
   },
 };
 
 function showState() {
   clearTimeout(page.timer);
+  page.pending = null;
   const state = parseState(location.hash);
+  const isByKey = byId("results").contains(document.activeElement);
   closeResults();
-  let view;
+  byId("search").value = "";
+  page.printed = null;
+  let view, reveal = () => {};
   try {
     if (state.view === "table") {
-      if (state.parts.length === 1) state.parts.push(catalogue.table(state.parts[0]).chips.includes(page.chip) ?
-        page.chip : catalogue.table(state.parts[0]).chips[0]);
-      view = new TableView(page, state).element;
+      if (state.parts.length === 1)
+        state.parts.push(
+            catalogue.table(state.parts[0]).chips.includes(page.chip) ?
+                page.chip :
+                catalogue.table(state.parts[0]).chips[0]);
+      const shown = new TableView(page, state);
+      view = shown.element;
+      reveal = () => shown.reveal();
       page.chip = state.parts[1];
     } else {
       view = {home: homeView, compare: compareView, dumps: dumpView}[state.view](page, state);
     }
   } catch (error) {
-    if (!(error instanceof Refusal)) throw error;
-    view = h("article", {}, h("h1", {}, "Not found"), h("p", {class: "refusal", role: "alert"}, error.message));
+    view =
+        h("article", {}, h("h1", {}, "Not found"),
+          h("p", {class: "refusal", role: "alert"}, messageOf(error)));
   }
   byId("view").replaceChildren(view);
   showChips(state);
   for (const link of document.querySelectorAll("nav a")) {
-    link.toggleAttribute("aria-current", link.dataset.view === state.view);
+    if (link.dataset.view === state.view)
+      link.setAttribute("aria-current", "page");
+    else
+      link.removeAttribute("aria-current");
   }
   document.title = `${[...state.parts].slice(0, 2).join(" on ") || "Velmar"} – layout explorer`;
   scrollTo(0, 0);
+  reveal();
+  if (isByKey) byId("view").focus({preventScroll: true});
 }
 
 /** The chips; with a table, those of one layout together. */
@@ -71,7 +99,8 @@ function showChips(state) {
       const {entryBytes} = catalogue.layout(table.name, chips[0]);
       options[`Layout ${i + 1}: ${entryBytes} bytes`] = named(chips);
     });
-    const others = catalogue.chips.map((chip) => chip.name).filter((chip) => !table.chips.includes(chip));
+    const others =
+        catalogue.chips.map((chip) => chip.name).filter((chip) => !table.chips.includes(chip));
     if (others.length > 0) options[`Without ${table.name}`] = named(others);
   } else {
     Object.assign(options, named(catalogue.chips.map((chip) => chip.name)));
@@ -84,13 +113,8 @@ function showChips(state) {
 function chooseChip() {
   page.chip = byId("chip").value;
   const state = parseState(location.hash);
-  if (state.view === "table") {
-    const {hex, order} = state.options;
-    const [table, old] = state.parts;
-    const same = catalogue.chipGroups(catalogue.table(table)).some(
-        (chips) => chips.includes(old) && chips.includes(page.chip));
-    // An entry's bytes stay only where they mean the same.
-    page.go({view: "table", parts: [table, page.chip], options: same ? {hex, order} : {}});
+  if (state.view === "table" && catalogue.byName.has(state.parts[0])) {
+    page.go({view: "table", parts: [state.parts[0], page.chip]});
   } else {
     showState();
   }
@@ -132,7 +156,14 @@ function pageKey(event) {
 byId("search").addEventListener("input", showResults);
 byId("search").addEventListener("focus", showResults);
 byId("search").addEventListener("keydown", searchKey);
+byId("results").addEventListener("keydown", (event) => {
+  if (event.key === "ArrowUp" && !document.activeElement.previousElementSibling?.matches("a"))
+    byId("search").focus();
+}, true);
 roving(byId("results"), "a", {ArrowDown: 1, ArrowUp: -1});
+addEventListener("focusin", (event) => {
+  if (!event.target.closest("[role=search]")) closeResults();
+});
 byId("results").addEventListener("click", (event) => {
   const link = event.target.closest("a");
   if (link && link.hash === location.hash) closeResults();
@@ -144,18 +175,22 @@ addEventListener("pointerdown", (event) => {
   if (!event.target.closest("search, [role=search]")) closeResults();
 });
 addEventListener("hashchange", showState);
+addEventListener("pagehide", () => page.flush());
+addEventListener("click", (event) => event.target.closest("a") && page.flush(), true);
+addEventListener("beforeprint", () => page.printed?.(true));
+addEventListener("afterprint", () => page.printed?.(false));
 
 /** For scripts; the comment at the top of the page describes it. */
 window.velmar = {
   chips: () => catalogue.chips.map((chip) => chip.name),
   tables: (chip) => catalogue.layoutsOn(chip).map((layout) => layout.table.name),
-  decode: (table, chip, bytes) => decodeEntry(catalogue.layout(table, chip), Uint8Array.from(bytes)),
+  decode: (table, chip, bytes) => decodeEntry(catalogue.layout(table, chip), bytesFrom(bytes)),
   encode: (table, chip, values, base) => encodeEntry(
-      catalogue.layout(table, chip), values, base === undefined ? undefined : Uint8Array.from(base)),
+      catalogue.layout(table, chip), values, base === undefined ? undefined : bytesFrom(base)),
   compare: (oldChip, newChip, table) => compareChips(catalogue, oldChip, newChip, table ?? null),
   diff: (table, chip, old, now) => {
     const layout = catalogue.layout(table, chip);
-    const [before, after] = [old, now].map((bytes) => readDump(Uint8Array.from(bytes), "raw", layout));
+    const [before, after] = [old, now].map((bytes) => readDump(bytesFrom(bytes), "raw", layout));
     return diffOf(before, after);
   },
 };

@@ -9,7 +9,8 @@ export function parseState(hash) {
   const [path, query] = splitOnce(hash.replace(/^#/, ""), "?");
   const parts = path.split("/").filter((part) => part !== "").map(decoded);
   const options = Object.fromEntries(new URLSearchParams(query));
-  if (parts[0] === "compare" || parts[0] === "dumps") return {view: parts[0], parts: parts.slice(1), options};
+  if (parts[0] === "compare" || parts[0] === "dumps")
+    return {view: parts[0], parts: parts.slice(1), options};
   return {view: parts.length > 0 ? "table" : "home", parts, options};
 }
 

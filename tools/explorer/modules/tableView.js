@@ -4,7 +4,8 @@ import {readBits, setBits, writeBits} from "./bits.js";
 import {addressText, blockText, familyRule, numberedName, rangesText} from "./catalogue.js";
 import {diagramOf, numberedGroups} from "./diagram.js";
 import {attempt, grid, h, labelled, refusalPlace, roving} from "./elements.js";
-import {entryText, orders, parseEntry} from "./entryText.js";
+import {entryText, orderOf, orders, parseEntry} from "./entryText.js";
+import {formatState} from "./state.js";
 import {checked, hexText, parseValue, valueText} from "./values.js";
 
 export class TableView {
@@ -14,37 +15,68 @@ export class TableView {
     this.page = page;
     this.layout = page.catalogue.layout(table, chip);
     this.groups = numberedGroups(this.layout);
-    this.order = state.options.order in orders ? state.options.order : Object.keys(orders)[0];
+    this.options = state.options;
+    this.order = Object.hasOwn(orders, state.options.order ?? "") ? state.options.order : null;
     this.bytes = null;
     this.selected = "";
     this.element = this.build();
     if (state.options.hex) {
       this.text.value = state.options.hex;
       this.readText();
+    } else if (page.entry) {
+      this.keepEntry(page.entry);
     }
-    if (selected) attempt(this.refusal, () => this.select(this.groupOf(this.layout.find(selected).accessor).name, selected));
+    if (selected)
+      attempt(
+          this.refusal,
+          () => this.select(this.groupOf(this.layout.find(selected).accessor).name, selected));
+  }
+
+  /** The entry that was shown before stays where its bits mean the same. */
+  keepEntry({table, chip, places, bytes, order}) {
+    if (table !== this.layout.table.name) return;
+    this.order = order;
+    if (places === this.layout.places)
+      this.set(bytes);
+    else
+      this.problem.textContent =
+          `the entry was of ${chip}, whose layout differs; paste one of ${this.layout.chip}`;
+  }
+
+  /** Brings the field of a link into view. */
+  reveal() {
+    if (this.selectedField)
+      this.fieldElement(this.selectedField)?.scrollIntoView({block: "nearest"});
+  }
+
+  fieldElement(name) {
+    return this.element.querySelector(`[data-field="${CSS.escape(name)}"]`);
   }
 
   build() {
     const layout = this.layout;
     this.drawing = diagramOf(layout, this.groups);
     this.refusal = refusalPlace();
-    const element = h("article", {class: "table-view"},
-        h("header", {}, h("h1", {}, layout.table.name), h("p", {}, `${layout.table.purpose}, on ${layout.chip}`)),
-        this.facts(),
-        this.entrySection(),
-        h("section", {class: "wide", "aria-label": "Bits"}, h("h2", {}, "Bits"),
+    const element =
+        h("article", {class: "table-view"},
+          h("header", {}, h("h1", {}, layout.table.name),
+            h("p", {}, `${layout.table.purpose}, on ${layout.chip}`)),
+          this.facts(), this.entrySection(),
+          h("section", {class: "wide", "aria-label": "Bits"}, h("h2", {}, "Bits"),
             h("div", {class: "scroll"}, this.drawing)),
-        h("section", {class: "wide", "aria-label": "Fields"}, h("h2", {}, "Fields"), this.refusal, this.fieldTable()));
+          h("section", {class: "wide", "aria-label": "Fields"}, h("h2", {}, "Fields"), this.refusal,
+            this.fieldTable()));
     this.connect(element);
     return element;
   }
 
   facts() {
     const layout = this.layout;
-    const others = this.page.catalogue.chipGroups(layout.table).find((group) => group.includes(layout.chip))
-        .filter((chip) => chip !== layout.chip);
-    const count = layout.isRegisterArray ? `${layout.arrayElements} elements` : `${layout.entries} entries`;
+    const others = this.page.catalogue.chipGroups(layout.table)
+                       .find((group) => group.includes(layout.chip))
+                       .filter((chip) => chip !== layout.chip);
+    const count =
+        layout.isRegisterArray ? `${layout.arrayElements} elements` : `${layout.entries} entries`;
     const facts = {
       "Entry": `${layout.entryBytes} bytes, ${layout.words} word${layout.words === 1 ? "" : "s"}`,
       "Size": `${count}${layout.isRegisterArray ? " of a register array" : ""}`,
@@ -53,15 +85,20 @@ export class TableView {
       "Variants": layout.variants === "any" ? "any" : "0 only",
       "Same layout on": others.join(", ") || "no other chip",
     };
-    return h("section", {class: "facts", "aria-label": "Facts"},
-        h("dl", {}, Object.entries(facts).map(([name, text]) => h("div", {}, h("dt", {}, name), h("dd", {}, text)))),
+    return h(
+        "section", {class: "facts", "aria-label": "Facts"},
+        h("dl", {},
+          Object.entries(facts).map(
+              ([name, text]) => h("div", {}, h("dt", {}, name), h("dd", {}, text)))),
         this.calculator());
   }
 
   addressRule() {
     const layout = this.layout;
     const step = layout.isRegisterArray ? ` + ${layout.addrStride} × element` : " + index";
-    const identifier = layout.identifierTerm === 0 || layout.identifiers === 1 ? "" : ` + ${layout.identifierTerm} × identifier`;
+    const identifier = layout.identifierTerm === 0 || layout.identifiers === 1 ?
+        "" :
+        ` + ${layout.identifierTerm} × instance`;
     return addressText(layout.base) + step + identifier;
   }
 
@@ -81,55 +118,91 @@ export class TableView {
       problem.textContent = "";
       result.textContent = "";
       const at = number(index, layout.indexCount, indexName);
-      const id = number(identifier, layout.identifiers, "Identifier");
+      const id = number(identifier, layout.identifiers, "Instance");
       if (at === null || id === null) return;
-      result.textContent = `${addressText(layout.addressOf(at, id))}, access code ${layout.accessType}, ` +
+      Object.assign(
+          this.options, {index: at === 0 ? "" : `${at}`, identifier: id === 0 ? "" : `${id}`});
+      if (this.cells) this.remember();
+      result.textContent =
+          `${addressText(layout.addressOf(at, id))}, access code ${layout.accessType}, ` +
           `block ${blockText(layout.block)}`;
     };
     const indexName = layout.isRegisterArray ? "Element" : "Index";
-    const index = h("input", {value: "0", size: 7, oninput: compute, class: "index"});
-    const identifier = h("input", {value: "0", size: 3, oninput: compute});
+    const index =
+        h("input", {value: this.options.index ?? "0", size: 7, oninput: compute, class: "index"});
+    const identifier =
+        h("input", {value: this.options.identifier ?? "0", size: 3, oninput: compute});
     compute();
-    return h("p", {class: "calculator"}, labelled(indexName, index),
-        layout.identifiers > 1 ? labelled("Identifier", identifier) : null, "→", result, problem);
+    return h(
+        "p", {class: "calculator"}, labelled(indexName, index),
+        layout.identifiers > 1 ? labelled(`Instance (0 to ${layout.identifiers - 1})`, identifier) :
+                                 null,
+        "→", result,
+        layout.identifiers > 1 && layout.identifierTerm === 0 ?
+            h("span", {class: "note"}, "All instances have the same address.") :
+            null,
+        problem);
   }
 
   entrySection() {
     this.text = h("textarea", {
-      rows: 3, spellcheck: "false", autocomplete: "off", oninput: () => this.readText(),
-      placeholder: `${this.layout.entryBytes} bytes in hexadecimal`,
+      rows: 3,
+      spellcheck: "false",
+      autocomplete: "off",
+      oninput: () => this.readText(),
+      placeholder:
+          `${this.layout.entryBytes} byte${this.layout.entryBytes === 1 ? "" : "s"} in hexadecimal`,
     });
     this.problem = refusalPlace();
-    this.strip = h("p", {class: "bytes", "aria-label": "Bytes of the entry"});
+    this.strip = h("p", {class: "bytes", role: "group", "aria-label": "Bytes of the entry"});
     this.outside = h("p", {class: "note"});
-    const radios = Object.entries(orders).map(([order, text]) => {
-      const radio = h("input", {type: "radio", name: "order", value: order, checked: order === this.order,
-        onchange: () => this.reorder(order)});
-      return h("label", {}, radio, " ", text);
-    });
-    return h("section", {class: "entry", "aria-label": "Entry"}, h("h2", {}, "Entry"),
+    this.radios = Object.keys(orders).map((order) => h("input", {
+                                            type: "radio",
+                                            name: "order",
+                                            value: order,
+                                            checked: order === this.order,
+                                            onchange: () => this.reorder(order)
+                                          }));
+    const radios = this.radios.map((radio) => h("label", {}, radio, " ", orders[radio.value]));
+    return h(
+        "section", {class: "entry", "aria-label": "Entry"}, h("h2", {}, "Entry"),
         h("fieldset", {}, h("legend", {}, "The digits are"), radios),
         h("div", {class: "paste"}, labelled("Paste an entry", this.text),
-            h("button", {onclick: () => this.set(new Uint8Array(this.layout.entryBytes))}, "All zero"),
-            h("button", {onclick: () => this.clear()}, "Clear")),
+          h("button", {onclick: () => this.set(new Uint8Array(this.layout.entryBytes))},
+            "All zero"),
+          h("button", {onclick: () => this.clear()}, "Clear"),
+          h("button", {onclick: (event) => this.copyLink(event.target)}, "Copy link")),
         this.problem, this.strip, this.outside);
   }
 
-  /** Digits that were typed in another order are read anew; those of an entry that is shown stay its bytes. */
+  /** Digits that a person pasted are read anew; those that the page wrote are written anew. */
   reorder(order) {
     this.order = order;
-    if (this.bytes) this.set(this.bytes);
-    else if (this.text.value.trim() !== "") this.readText();
+    if (this.bytes && !this.isPasted)
+      this.set(this.bytes);
+    else if (this.text.value.trim() !== "")
+      this.readText();
   }
 
   readText() {
     if (this.text.value.trim() === "") return this.clear();
-    const bytes = attempt(this.problem, () => parseEntry(this.text.value, this.order, this.layout.entryBytes));
-    this.show(bytes ?? null);
+    this.isPasted = true;
+    const bytes = attempt(this.problem, () => {
+      this.setOrder(this.order ?? orderOf(this.text.value));
+      return parseEntry(this.text.value, this.order, this.layout.entryBytes);
+    });
+    return this.show(bytes ?? null);
+  }
+
+  setOrder(order) {
+    this.order = order;
+    for (const radio of this.radios) radio.checked = radio.value === order;
   }
 
   set(bytes) {
     this.problem.textContent = "";
+    this.isPasted = false;
+    this.setOrder(this.order ?? Object.keys(orders)[0]);
     this.text.value = entryText(bytes, this.order);
     this.show(bytes);
   }
@@ -137,17 +210,35 @@ export class TableView {
   clear() {
     this.text.value = "";
     this.problem.textContent = "";
+    this.page.entry = null;
     this.show(null);
+  }
+
+  async copyLink(button) {
+    const link = location.href.replace(/#.*|$/, formatState(this.state()));
+    await navigator.clipboard.writeText(link);
+    button.textContent = "Copied";
+    setTimeout(() => {
+      button.textContent = "Copy link";
+    }, 1500);
   }
 
   /** Shows an entry's values, or none. */
   show(bytes) {
     this.bytes = bytes;
+    const {table, chip, places} = this.layout;
+    if (bytes) this.page.entry = {table: table.name, chip, places, bytes, order: this.order};
     for (const cell of this.cells.values()) cell.show(bytes);
-    this.strip.replaceChildren(...(bytes ? Array.from(bytes, (byte, i) =>
-      h("span", {"data-byte": i, title: `byte ${i}, bits ${8 * i + 7}:${8 * i}`}, byte.toString(16).padStart(2, "0"))) : []));
+    this.strip.replaceChildren(...(
+        bytes ? Array.from(
+                    bytes,
+                    (byte, i) =>
+                        h("span", {"data-byte": i, title: `byte ${i}, bits ${8 * i + 7}:${8 * i}`},
+                          byte.toString(16).padStart(2, "0"))) :
+                []));
     const outside = bytes ? setBits(this.layout.outsideFields(bytes)) : [];
-    this.outside.textContent = outside.length === 0 ? "" : `Bits set outside all fields: ${rangesText(outside)}`;
+    this.outside.textContent =
+        outside.length === 0 ? "" : `Bits set outside all fields: ${rangesText(outside)}`;
     this.light(this.selected, "selected");
     this.remember();
   }
@@ -159,18 +250,31 @@ export class TableView {
     this.set(bytes);
   }
 
-  remember() {
+  state() {
     const {table, chip} = this.layout;
-    this.page.replace({
-      view: "table", parts: [table.name, chip, ...(this.selectedField ? [this.selectedField] : [])],
-      options: this.bytes ? {hex: entryText(this.bytes, this.order).replaceAll(" ", ""), order: this.order} : {},
-    });
+    const {index, identifier} = this.options;
+    // Text that is refused stays too: whoever gets the link sees why.
+    const text = this.isPasted && !this.bytes ? this.text.value.slice(0, 2000) : "";
+    const entry = this.bytes ?
+        {hex: entryText(this.bytes, this.order).replaceAll(" ", ""), order: this.order} :
+        {hex: text, order: text && this.order};
+    return {
+      view: "table",
+      parts: [table.name, chip, ...(this.selectedField ? [this.selectedField] : [])],
+      options: {...entry, index, identifier},
+    };
+  }
+
+  remember() {
+    this.page.replace(this.state());
   }
 
   fieldTable() {
     this.cells = new Map();
-    const rows = this.groups.flatMap((group) => (group.isFamily ? this.familyRows(group) : this.fieldRows(group)));
-    const table = grid("Fields in order of bits",
+    const rows = this.groups.flatMap(
+        (group) => (group.isFamily ? this.familyRows(group) : this.fieldRows(group)));
+    const table = grid(
+        "Fields in order of bits",
         ["No.", "Bits", "Field", "Value", "Hardware name", "Identifier", "Type", "Meaning"], rows);
     roving(table, "tr[data-group]", {ArrowDown: 1, ArrowUp: -1});
     table.querySelector("tr[data-group]").tabIndex = 0;
@@ -181,19 +285,32 @@ export class TableView {
     const field = group.members[0];
     const shares = group.members.length === 1 ? this.layout.overlapsOf(field) : [];
     return [
-      h("td", {class: "number"}, `${group.number}`), h("td", {class: "number bits"}, group.bits),
-      h("th", {scope: "row"}, group.name), h("td", {class: "value"}, value),
-      h("td", {}, group.hardwareName), h("td", {class: "number"}, ids), h("td", {}, type),
-      h("td", {}, field.meaning, shares.length > 0 ?
-          h("span", {class: "note"}, ` Shares bits with ${shares.map((other) => other.accessor).join(", ")}.`) : null),
+      h("td", {class: "number"}, `${group.number}`),
+      h("td", {class: "number bits"}, group.bits),
+      h("th", {scope: "row"}, group.name),
+      h("td", {class: "value"}, value),
+      h("td", {}, group.hardwareName),
+      h("td", {class: "number"}, ids),
+      h("td", {}, type),
+      h("td", {}, field.meaning,
+        shares.length > 0 ?
+            h("span", {class: "note"},
+              ` Shares bits with ${shares.map((other) => other.accessor).join(", ")}.`) :
+            null),
     ];
   }
 
   fieldRows(group) {
     const [field] = group.members;
     const cell = field.isBitmap ? new BitmapCell(this, field) : new ValueCell(this, field);
-    const row = h("tr", {"data-group": group.name, "data-field": field.accessor, "data-bits": field.bits, tabindex: -1},
-        this.rowCells(group, cell.element, `${field.id}`, field.type));
+    const row =
+        h("tr", {
+          "data-group": group.name,
+          "data-field": field.accessor,
+          "data-bits": field.bits,
+          tabindex: -1
+        },
+          this.rowCells(group, cell.element, `${field.id}`, field.type));
     cell.row = row;
     this.cells.set(field.accessor, cell);
     if (!cell.detail) return [row];
@@ -210,8 +327,9 @@ export class TableView {
     const ports = h("div", {class: "ports", role: "group", "aria-label": group.name}, parts);
     roving(ports, "button");
     parts[0].tabIndex = 0;
-    const row = h("tr", {"data-group": group.name, tabindex: -1},
-        this.rowCells(group, familyRule(group), rangesText(ids), group.members[0].type));
+    const row =
+        h("tr", {"data-group": group.name, tabindex: -1},
+          this.rowCells(group, familyRule(group), rangesText(ids), group.members[0].type));
     return [row, h("tr", {class: "detail", "data-of": group.name}, h("td", {colspan: 8}, ports))];
   }
 
@@ -219,18 +337,20 @@ export class TableView {
     return this.groups.find((group) => group.members.some((field) => field.accessor === accessor));
   }
 
-  /** Drawing, table and bytes light up together: under the pointer, and for the field that is selected. */
+  /** Drawing, table and bytes light up together: under the pointer, and for the selected field. */
   connect(element) {
-    const groupAt = (target) => target.closest?.("[data-group]")?.dataset.group ?? this.groupOfByte(target) ??
-        target.closest?.("[data-of]")?.dataset.of;
-    element.addEventListener("pointerover", (event) => this.light(groupAt(event.target) ?? "", "lit"));
+    const groupAt = (target) => target.closest?.("[data-group]")?.dataset.group ??
+        this.groupOfByte(target) ?? target.closest?.("[data-of]")?.dataset.of;
+    element.addEventListener(
+        "pointerover", (event) => this.light(groupAt(event.target) ?? "", "lit"));
     element.addEventListener("pointerleave", () => this.light("", "lit"));
     for (const kind of ["focusin", "click"]) {
       element.addEventListener(kind, (event) => {
         const name = groupAt(event.target);
         if (!name || (kind === "click" && event.target.closest("button, input"))) return;
         const field = event.target.closest("[data-field]")?.dataset.field;
-        this.select(name, field ?? this.groups.find((group) => group.name === name).members[0].accessor);
+        this.select(
+            name, field ?? this.groups.find((group) => group.name === name).members[0].accessor);
       });
     }
   }
@@ -238,7 +358,9 @@ export class TableView {
   groupOfByte(target) {
     if (target.dataset?.byte === undefined) return undefined;
     const byte = {offset: 8 * Number(target.dataset.byte), width: 8};
-    return this.groups.find((group) => group.offset < byte.offset + 8 && byte.offset < group.offset + group.width)?.name;
+    return this.groups
+        .find((group) => group.offset < byte.offset + 8 && byte.offset < group.offset + group.width)
+        ?.name;
   }
 
   select(name, field) {
@@ -251,11 +373,14 @@ export class TableView {
 
   light(name, className) {
     const group = this.groups.find((one) => one.name === name);
-    for (const one of this.element?.querySelectorAll("." + className) ?? []) one.classList.remove(className);
+    for (const one of this.element?.querySelectorAll("." + className) ?? [])
+      one.classList.remove(className);
     if (!group || !this.element) return;
     for (const one of this.element.querySelectorAll("[data-group]")) {
       one.classList.toggle(className, one.dataset.group === name);
     }
+    if (group.isFamily && className === "selected")
+      this.fieldElement(this.selectedField)?.classList.add(className);
     for (const one of this.strip.children) {
       const bit = 8 * Number(one.dataset.byte);
       one.classList.toggle(className, bit + 7 >= group.offset && bit < group.offset + group.width);
@@ -269,8 +394,12 @@ class ValueCell {
     this.view = view;
     this.field = field;
     this.input = h("input", {
-      size: field.isBitmap ? 24 : Math.min(40, Math.max(6, Math.ceil(field.width / 4) + 3)), "aria-label": field.accessor,
-      spellcheck: "false", autocomplete: "off", onchange: () => this.change(), onkeydown: (event) => this.key(event),
+      size: field.isBitmap ? 24 : Math.min(40, Math.max(6, Math.ceil(field.width / 4) + 3)),
+      "aria-label": field.accessor,
+      spellcheck: "false",
+      autocomplete: "off",
+      onchange: () => this.change(),
+      onkeydown: (event) => this.key(event),
     });
     this.hex = h("span", {class: "hex"});
     this.problem = refusalPlace();
@@ -287,7 +416,8 @@ class ValueCell {
     if (this.input.value.trim() === "" && !this.view.bytes) return;
     const value = attempt(this.problem, () => parseValue(this.field, this.input.value));
     this.input.setAttribute("aria-invalid", value === undefined);
-    if (value !== undefined && !(this.view.bytes && value === this.value)) this.view.write(this.field, value);
+    if (value !== undefined && !(this.view.bytes && value === this.value))
+      this.view.write(this.field, value);
   }
 
   show(bytes) {
@@ -297,8 +427,10 @@ class ValueCell {
     this.input.removeAttribute("aria-invalid");
     this.input.value = bytes ? valueText(field, this.value) : "";
     this.hex.textContent = bytes && field.width <= 64 ? hexText(this.value) : "";
-    if (bytes) this.row.dataset.value = hexText(this.value);
-    else delete this.row.dataset.value;
+    if (bytes)
+      this.row.dataset.value = hexText(this.value);
+    else
+      delete this.row.dataset.value;
   }
 }
 
@@ -306,9 +438,11 @@ class ValueCell {
 class BitmapCell extends ValueCell {
   constructor(view, field) {
     super(view, field);
-    this.ports = h("div", {class: "ports", role: "group", "aria-label": `ports of ${field.accessor}`});
-    this.detail = h("details", {ontoggle: () => this.fill()},
-        h("summary", {}, `Ports 0 to ${field.width - 1} of ${field.accessor}`), this.ports);
+    this.ports =
+        h("div", {class: "ports", role: "group", "aria-label": `ports of ${field.accessor}`});
+    this.detail =
+        h("details", {ontoggle: () => this.fill()},
+          h("summary", {}, `Ports 0 to ${field.width - 1} of ${field.accessor}`), this.ports);
     roving(this.ports, "button");
   }
 
@@ -316,10 +450,14 @@ class BitmapCell extends ValueCell {
   fill() {
     if (!this.detail.open || this.ports.children.length > 0) return;
     for (let port = 0; port < this.field.width; ++port) {
-      this.ports.append(h("button", {
-        tabindex: port === 0 ? 0 : -1, "data-port": port, "aria-pressed": "false",
-        onclick: () => this.view.write(this.field, (this.value ?? 0n) ^ (1n << BigInt(port))),
-      }, `${port}`));
+      this.ports.append(
+          h("button", {
+            tabindex: port === 0 ? 0 : -1,
+            "data-port": port,
+            "aria-pressed": "false",
+            onclick: () => this.view.write(this.field, (this.value ?? 0n) ^ (1n << BigInt(port))),
+          },
+            `${port}`));
     }
     this.showPorts();
   }
@@ -343,7 +481,9 @@ class PortCell {
     this.view = view;
     this.field = field;
     this.element = h("button", {
-      "data-field": field.accessor, "data-bits": field.bits, tabindex: -1,
+      "data-field": field.accessor,
+      "data-bits": field.bits,
+      tabindex: -1,
       onclick: () => view.write(field, ((this.value ?? 0n) + 1n) % (1n << BigInt(field.width))),
       onkeydown: (event) => this.key(event),
     });
@@ -362,7 +502,9 @@ class PortCell {
     this.element.replaceChildren(`${this.port}`, ...(bytes ? [h("b", {}, `${this.value}`)] : []));
     this.element.title = `${field.accessor}, bits ${field.bits}${bytes ? `: ${this.value}` : ""}`;
     this.element.setAttribute("aria-label", this.element.title);
-    if (bytes) this.element.dataset.value = hexText(this.value);
-    else delete this.element.dataset.value;
+    if (bytes)
+      this.element.dataset.value = hexText(this.value);
+    else
+      delete this.element.dataset.value;
   }
 }
