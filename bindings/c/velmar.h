@@ -4,19 +4,20 @@
 #include <stddef.h>
 #include <stdint.h>
 
-/// Velmar for C and for languages that call C: what the library knows of chips, tables and fields, and
-/// the fields of entries that the caller holds.
+/// Velmar for C and for languages that call C: what the library knows of chips, tables and fields,
+/// and the fields of entries that the caller holds.
 ///
 /// The numbers come from the rows of the view classes. Chips, tables and the fields of a table have
-/// indexes from 0. An index is good while the program runs; to store one, store the name, the chip's
-/// number or the field's identifier.
+/// indexes from 0. An index is good while the program runs; to store one, store the name, the
+/// chip's number or the field's identifier.
 ///
 /// A call that can fail returns a code, and writes nothing but the message when it fails. Nothing
-/// aborts, throws or allocates. All calls may run in several threads at once, on different entries.
-/// Texts and layouts live as long as the library; the caller frees nothing.
+/// aborts, throws or allocates; only the C library may allocate the place of a thread's message, once.
+/// All calls may run in several threads at once, on different entries. Texts and layouts live as long
+/// as the library; the caller frees nothing.
 ///
-/// An entry is `entry_bytes` bytes as they were read from the chip: bit n is bit n % 8 of byte n / 8.
-/// It needs no alignment. A dump is entries without gaps. Buffers of one call must not overlap.
+/// An entry is `entry_bytes` bytes as they were read from the chip: bit n is bit n % 8 of its byte
+/// n / 8. It needs no alignment. A dump is entries without gaps. Buffers of one call must not overlap.
 
 #ifdef __cplusplus
 extern "C" {
@@ -40,16 +41,16 @@ typedef enum velmar_code {
 } velmar_code;
 
 /// What went wrong in the last call of this thread that failed, and what to do about it, such as
-/// "unknown table "VlanEntri"; did you mean VlanEntry? "velmar tables" lists the tables". Empty before
-/// the first failure. The text is good until the next call of this thread that fails.
+/// "unknown table "VlanEntri"; did you mean VlanEntry? "velmar tables" lists the tables". Empty
+/// before the first failure. The text is good until the next call of this thread that fails.
 VELMAR_API const char* velmar_message(void);
 
 /// The version of the library, such as "0.2.0".
 VELMAR_API const char* velmar_version(void);
 
-// Structures. The caller passes the size of its own structure, sizeof *info. Later releases add members
-// at the end: a program gets those that it was compiled with, and 0 for those that the library does not
-// have yet. VELMAR_SIZE: the structure is smaller than that of the first release.
+// Structures. The caller passes the size of its own structure, sizeof *info. Later releases add
+// members at the end: a program gets those that it was compiled with, and 0 for those that the
+// library does not have yet. VELMAR_SIZE: the structure is smaller than that of the first release.
 
 typedef struct velmar_chip {
   const char* name;  ///< such as "BCM56990_B0"
@@ -130,12 +131,13 @@ VELMAR_API uint32_t velmar_chip_count(void);
 VELMAR_API uint32_t velmar_table_count(void);
 VELMAR_API velmar_code velmar_chip_info(uint32_t chip, velmar_chip* info, size_t size);
 VELMAR_API velmar_code velmar_table_info(uint32_t table, velmar_table* info, size_t size);
-/// A field of a table, whatever the chip: `first_bit` and `bits` are 0, `overlaps` is that of all chips.
+/// A field of a table, whatever the chip: `first_bit` and `bits` are 0, `overlaps` is that of all
+/// chips.
 VELMAR_API velmar_code velmar_field_info(uint32_t table, uint32_t field, velmar_field* info,
                                          size_t size);
 
-// Names, in any case and with or without underscores and hyphens. VELMAR_UNKNOWN: nothing has the name;
-// the message proposes similar ones.
+// Names, in any case and with or without underscores and hyphens. VELMAR_UNKNOWN: nothing has the
+// name; the message proposes similar ones.
 
 /// A chip by its name ("BCM56990_B0", "56990_b0", or "56990" if only one chip has that number;
 /// otherwise VELMAR_AMBIGUOUS), or by its number.
@@ -150,8 +152,8 @@ VELMAR_API velmar_code velmar_find_field(const velmar_layout* layout, const char
 VELMAR_API velmar_code velmar_field_of_id(const velmar_layout* layout, uint32_t id,
                                           uint32_t* field);
 
-// Layouts. VELMAR_NOT_ON_CHIP: the chip does not have the table. VELMAR_VARIANT: the table on the chip
-// has variant 0 only, or the variant is above 255.
+// Layouts. VELMAR_NOT_ON_CHIP: the chip does not have the table. VELMAR_VARIANT: the table on the
+// chip has variant 0 only, or the variant is above 255.
 
 VELMAR_API velmar_code velmar_layout_of(uint32_t table, uint32_t chip, uint32_t variant,
                                         const velmar_layout** layout);
@@ -163,16 +165,17 @@ VELMAR_API velmar_code velmar_layout_info(const velmar_layout* layout, velmar_la
 /// A field with its bits on the chip, and whether it shares bits there.
 VELMAR_API velmar_code velmar_layout_field(const velmar_layout* layout, uint32_t field,
                                            velmar_field* info, size_t size);
-/// Sets the bits of `mask` that belong to a field of the chip, and clears the others, the reserved bits.
-/// `size` is `entry_bytes`.
+/// Sets the bits of `mask` that belong to a field of the chip, and clears the others, the reserved
+/// bits. `size` is `entry_bytes`.
 VELMAR_API velmar_code velmar_field_mask(const velmar_layout* layout, uint8_t* mask, size_t size);
-/// Sets the bits of `mask` that the field shares with other fields of the chip, and clears the others.
+/// Sets the bits of `mask` that the field shares with other fields of the chip, and clears the
+/// others.
 VELMAR_API velmar_code velmar_shared_mask(const velmar_layout* layout, uint32_t field,
                                           uint8_t* mask, size_t size);
 
-// Fields of an entry, by the index of the field. `entry_size` is `entry_bytes`. VELMAR_NOT_ON_CHIP: the
-// chip does not have the field. A write changes the bits of the field alone; VELMAR_VALUE: the value has
-// a bit set above those of the field.
+// Fields of an entry, by the index of the field. `entry_size` is `entry_bytes`. VELMAR_NOT_ON_CHIP:
+// the chip does not have the field. A write changes the bits of the field alone; VELMAR_VALUE: the
+// value has a bit set above those of the field.
 
 /// A field of up to 64 bits as a number; for a wider one VELMAR_WIDE.
 VELMAR_API velmar_code velmar_read(const velmar_layout* layout, uint32_t field, const void* entry,
@@ -185,35 +188,35 @@ VELMAR_API velmar_code velmar_read_bytes(const velmar_layout* layout, uint32_t f
                                          size_t size);
 VELMAR_API velmar_code velmar_write_bytes(const velmar_layout* layout, uint32_t field, void* entry,
                                           size_t entry_size, const uint8_t* bytes, size_t size);
-/// A field of any width as (bits + 31) / 32 words, the lowest bits first: word i of a bitmap has ports
-/// 32 * i to 32 * i + 31, port 32 * i in bit 0. `count` is the number of words.
+/// A field of any width as (bits + 31) / 32 words, the lowest bits first: word i of a bitmap has
+/// ports 32 * i to 32 * i + 31, port 32 * i in bit 0. `count` is the number of words.
 VELMAR_API velmar_code velmar_read_words(const velmar_layout* layout, uint32_t field,
                                          const void* entry, size_t entry_size, uint32_t* words,
                                          size_t count);
 VELMAR_API velmar_code velmar_write_words(const velmar_layout* layout, uint32_t field, void* entry,
                                           size_t entry_size, const uint32_t* words, size_t count);
 
-// A column: one field of all entries of a dump. VELMAR_SIZE: `dump_size` bytes are not a whole number of
-// entries, or are more than the table has, or `count` does not go with them.
+// A column: one field of all entries of a dump. VELMAR_SIZE: `dump_size` bytes are not a whole
+// number of entries, or are more than the table has, or `count` does not go with them.
 
 /// A field of up to 64 bits as `count` numbers, one for each entry; for a wider one VELMAR_WIDE.
 VELMAR_API velmar_code velmar_read_column(const velmar_layout* layout, uint32_t field,
                                           const void* dump, size_t dump_size, uint64_t* values,
                                           size_t count);
-/// A field of any width as `count` words: those of velmar_read_words() for the first entry, then those
-/// for the second, and so on.
+/// A field of any width as `count` words: those of velmar_read_words() for the first entry, then
+/// those for the second, and so on.
 VELMAR_API velmar_code velmar_read_word_column(const velmar_layout* layout, uint32_t field,
                                                const void* dump, size_t dump_size, uint32_t* words,
                                                size_t count);
 
 // Addresses on the S-channel.
 
-/// The address of an entry, or of an element of a register array. VELMAR_INDEX: the table does not have
-/// the entry, the element or the identifier.
+/// The address of an entry, or of an element of a register array. VELMAR_INDEX: the table does not
+/// have the entry, the element or the identifier.
 VELMAR_API velmar_code velmar_address(const velmar_layout* layout, uint32_t index,
                                       uint32_t identifier, uint32_t* address);
-/// One of the entries of all tables of a chip and variant that have an address: `nth` counts them from
-/// 0, in the order of the tables, until VELMAR_NO_ENTRY.
+/// One of the entries of all tables of a chip and variant that have an address: `nth` counts them
+/// from 0, in the order of the tables, until VELMAR_NO_ENTRY.
 VELMAR_API velmar_code velmar_entry_at(uint32_t chip, uint32_t variant, uint32_t address,
                                        uint32_t nth, velmar_place* place, size_t size);
 
