@@ -187,7 +187,7 @@ velmar_code failTooLarge(const char* field, U32 width, std::string_view value) {
   Text largest;
   if (width > 64 || value.find_first_of("xX") != std::string_view::npos) {
     largest.append("0x%x", (1U << ((width - 1) % 4 + 1)) - 1);
-    for (U32 digit = 0; digit < (width - 1) / 4; ++digit) largest.append("f");
+    for (U32 digit = (width - 1) / 4; digit > 0; --digit) largest.append("f");
   } else {
     largest.append("%llu", static_cast<unsigned long long>(~U64{0} >> (64 - width)));
   }

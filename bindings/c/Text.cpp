@@ -1,5 +1,6 @@
 #include "c/Text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdio>
 #include <cstring>
@@ -28,9 +29,10 @@ void Text::append(const char* format, std::va_list arguments) {
 
 void Text::appendQuoted(std::string_view text) {
   constexpr std::size_t longest = 60;
-  append("\"");
-  for (const char letter : text.substr(0, longest)) append("%c", printableLetter(letter));
-  append(text.size() > longest ? "...\"" : "\"");
+  const std::size_t size = std::min(text.size(), longest);
+  char safe[longest];
+  std::transform(text.begin(), text.begin() + size, safe, printableLetter);
+  append("\"%.*s%s\"", static_cast<int>(size), safe, text.size() > longest ? "..." : "");
 }
 
 void Text::appendItem(const char* item, const char* separator) {
