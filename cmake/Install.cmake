@@ -1,4 +1,4 @@
-# Installs the library with its headers, the CMake package VelmarMetaInfo, a pkg-config file and the
+# Installs the libraries with their headers, the CMake package VelmarMetaInfo, pkg-config files and the
 # documents for users. The platform and the command have install rules of their own.
 
 include(CMakePackageConfigHelpers)
@@ -8,6 +8,14 @@ install(TARGETS VelmarMetaInfo
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
 install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+
+if(VELMAR_C)
+  install(TARGETS velmar_c
+    EXPORT VelmarMetaInfoTargets
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
+  install(FILES bindings/c/velmar.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+endif()
 
 set(VELMAR_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/VelmarMetaInfo)
 install(EXPORT VelmarMetaInfoTargets NAMESPACE Velmar:: DESTINATION ${VELMAR_PACKAGE_DIR}
@@ -39,6 +47,12 @@ endif()
 configure_file(cmake/VelmarMetaInfo.pc.in VelmarMetaInfo.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/VelmarMetaInfo.pc
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+
+if(VELMAR_C)
+  configure_file(cmake/velmar.pc.in velmar.pc @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/velmar.pc
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+endif()
 
 # Documents for users, and the samples that their examples name.
 set(VELMAR_DOC_DIR ${CMAKE_INSTALL_DATADIR}/doc/velmar)

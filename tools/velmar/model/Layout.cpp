@@ -72,10 +72,9 @@ FieldPlace Layout::wholeEntry() const {
   return whole;
 }
 
-std::vector<Binding::EntryOfAddress> entriesAt(const Catalogue::Chip& chip, U8 variant,
-                                               U32 address) {
-  std::vector<Binding::EntryOfAddress> entries;
-  Binding::EntryOfAddress entry{};
+std::vector<EntryOfAddress> entriesAt(const Catalogue::Chip& chip, U8 variant, U32 address) {
+  std::vector<EntryOfAddress> entries;
+  EntryOfAddress entry{};
   while (Binding::findEntry(chip, variant, address, static_cast<U32>(entries.size()), entry) ==
          VELMAR_OK) {
     entries.push_back(entry);

@@ -79,9 +79,9 @@ class Layout {
   std::vector<U8> reservedMask_;
 };
 
+using Binding::EntryOfAddress;
 /// The entries of all tables of a chip and variant that have an address.
-std::vector<Binding::EntryOfAddress> entriesAt(const Catalogue::Chip& chip, U8 variant,
-                                               U32 address);
+std::vector<EntryOfAddress> entriesAt(const Catalogue::Chip& chip, U8 variant, U32 address);
 
 /// "1 (ingress)" or "2 (egress)".
 std::string blockText(U32 block);

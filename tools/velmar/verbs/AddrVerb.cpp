@@ -55,7 +55,7 @@ std::set<std::string> findAddress(Listing& listing, const Arguments& arguments,
   std::set<std::string> names;
   const U8 variant = variantOf(arguments);
   for (const Catalogue::Chip& chip : chipsOf(arguments)) {
-    for (const Binding::EntryOfAddress& entry : entriesAt(chip, variant, address)) {
+    for (const EntryOfAddress& entry : entriesAt(chip, variant, address)) {
       const Catalogue::Table candidate = Catalogue::table(entry.table);
       if (!table.empty() && findTable(table).name() != std::string_view(candidate.name())) continue;
       names.insert(candidate.name());
