@@ -7,7 +7,7 @@
 
 #include "velmar.h"
 
-enum { dumpEntries = 5, mostBytes = 256, mostFields = 256, threads = 8 };
+enum { dumpEntries = 5, mostBytes = 256, mostFields = 256, threads = 8, guard = 0xa5 };
 
 typedef struct Sweep {
   uint64_t random;
@@ -70,9 +70,10 @@ static void checkReads(Sweep* sweep, const velmar_layout* layout, const velmar_f
       velmar_read_column(layout, field->index, dump, entries * entryBytes, numbers, entries));
   for (size_t i = 0; i < entries; ++i) {
     const uint8_t* entry = dump + i * entryBytes;
-    uint32_t value[mostBytes / 4];
-    uint8_t narrow[mostBytes];
+    uint32_t value[mostBytes / 4 + 1];
+    uint8_t narrow[mostBytes + 1];
     uint64_t number = 0;
+    value[words] = narrow[bytes] = guard;
     EXPECT_CODE(VELMAR_OK,
                 velmar_read_words(layout, field->index, entry, entryBytes, value, words));
     EXPECT_CODE(VELMAR_OK,
@@ -84,7 +85,7 @@ static void checkReads(Sweep* sweep, const velmar_layout* layout, const velmar_f
       EXPECT(bitOf(value, bit) == expected);
       EXPECT(isWide || bitOf(&number, bit) == expected);
     }
-    EXPECT(memcmp(value, narrow, bytes) == 0);
+    EXPECT(memcmp(value, narrow, bytes) == 0 && value[words] == guard && narrow[bytes] == guard);
     EXPECT(memcmp(all + i * words, value, 4 * words) == 0);
     EXPECT(isWide || numbers[i] == number);
   }
@@ -132,7 +133,22 @@ static void checkWrites(Sweep* sweep, const velmar_layout* layout, const velmar_
   EXPECT(memcmp(after, entry, entryBytes) == 0);
 }
 
-static void checkNames(Sweep* sweep, const velmar_layout* layout, const velmar_field* field) {
+/// Whether a field and the one after it have numbered names of one kind, and one meaning.
+static int areOfOneFamily(uint32_t table, uint32_t first) {
+  velmar_field pair[2];
+  size_t letters[2];
+  for (uint32_t i = 0; i < 2; ++i) {
+    if (velmar_field_info(table, first + i, &pair[i], sizeof pair[i]) != VELMAR_OK) return 0;
+    letters[i] = strlen(pair[i].accessor);
+    while (letters[i] > 0 && strchr("0123456789", pair[i].accessor[letters[i] - 1])) --letters[i];
+    if (pair[i].accessor[letters[i]] == '\0') return 0;
+  }
+  return letters[0] == letters[1] && strcmp(pair[0].meaning, pair[1].meaning) == 0 &&
+         memcmp(pair[0].accessor, pair[1].accessor, letters[0]) == 0;
+}
+
+static void checkNames(Sweep* sweep, const velmar_layout* layout, uint32_t table,
+                       const velmar_field* field) {
   char number[16];
   uint32_t found = mostFields;
   snprintf(number, sizeof number, "%u", field->id);
@@ -141,6 +157,8 @@ static void checkNames(Sweep* sweep, const velmar_layout* layout, const velmar_f
          found == field->index);
   EXPECT(velmar_find_field(layout, number, &found) == VELMAR_OK && found == field->index);
   EXPECT(velmar_field_of_id(layout, field->id, &found) == VELMAR_OK && found == field->index);
+  EXPECT((field->family_letters != 0) ==
+         (areOfOneFamily(table, field->index - 1) || areOfOneFamily(table, field->index)));
   if (field->family_letters == 0) return;
   snprintf(number, sizeof number, "%u", field->family_number);
   EXPECT(strcmp(field->accessor + field->family_letters, number) == 0);
@@ -150,7 +168,8 @@ static void checkNames(Sweep* sweep, const velmar_layout* layout, const velmar_f
 static void checkMasks(Sweep* sweep, const velmar_layout* layout, const velmar_field* fields,
                        size_t count, size_t entryBytes) {
   unsigned users[8 * mostBytes] = {0};
-  uint8_t mask[mostBytes];
+  uint8_t mask[mostBytes + 1];
+  mask[entryBytes] = guard;
   for (size_t i = 0; i < count; ++i) {
     for (uint32_t bit = 0; bit < fields[i].bits; ++bit) ++users[fields[i].first_bit + bit];
   }
@@ -166,6 +185,22 @@ static void checkMasks(Sweep* sweep, const velmar_layout* layout, const velmar_f
     }
     EXPECT(fields[i].overlaps == shared);
   }
+  EXPECT(mask[entryBytes] == guard);
+}
+
+/// All entries of an address have it; returns whether `wanted` is one of them.
+static int isEntryAt(Sweep* sweep, uint32_t chip, uint32_t address, const velmar_place* wanted) {
+  int isFound = 0;
+  for (uint32_t nth = 0;; ++nth) {
+    velmar_place place;
+    uint32_t own = 0;
+    const velmar_code code = velmar_entry_at(chip, 0, address, nth, &place, sizeof place);
+    EXPECT(code == VELMAR_OK || code == VELMAR_NO_ENTRY);
+    if (code != VELMAR_OK) return isFound;
+    EXPECT_CODE(VELMAR_OK, velmar_address(place.layout, place.index, place.identifier, &own));
+    EXPECT(own == address);
+    isFound |= memcmp(&place, wanted, sizeof place) == 0;
+  }
 }
 
 static void checkAddresses(Sweep* sweep, const velmar_layout* layout,
@@ -175,17 +210,12 @@ static void checkAddresses(Sweep* sweep, const velmar_layout* layout,
   const uint32_t indexes[] = {0, count - 1, (uint32_t)(nextRandom(sweep) % count)};
   uint32_t address = 0;
   for (uint32_t i = 0; i < 3 * facts->identifiers; ++i) {
-    const uint32_t index = indexes[i % 3];
-    const uint32_t identifier = i / 3;
-    EXPECT_CODE(VELMAR_OK, velmar_address(layout, index, identifier, &address));
-    EXPECT(address == facts->base + index * step + identifier * facts->identifier_step);
-    velmar_place place = {NULL, 0, 0};
-    for (uint32_t nth = 0; place.layout != layout || place.identifier != identifier; ++nth) {
-      const velmar_code code = velmar_entry_at(facts->chip, 0, address, nth, &place, sizeof place);
-      EXPECT(code == VELMAR_OK);
-      if (code != VELMAR_OK) return;
-    }
-    EXPECT(place.index == index);
+    const velmar_place place = {layout, indexes[i % 3], i / 3};
+    EXPECT_CODE(VELMAR_OK, velmar_address(layout, place.index, place.identifier, &address));
+    EXPECT(address == facts->base + place.index * step + place.identifier * facts->identifier_step);
+    EXPECT(isEntryAt(sweep, facts->chip, address, &place));
+    EXPECT(!isEntryAt(sweep, facts->chip, address - 1, &place));
+    EXPECT(!isEntryAt(sweep, facts->chip, address + 1, &place));
   }
   EXPECT_CODE(VELMAR_INDEX, velmar_address(layout, count, 0, &address));
   EXPECT_CODE(VELMAR_INDEX, velmar_address(layout, 0, facts->identifiers, &address));
@@ -209,7 +239,7 @@ static void checkLayout(Sweep* sweep, const velmar_layout* layout, uint32_t allF
       fields[count++] = field;
       checkReads(sweep, layout, &field, dump, facts.entry_bytes, entries);
       checkWrites(sweep, layout, &field, dump, facts.entry_bytes);
-      checkNames(sweep, layout, &field);
+      checkNames(sweep, layout, facts.table, &field);
       continue;
     }
     uint64_t value = 0;
