@@ -112,7 +112,6 @@ velmar_code findChip(std::string_view name, U32& chip) {
 
 velmar_code findTable(std::string_view name, U32& table) {
   const SimpleName simple(name);
-  Suggestions suggestions(name);
   for (U32 i = 0; i < Catalogue::tableCount(); ++i) {
     const SimpleName candidate(Catalogue::table(i).name());
     if (simple.text() == candidate.text() || simple.text() == candidate.withoutSuffix()) {
@@ -120,6 +119,7 @@ velmar_code findTable(std::string_view name, U32& table) {
       return VELMAR_OK;
     }
   }
+  Suggestions suggestions(name);
   for (U32 i = 0; i < Catalogue::tableCount(); ++i) {
     suggestions.consider(Catalogue::table(i).name());
   }

@@ -10,12 +10,15 @@
 namespace Velmar {
 namespace Binding {
 
-/// Keeps a message for velmar_message(), and returns the code.
+/// Keeps a message for velmar_message(), and returns the code. Like the command's, it names what is
+/// wrong and, after a semicolon, the remedy.
 [[gnu::format(printf, 2, 3)]] velmar_code fail(velmar_code code, const char* format, ...);
 
+/// Index of a chip, by its name or number.
 velmar_code findChip(std::string_view name, U32& chip);
+/// Index of a table, by its name with or without "Entry" or "Control" at the end.
 velmar_code findTable(std::string_view name, U32& table);
-/// The field by accessor, hardware name or identifier, which the chip must have.
+/// Index of a field, by accessor, hardware name or identifier, which the chip must have.
 velmar_code findField(const Catalogue::Table& table, const Catalogue::Chip& chip,
                       std::string_view name, U32& field);
 
@@ -23,6 +26,7 @@ velmar_code findField(const Catalogue::Table& table, const Catalogue::Chip& chip
 velmar_code checkLayout(const Catalogue::Table& table, const Catalogue::Chip& chip, U32 variant);
 /// Fails if the chip does not have the field.
 velmar_code checkField(const Catalogue::Table& table, const Catalogue::Chip& chip, U32 field);
+
 /// An entry that has an address.
 struct EntryOfAddress {
   U32 table;

@@ -12,12 +12,13 @@
 /// chip's number or the field's identifier.
 ///
 /// A call that can fail returns a code, and writes nothing but the message when it fails. Nothing
-/// aborts, throws or allocates; only the C library may allocate the place of a thread's message, once.
-/// All calls may run in several threads at once, on different entries. Texts and layouts live as long
-/// as the library; the caller frees nothing.
+/// aborts, throws or allocates; only the C library may allocate the place of a thread's message,
+/// once. All calls may run in several threads at once, on different entries. Texts and layouts live
+/// as long as the library; the caller frees nothing.
 ///
 /// An entry is `entry_bytes` bytes as they were read from the chip: bit n is bit n % 8 of its byte
-/// n / 8. It needs no alignment. A dump is entries without gaps. Buffers of one call must not overlap.
+/// n / 8. It needs no alignment. A dump is entries without gaps. Buffers of one call must not
+/// overlap.
 
 #ifdef __cplusplus
 extern "C" {

@@ -1,5 +1,5 @@
-// The C interface and the views agree: every field of every class and chip, in random entries, and the
-// addresses. The header is compiled as C++ here.
+// The C interface and the views agree: every field of every class and chip, in random entries, and
+// the addresses. The header is compiled as C++ here.
 
 #include <random>
 
