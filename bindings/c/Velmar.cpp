@@ -142,7 +142,6 @@ struct Call {
 
 /// What they come to.
 struct Access {
-  const char* name;
   U32 entryBytes;
   size_t entries;
   Catalogue::BitRange range;
@@ -165,7 +164,6 @@ velmar_code check(const Call& call, Access& access) {
   if (const velmar_code code = checkPointer(call.data, "the entry")) return code;
   if (const velmar_code code = checkPointer(call.values, "the value")) return code;
   const Catalogue::Table table = tableOf(call.layout);
-  access.name = table.field(call.field).accessor;
   access.entryBytes = 4U * geometryOf(call.layout).words;
   access.entries = call.isColumn ? call.size / access.entryBytes : 1;
   access.range = table.range(call.field, chipOf(call.layout).number);
@@ -173,8 +171,8 @@ velmar_code check(const Call& call, Access& access) {
   const U32 units = (access.range.width + 8 * unit - 1) / (8 * unit);
   access.valueBytes = units * unit;
   if (call.form == Form::number && units > 1) {
-    return fail(VELMAR_WIDE, "%s has %u bits; read and write words or bytes", access.name,
-                access.range.width);
+    return fail(VELMAR_WIDE, "%s has %u bits; read and write words or bytes",
+                table.field(call.field).accessor, access.range.width);
   }
   const velmar_code code = call.isColumn ? checkDump(call, access)
                                          : checkSize("the entry", call.size, access.entryBytes);
@@ -211,7 +209,8 @@ velmar_code checkFits(const Call& call, const Access& access) {
     text.append("0x");
     for (U32 i = access.valueBytes; i-- > 0;) text.append("%02x", value[i]);
   }
-  return failTooLarge(access.name, access.range.width, text.text());
+  return failTooLarge(tableOf(call.layout).field(call.field).accessor, access.range.width,
+                      text.text());
 }
 
 velmar_code write(const Call& call, void* entry) {
