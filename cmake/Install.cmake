@@ -54,6 +54,22 @@ if(VELMAR_C)
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
 endif()
 
+# The Python module, where Debian's Python finds it if the prefix is /usr; and the script that gdb loads
+# with the library, by the path of its file.
+set(VELMAR_PYTHON_DIR lib/python3/dist-packages CACHE PATH "where the Python module is installed")
+if(VELMAR_C AND VELMAR_LIBRARY_TYPE STREQUAL "SHARED")
+  install(DIRECTORY bindings/python/velmar DESTINATION ${VELMAR_PYTHON_DIR} COMPONENT python
+    FILES_MATCHING PATTERN "*.py" PATTERN py.typed PATTERN __pycache__ EXCLUDE)
+  # The prefix is known when it is installed.
+  set(VELMAR_GDB_DIR "\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}")
+  if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}")
+    set(VELMAR_GDB_DIR ${CMAKE_INSTALL_LIBDIR})
+  endif()
+  install(FILES bindings/gdb/velmar-gdb.py
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/gdb/auto-load${VELMAR_GDB_DIR}"
+    RENAME $<TARGET_FILE_NAME:VelmarMetaInfo>-gdb.py COMPONENT runtime)
+endif()
+
 # Documents for users, and the samples that their examples name.
 set(VELMAR_DOC_DIR ${CMAKE_INSTALL_DATADIR}/doc/velmar)
 install(FILES README.md CHANGELOG.md DESTINATION ${VELMAR_DOC_DIR} COMPONENT documents)
