@@ -15,20 +15,9 @@ import gdb
 import gdb.printing
 
 
-def ranges(numbers):
-    """Ascending numbers as text, such as 0-3,17."""
-    parts = []
-    for number in numbers:
-        if parts and parts[-1][1] == number - 1:
-            parts[-1][1] = number
-        else:
-            parts.append([number, number])
-    return ",".join(f"{a}-{b}" if a < b else f"{a}" for a, b in parts) or "none"
-
-
 def value_text(field, value):
     if field.type == "bitmap":
-        return ranges(value)
+        return velmar.ranges(value)
     return f"{value:#x}" if field.type == "Raw128" else str(value)
 
 
@@ -45,7 +34,7 @@ def field_texts(layout, entry):
         texts["outsideFields"] = f"{entry['outsideFields']:#x}"
     for name, text in texts.items():
         yield name, text if isinstance(text, str) else "{" + "  ".join(
-            f"{value}: {ranges(sorted(numbers))}" for value, numbers in text.items()) + "}"
+            f"{value}: {velmar.ranges(numbers)}" for value, numbers in text.items()) + "}"
 
 
 def read(layout, address):

@@ -32,10 +32,10 @@ where the system has its libraries. load() and compare() run the command velmar.
 from . import _library
 from ._catalogue import Chip, Table, chips, find, tables
 from ._command import compare, load
-from ._layout import Dump, Field, Layout, Place, layout
+from ._layout import Dump, Field, Layout, Place, layout, ranges
 from ._library import Error
 
 __version__ = _library.library.velmar_version().decode()
 
-__all__ = ["chips", "tables", "layout", "load", "find", "compare",
+__all__ = ["chips", "tables", "layout", "load", "find", "compare", "ranges",
            "Layout", "Field", "Chip", "Table", "Dump", "Place", "Error"]

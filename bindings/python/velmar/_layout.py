@@ -349,6 +349,17 @@ def layout(table: str, chip: Union[str, int], variant: int = 0) -> Layout:
     return _layout(table, chip, variant)
 
 
+def ranges(ports: Iterable[int]) -> str:
+    """Ports as text, such as "0-3,17"; "none" if there are none."""
+    parts: List[List[int]] = []
+    for port in sorted(ports):
+        if parts and parts[-1][1] == port - 1:
+            parts[-1][1] = port
+        else:
+            parts.append([port, port])
+    return ",".join(f"{a}-{b}" if a < b else f"{a}" for a, b in parts) or "none"
+
+
 @functools.lru_cache(maxsize=None)
 def _layout(table: str, chip: Union[str, int], variant: int) -> Layout:
     return Layout(table, chip, variant)
