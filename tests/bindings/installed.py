@@ -77,8 +77,9 @@ def check_gdb(program, prefix, work):
 
 
 def check_import(what, folder, **environment):
-    done = subprocess.run([sys.executable, "-c", "import velmar; print(velmar.__version__, velmar.__file__)"],
-                          env=environment, capture_output=True, text=True, cwd="/")
+    program = "import velmar; print(velmar.__version__, velmar.__file__)"
+    done = subprocess.run([sys.executable, "-B", "-c", program], env=environment,
+                          capture_output=True, text=True, cwd="/")
     check(done.stdout.split() == [version, f"{folder}/velmar/__init__.py"],
           f"{what}: {done.stdout}{done.stderr}")
 

@@ -62,7 +62,7 @@ for name, value in (("NOT_ON_CHIP", _library.NOT_ON_CHIP), ("NO_ENTRY", _library
     check(constants[f"VELMAR_{name}"] == value, f"{name}: {value}")
 check(len(_library.TYPES) == 1 + constants["VELMAR_BITMAP"], "types are missing")
 
-for library in ("/nonexistent/libvelmar.so.0", os.path.join(module.build, "lib", "libVelmarPlatform.so.0")):
+for library in ("/nonexistent/libvelmar.so.0", f"{module.build}/lib/libVelmarPlatform.so.0"):
     done = subprocess.run([sys.executable, "-c", "import velmar"], capture_output=True, text=True,
                           env=dict(os.environ, VELMAR_LIBRARY=library))
     check(re.search("ImportError: velmar: .*install libvelmar0, or .* VELMAR_LIBRARY$", done.stderr),

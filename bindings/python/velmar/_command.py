@@ -13,7 +13,7 @@ from ._layout import Dump, layout
 from ._library import Error
 
 
-def load(path: Union[str, os.PathLike], table: str, chip: Union[str, int], variant: int = 0, *,
+def load(path: Union[str, os.PathLike[str]], table: str, chip: Union[str, int], variant: int = 0, *,
          input: str = "auto", hex_order: Optional[str] = None, byte_order: Optional[str] = None,
          stride: Optional[int] = None, first: Optional[int] = None) -> Dump:
     """Reads a dump in any notation that the command velmar reads: raw, hex, xxd, hexdump, od, json.
@@ -50,7 +50,8 @@ def compare(a: Union[str, int], b: Union[str, int], table: Optional[str] = None,
     tables = [] if table is None else [table]
     text = _run("compare", *tables, f"--chip={a}", f"--chip={b}", f"--variant={variant}",
                 "--format=json")
-    return json.loads(text)["differences"]
+    rows: List[Dict[str, Any]] = json.loads(text)["differences"]
+    return rows
 
 
 def _program() -> str:

@@ -8,7 +8,7 @@ import functools
 import operator
 from dataclasses import dataclass
 from typing import (TYPE_CHECKING, Any, Dict, Iterable, List, Mapping, Optional, Sequence, Tuple,
-                    Union)
+                    Union, cast)
 
 from . import _library
 from ._library import Error, call, find, info, text, u32
@@ -95,8 +95,9 @@ class Layout:
     access_type, block   S-channel access code; pipeline block: 1 ingress, 2 egress
 
     An entry is `entry_bytes` bytes as they were read from the chip: bit n of the entry is bit n % 8 of
-    byte n // 8. Data are entries without gaps, in anything that has bytes, or a Dump. They must be
-    whole entries, at most as many as the table has, otherwise Error is raised.
+    byte n // 8. Data are such entries without gaps, in bytes, bytearray, memoryview or a numpy array, or
+    a Dump; text is for load(). They must be whole entries, at most as many as the table has, otherwise
+    Error is raised.
     """
 
     def __init__(self, table: str, chip: Union[str, int], variant: int = 0):
@@ -158,7 +159,7 @@ class Layout:
         return entries
 
     def columns(self, data: Data,
-                fields: Optional[Iterable[str]] = None) -> Dict[str, numpy.ndarray]:
+                fields: Optional[Iterable[str]] = None) -> Dict[str, numpy.ndarray[Any, Any]]:
         """A numpy array for each field, or for each of the named ones: field name -> column.
 
         Item i of a column is of entry i of the data. Shapes, with n entries:
@@ -170,8 +171,14 @@ class Layout:
         if isinstance(fields, str):
             fields = [fields]
         chosen = self.fields if fields is None else [self.field(name) for name in fields]
+        import numpy
         _, raw = self._entries(data)
-        return {field.name: self._array(field, raw) for field in chosen}
+        # One piece of memory: the system gives many small ones anew each time, which takes longer than
+        # to read the fields.
+        count = sum(_is_number(field) for field in chosen)
+        rows = iter(numpy.empty((count, len(raw) // self.entry_bytes), numpy.uint64))
+        return {field.name: self._number_column(field, raw, next(rows)) if _is_number(field) else
+                self._word_column(field, raw) for field in chosen}
 
     def encode(self, values: Mapping[str, Any], base: Optional[Data] = None) -> bytes:
         """The bytes of an entry with these values, which are as those of decode().
@@ -259,7 +266,9 @@ class Layout:
                 raise Error(f"the dump is of {data.layout.table} on {data.layout.chip}, not of "
                             f"{self.table} on {self.chip}; use its own layout")
             indexes, data = data.indexes, data.data
-        raw = data if isinstance(data, bytes) else memoryview(data).tobytes()
+        if isinstance(data, str):
+            raise TypeError(f"{data!r} is text; give bytes, or what velmar.load() reads from a file")
+        raw = data if isinstance(data, bytes) else memoryview(cast(bytes, data)).tobytes()
         return range(len(raw) // self.entry_bytes) if indexes is None else indexes, raw
 
     def _by_entry(self, data: Data) -> Dict[int, bytes]:
@@ -282,12 +291,15 @@ class Layout:
         words = ctypes.create_string_buffer(size * count)
         call("velmar_read_word_column", self._handle, field.index, raw, len(raw), words,
              count * _words(field))
-        return [int.from_bytes(words.raw[i:i + size], "little")
+        column = words.raw
+        return [int.from_bytes(column[i:i + size], "little")
                 for i in range(0, size * count, size)]
 
     def _values(self, field: Field, raw: bytes) -> Sequence[Value]:
         numbers = self._numbers(field, raw)
-        return [_ports(number) for number in numbers] if field.type == "bitmap" else numbers
+        if field.type == "bitmap":
+            return [_ports(number) for number in numbers]
+        return numbers
 
     def _outside(self, raw: bytes) -> Iterable[int]:
         size = self.entry_bytes
@@ -296,15 +308,14 @@ class Layout:
         return (int.from_bytes(raw[i:i + size], "little") & self._reserved
                 for i in range(0, len(raw), size))
 
-    def _array(self, field: Field, raw: bytes) -> numpy.ndarray:
+    def _number_column(self, field: Field, raw: bytes,
+                       row: numpy.ndarray[Any, Any]) -> numpy.ndarray[Any, Any]:
+        call("velmar_read_column", self._handle, field.index, raw, len(raw), row.ctypes.data, row.size)
+        return row if field.bits == 64 else row.view("int64")
+
+    def _word_column(self, field: Field, raw: bytes) -> numpy.ndarray[Any, Any]:
         import numpy
-        count = len(raw) // self.entry_bytes
-        if field.bits <= 64 and field.type != "bitmap":
-            numbers = numpy.empty(count, numpy.uint64)
-            call("velmar_read_column", self._handle, field.index, raw, len(raw),
-                 numbers.ctypes.data, count)
-            return numbers if field.bits == 64 else numbers.view(numpy.int64)
-        words = numpy.empty((count, _words(field)), numpy.uint32)
+        words = numpy.empty((len(raw) // self.entry_bytes, _words(field)), numpy.uint32)
         call("velmar_read_word_column", self._handle, field.index, raw, len(raw),
              words.ctypes.data, words.size)
         if field.type != "bitmap":
@@ -363,6 +374,10 @@ def ranges(ports: Iterable[int]) -> str:
 @functools.lru_cache(maxsize=None)
 def _layout(table: str, chip: Union[str, int], variant: int) -> Layout:
     return Layout(table, chip, variant)
+
+
+def _is_number(field: Field) -> bool:
+    return field.bits <= 64 and field.type != "bitmap"
 
 
 def _words(field: Field) -> int:
