@@ -105,6 +105,10 @@ data = open("samples/vlan-bcm56990.bin", "rb").read()
 check(pickle.loads(pickle.dumps(vlan)).chip == "BCM56990_B0", "a layout that was pickled")
 check(egress.encode({"PORT_BITMAP": {3, 1}, "stg": True}) ==
       egress.encode({"portBitmap": [1, 3], "stg": 1}), "names and forms of values")
+ones = bytes([255] * 16)
+(cleared,) = vlan.decode(vlan.encode({"outsideFields": 0}, ones))
+(full,) = vlan.decode(ones)
+check(full.pop("outsideFields") and full == cleared, "bits outside all fields are cleared")
 same = vlan.decode(memoryview(data)), vlan.decode(bytearray(data))
 check(same[0] == same[1] == vlan.decode(data), "buffers of other types")
 
