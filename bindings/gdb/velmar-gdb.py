@@ -135,8 +135,9 @@ class DecodeBytes(gdb.Command):
 try:
     import velmar
 except ImportError as error:
-    print(f"velmar: views are not shown by their fields: {error}; install python3-velmar, or name "
-          "the folder of the module in PYTHONPATH")
+    remedy = ("; install python3-velmar, or name the folder of the module in PYTHONPATH"
+              if isinstance(error, ModuleNotFoundError) else "")
+    print(f"views are not shown by their fields: {error}{remedy}")
 else:
     gdb.printing.register_pretty_printer(gdb.current_objfile(), Views(), replace=True)
     DecodeBytes()

@@ -70,6 +70,8 @@ def check_gdb(program, prefix, work):
     stopped = gdb(program, prefix, ["run", "frame function main"] + commands +
                   [command for command, _ in REFUSED] + ["bt -2"])[2:]
     check_views("program", stopped[:len(SHOWN)])
+    (text,) = gdb(program, "/nonexistent", [f"source {source}/bindings/gdb/velmar-gdb.py"])
+    check("No module named 'velmar'; install python3-velmar" in text, f"no module: {text}")
     for (command, expected), text in zip(REFUSED, stopped[len(SHOWN):]):
         check(expected in text, f"{command}:\n{text}")
     check("vlan=VlanEntry BCM56990_B0 = {...}" in re.sub(r"\s+", " ", stopped[-1]),

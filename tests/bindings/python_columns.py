@@ -4,6 +4,7 @@ long as the C calls, and at most a twentieth of the time of Python over "velmar 
 
 usage: python_columns.py SOURCE_DIR BUILD_DIR"""
 
+import doctest
 import json
 import os
 import random
@@ -16,7 +17,8 @@ from velmar._library import library
 from command import check, finish, golden_tables, run
 
 vlan = velmar.layout("VlanEntry", "BCM56990_B0")
-with open(os.path.join(module.source, "samples", "vlan-bcm56990.bin"), "rb") as file:
+os.chdir(module.source)
+with open("samples/vlan-bcm56990.bin", "rb") as file:
     data = file.read()
 sys.modules["numpy"] = None
 try:
@@ -91,6 +93,7 @@ def best(*functions, rounds):
     return [min(taken) for taken in times]
 
 
+check(doctest.testmod(velmar).failed == 0, "the examples of the module fail")
 columns = vlan.columns(data)
 check({name: column.tolist() for name, column in columns.items()} == python_over_export(),
       "the two ways differ")
