@@ -6,7 +6,7 @@ import ctypes
 import operator
 import os
 import pathlib
-from ctypes import POINTER, c_char_p, c_int, c_size_t, c_uint8, c_uint32, c_uint64, c_void_p
+from ctypes import POINTER, c_char_p, c_int, c_size_t, c_uint32, c_uint64, c_void_p
 from typing import Any
 
 # velmar_code
