@@ -25,7 +25,8 @@ else()
   set(VELMAR_LIBRARY_TYPE SHARED)
 endif()
 
-add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor)
+add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow
+  $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor>)
 if(VELMAR_WERROR)
   add_compile_options(-Werror)
 endif()

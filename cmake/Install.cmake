@@ -1,4 +1,4 @@
-# Installs the library with its headers, the CMake package VelmarMetaInfo, a pkg-config file and the
+# Installs the libraries with their headers, the CMake package VelmarMetaInfo, pkg-config files and the
 # documents for users. The platform and the command have install rules of their own.
 
 include(CMakePackageConfigHelpers)
@@ -8,6 +8,14 @@ install(TARGETS VelmarMetaInfo
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
 install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+
+if(VELMAR_C)
+  install(TARGETS velmar_c
+    EXPORT VelmarMetaInfoTargets
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
+  install(FILES bindings/c/velmar.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+endif()
 
 set(VELMAR_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/VelmarMetaInfo)
 install(EXPORT VelmarMetaInfoTargets NAMESPACE Velmar:: DESTINATION ${VELMAR_PACKAGE_DIR}
@@ -39,6 +47,28 @@ endif()
 configure_file(cmake/VelmarMetaInfo.pc.in VelmarMetaInfo.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/VelmarMetaInfo.pc
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+
+if(VELMAR_C)
+  configure_file(cmake/velmar.pc.in velmar.pc @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/velmar.pc
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+endif()
+
+# The Python module, where Debian's Python finds it if the prefix is /usr; and the script that gdb loads
+# with the library, by the path of its file.
+set(VELMAR_PYTHON_DIR lib/python3/dist-packages CACHE PATH "where the Python module is installed")
+if(VELMAR_C AND VELMAR_LIBRARY_TYPE STREQUAL "SHARED")
+  install(DIRECTORY bindings/python/velmar DESTINATION ${VELMAR_PYTHON_DIR} COMPONENT python
+    FILES_MATCHING PATTERN "*.py" PATTERN py.typed PATTERN __pycache__ EXCLUDE)
+  # The prefix is known when it is installed.
+  set(VELMAR_GDB_DIR "\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}")
+  if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}")
+    set(VELMAR_GDB_DIR ${CMAKE_INSTALL_LIBDIR})
+  endif()
+  install(FILES bindings/gdb/velmar-gdb.py
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/gdb/auto-load${VELMAR_GDB_DIR}"
+    RENAME $<TARGET_FILE_NAME:VelmarMetaInfo>-gdb.py COMPONENT runtime)
+endif()
 
 # Documents for users, and the samples that their examples name.
 set(VELMAR_DOC_DIR ${CMAKE_INSTALL_DATADIR}/doc/velmar)

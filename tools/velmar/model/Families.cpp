@@ -1,7 +1,6 @@
 #include "model/Families.h"
 
 #include <algorithm>
-#include <limits>
 
 #include "model/Failure.h"
 #include "model/Text.h"
@@ -13,20 +12,6 @@ namespace {
 constexpr size_t smallestFamily = 4;
 
 }  // namespace
-
-std::optional<NumberedName> numberedName(std::string_view name) {
-  const size_t digits = name.find_last_not_of("0123456789") + 1;
-  const std::optional<U64> number = parseNumber(name.substr(digits));
-  if (!number || *number > std::numeric_limits<U32>::max() || digits == 0) return std::nullopt;
-  return NumberedName{name.substr(0, digits), static_cast<U32>(*number)};
-}
-
-bool areOfOneFamily(const Catalogue::Field& a, const Catalogue::Field& b) {
-  const std::optional<NumberedName> first = numberedName(a.accessor);
-  const std::optional<NumberedName> second = numberedName(b.accessor);
-  return first && second && first->prefix == second->prefix &&
-         std::string_view(a.meaning) == b.meaning;
-}
 
 std::string FieldGroup::name() const {
   if (!isFamily()) return front().name();

@@ -10,16 +10,9 @@
 
 namespace Tool {
 
-/// The name of a numbered field, taken apart.
-struct NumberedName {
-  std::string_view prefix;
-  U32 number;
-};
-std::optional<NumberedName> numberedName(std::string_view name);
-
-/// Whether two fields that are declared one after the other belong to one family: numbered names of
-/// one kind, and one meaning.
-bool areOfOneFamily(const Catalogue::Field& a, const Catalogue::Field& b);
+using Binding::areOfOneFamily;
+using Binding::numberedName;
+using Binding::NumberedName;
 
 /// A family of fields of one width, or one field alone.
 struct FieldGroup {

@@ -1,5 +1,8 @@
 #include "model/Layout.h"
 
+#include <algorithm>
+
+#include "c/Access.h"
 #include "model/Failure.h"
 #include "model/Text.h"
 
@@ -11,22 +14,14 @@ std::string FieldPlace::bits() const {
 
 Layout::Layout(const Catalogue::Table& table, const Catalogue::Chip& chip, U8 variant)
     : table_(table), chip_(chip), variant_(variant), geometry_(table.geometry(chip.number)) {
-  if (!table.isOn(chip.number)) {
-    fail("{} does not exist on {}; it exists on {}", table.name(), chip.name,
-         join(chipsOf(table), ", "));
-  }
-  if (!table.isOn(chip.number, variant)) {
-    fail("{} on {} has no variant {}; it has variant 0 only", table.name(), chip.name, variant);
-  }
+  check(Binding::checkLayout(table, chip, variant));
   for (U32 i = 0; i < table.fieldCount(); ++i) {
     const Catalogue::BitRange range = table.range(i, chip.number);
     if (range.width != 0) fields_.push_back({table.field(i), range.offset, range.width});
   }
   reservedMask_.resize(entryBytes());
-  for (U32 bit = 0; bit < 8 * entryBytes(); ++bit) {
-    if (table.isFieldBit(bit, chip.number)) continue;
-    reservedMask_[bit / 8] = static_cast<U8>(reservedMask_[bit / 8] | 1U << bit % 8);
-  }
+  Binding::fieldMask(table, chip, reservedMask_.data());
+  for (U8& bits : reservedMask_) bits = static_cast<U8>(~bits);
 }
 
 std::vector<std::string> Layout::overlapsOf(const FieldPlace& place) const {
@@ -40,8 +35,7 @@ std::vector<std::string> Layout::overlapsOf(const FieldPlace& place) const {
 }
 
 Address Layout::addressOf(U32 index, U32 identifier) const {
-  const U32 address = isRegisterArray() ? geometry_.addressOf(0, index, identifier)
-                                        : geometry_.addressOf(index, 0, identifier);
+  const U32 address = Binding::addressOf(geometry_, index, identifier);
   return {address, geometry_.accessType, geometry_.block};
 }
 
@@ -50,32 +44,15 @@ const FieldPlace& Layout::find(std::string_view name) const {
   for (const FieldPlace& place : fields_) {
     if (name == place.name()) return place;
   }
-  const std::optional<U32> index = findField(table_, name);
-  if (!index) failUnknown(name);
-  const Catalogue::Field field = table_.field(*index);
-  for (const FieldPlace& place : fields_) {
-    if (place.field.id == field.id) return place;
-  }
-  const std::vector<std::string> chips = chipsOf(table_, *index);
-  const std::string remedy = chips.empty() ? "no chip has it" : "it exists on " + join(chips, ", ");
-  fail("{} has no field {} on {}; {}", this->name(), field.accessor, chip_.name, remedy);
+  return findForgivingly(name);
 }
 
-void Layout::failUnknown(std::string_view name) const {
-  std::vector<std::string> names;
-  for (const FieldPlace& place : fields_) {
-    names.emplace_back(place.name());
-    const std::string_view digits =
-        std::string_view(place.name()).substr(std::min(name.size(), names.back().size()));
-    const bool isOfFamily = names.back().rfind(name, 0) == 0 && !digits.empty() &&
-                            digits.find_first_not_of("0123456789") == std::string_view::npos;
-    if (isOfFamily) {
-      fail("{} are many fields; give numbers, such as {}, {}-{} or {}*", name, place.name(),
-           place.name(), parseNumber(digits).value_or(0) + 3, name);
-    }
-  }
-  fail("{} has no field {}; {}{}", this->name(), inQuotes(name), didYouMean(name, names),
-       seeFields());
+const FieldPlace& Layout::findForgivingly(std::string_view name) const {
+  U32 index = 0;
+  check(Binding::findField(table_, chip_, name, index));
+  const U32 id = table_.field(index).id;
+  return *std::find_if(fields_.begin(), fields_.end(),
+                       [id](const FieldPlace& place) { return place.field.id == id; });
 }
 
 std::string Layout::seeFields() const {
@@ -93,6 +70,16 @@ FieldPlace Layout::wholeEntry() const {
   FieldPlace whole{};
   whole.width = 8 * entryBytes();
   return whole;
+}
+
+std::vector<EntryOfAddress> entriesAt(const Catalogue::Chip& chip, U8 variant, U32 address) {
+  std::vector<EntryOfAddress> entries;
+  EntryOfAddress entry{};
+  while (Binding::findEntry(chip, variant, address, static_cast<U32>(entries.size()), entry) ==
+         VELMAR_OK) {
+    entries.push_back(entry);
+  }
+  return entries;
 }
 
 std::string blockText(U32 block) { return block == 1 ? "1 (ingress)" : "2 (egress)"; }

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "c/Access.h"
 #include "model/Names.h"
 
 namespace Tool {
@@ -52,7 +53,7 @@ class Layout {
   bool isRegisterArray() const { return table_.kind() == Catalogue::Kind::registerArray; }
   U32 entryBytes() const { return 4U * geometry_.words; }
   /// Number of entries, or of elements of a register array: indexes are below it.
-  U32 indexCount() const { return isRegisterArray() ? geometry_.arrayElements : geometry_.entries; }
+  U32 indexCount() const { return Binding::indexCount(geometry_); }
   /// Address of an entry or element below indexCount().
   Address addressOf(U32 index, U32 identifier = 0) const;
 
@@ -68,7 +69,7 @@ class Layout {
   FieldPlace wholeEntry() const;
 
  private:
-  [[noreturn]] void failUnknown(std::string_view name) const;
+  const FieldPlace& findForgivingly(std::string_view name) const;
 
   Catalogue::Table table_;
   Catalogue::Chip chip_;
@@ -77,6 +78,10 @@ class Layout {
   std::vector<FieldPlace> fields_;
   std::vector<U8> reservedMask_;
 };
+
+using Binding::EntryOfAddress;
+/// The entries of all tables of a chip and variant that have an address.
+std::vector<EntryOfAddress> entriesAt(const Catalogue::Chip& chip, U8 variant, U32 address);
 
 /// "1 (ingress)" or "2 (egress)".
 std::string blockText(U32 block);

@@ -1,17 +1,20 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "Velmar/Catalogue.h"
+#include "c/Lookup.h"
 
 // Names as people type them: any case, with or without underscores.
 
 namespace Tool {
 
+namespace Binding = Velmar::Binding;
 namespace Catalogue = Velmar::Catalogue;
+
+/// Fails with the message of a call that failed.
+void check(velmar_code code);
 
 /// A chip by its name ("BCM56990_B0", "56990_b0", "56990" where only one chip has that number) or
 /// by its ChipType_ number.
@@ -19,9 +22,6 @@ Catalogue::Chip findChip(std::string_view name);
 
 /// A class by its name, with or without "Entry" or "Control" at its end.
 Catalogue::Table findTable(std::string_view name);
-
-/// Index of the field of a class, by accessor, hardware name or identifier.
-std::optional<U32> findField(const Catalogue::Table& table, std::string_view name);
 
 /// Lower case, without underscores and hyphens.
 std::string simplified(std::string_view name);

@@ -1,7 +1,6 @@
 #include "model/Text.h"
 
 #include <algorithm>
-#include <charconv>
 
 #include "model/Formatting.h"
 
@@ -14,19 +13,6 @@ int hexDigit(char letter) {
   if (letter >= 'a' && letter <= 'f') return letter - 'a' + 10;
   if (letter >= 'A' && letter <= 'F') return letter - 'A' + 10;
   return -1;
-}
-
-std::optional<U64> parseNumber(std::string_view text) {
-  int base = 10;
-  if (text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X')) {
-    base = 16;
-    text.remove_prefix(2);
-  }
-  U64 value = 0;
-  const char* end = text.data() + text.size();
-  const auto result = std::from_chars(text.data(), end, value, base);
-  if (result.ec != std::errc{} || result.ptr != end) return std::nullopt;
-  return value;
 }
 
 std::string numberLike(std::string_view typed, U64 number) {
@@ -91,13 +77,10 @@ std::string rangesText(std::vector<U32> numbers) {
 
 std::string printable(std::string_view text) {
   std::string safe;
-  for (const char letter : text) safe += letter >= ' ' && letter <= '~' ? letter : '?';
+  for (const char letter : text) safe += Velmar::Binding::printableLetter(letter);
   return safe;
 }
 
-std::string inQuotes(std::string_view text) {
-  constexpr size_t longest = 60;
-  return '"' + printable(text.substr(0, longest)) + (text.size() > longest ? "...\"" : "\"");
-}
+std::string inQuotes(std::string_view text) { return Velmar::Binding::quoted(text).text(); }
 
 }  // namespace Tool

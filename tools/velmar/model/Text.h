@@ -1,18 +1,16 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "AsicUtils/Types.h"
+#include "c/Text.h"
 
 // Operations on text that several verbs and input formats share.
 
 namespace Tool {
 
-/// A decimal number, or a hexadecimal one after "0x"; nothing else, and at most 64 bits.
-std::optional<U64> parseNumber(std::string_view text);
+using Velmar::Binding::parseNumber;
 
 /// The parts between the separators, without surrounding blanks.
 std::vector<std::string> split(std::string_view text, char separator);

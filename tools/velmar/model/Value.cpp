@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "Detail/CopyBits.h"
 #include "model/Failure.h"
 #include "model/Text.h"
 
@@ -14,14 +13,8 @@ bool isHexNumber(std::string_view text) {
          text.find_first_not_of("0123456789abcdefABCDEF", 2) == std::string_view::npos;
 }
 
-[[noreturn]] void failTooLarge(const FieldPlace& place, std::string_view text) {
-  const std::string digits = formatText("{:x}", (1U << ((place.width - 1) % 4 + 1)) - 1) +
-                             std::string((place.width - 1) / 4, 'f');
-  const bool isHex = place.width > 64 || text.find_first_of("xX") != std::string_view::npos;
-  const std::string largest =
-      isHex ? "0x" + digits : formatText("{}", ~U64{0} >> (64 - place.width));
-  fail("{}: value {} does not fit; the field has {} bit{}, its largest value is {}", place.name(),
-       inQuotes(text), place.width, place.width == 1 ? "" : "s", largest);
+void failTooLarge(const FieldPlace& place, std::string_view text) {
+  check(Binding::failTooLarge(place.name(), place.width, text));
 }
 
 U64 parsePort(const FieldPlace& place, std::string_view text) {
@@ -67,16 +60,13 @@ Value::Value(U32 width) : width_(width) {
 
 Value Value::read(const FieldPlace& place, const U8* entry, U32 entryBytes) {
   Value value(place.width);
-  Detail::copyBits(reinterpret_cast<U8*>(value.words_.data()),
-                   static_cast<int>(4 * value.wordCount()), entry, static_cast<int>(entryBytes),
-                   static_cast<int>(place.width), 0, static_cast<int>(place.offset));
+  Binding::readBits(entry, entryBytes, place.offset, place.width, value.words_.data(),
+                    4 * value.wordCount());
   return value;
 }
 
 void Value::write(const FieldPlace& place, U8* entry, U32 entryBytes) const {
-  Detail::copyBits(entry, static_cast<int>(entryBytes), reinterpret_cast<const U8*>(words_.data()),
-                   static_cast<int>(4 * wordCount()), static_cast<int>(place.width),
-                   static_cast<int>(place.offset), 0);
+  Binding::writeBits(entry, entryBytes, place.offset, place.width, words_.data(), 4 * wordCount());
 }
 
 bool Value::isZero() const {
@@ -186,9 +176,7 @@ bool Value::setNumber(U64 number) {
 
 U64 readScalar(const FieldPlace& place, const U8* entry, U32 entryBytes) {
   U64 value = 0;
-  Detail::copyBits(reinterpret_cast<U8*>(&value), sizeof(value), entry,
-                   static_cast<int>(entryBytes), static_cast<int>(place.width), 0,
-                   static_cast<int>(place.offset));
+  Binding::readBits(entry, entryBytes, place.offset, place.width, &value, sizeof(value));
   return value;
 }
 

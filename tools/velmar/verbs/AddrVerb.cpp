@@ -48,29 +48,18 @@ Listing addressesOfEntries(const Arguments& arguments) {
   return listing;
 }
 
-/// Adds the entry of a table that has an address, for each of its identifiers.
-void addMatches(Listing& listing, const Layout& layout, U32 address) {
-  const U32 step = layout.isRegisterArray() ? layout.geometry().addrStride : 1;
-  for (U32 identifier = 0; identifier < layout.geometry().identifiers; ++identifier) {
-    const U32 first = layout.addressOf(0, identifier).address;
-    if (address < first || (address - first) % step != 0) continue;
-    const U32 index = (address - first) / step;
-    if (index < layout.indexCount()) add(listing, layout, index, identifier);
-  }
-}
-
 /// Adds what has an address in a table, or in all tables where none is named; returns the names of
 /// the tables that have it.
 std::set<std::string> findAddress(Listing& listing, const Arguments& arguments,
                                   const std::string& table, U32 address) {
   std::set<std::string> names;
+  const U8 variant = variantOf(arguments);
   for (const Catalogue::Chip& chip : chipsOf(arguments)) {
-    for (const Catalogue::Table& candidate : tablesOn(chip, variantOf(arguments))) {
+    for (const EntryOfAddress& entry : entriesAt(chip, variant, address)) {
+      const Catalogue::Table candidate = Catalogue::table(entry.table);
       if (!table.empty() && findTable(table).name() != std::string_view(candidate.name())) continue;
-      Listing found = newListing();
-      addMatches(found, Layout(candidate, chip, variantOf(arguments)), address);
-      if (!found.isEmpty()) names.insert(candidate.name());
-      listing.add(std::move(found));
+      names.insert(candidate.name());
+      add(listing, Layout(candidate, chip, variant), entry.index, entry.identifier);
     }
   }
   return names;

@@ -1,0 +1,228 @@
+#ifndef VELMAR_H
+#define VELMAR_H
+
+#include <stddef.h>
+#include <stdint.h>
+
+/// Velmar for C and for languages that call C: what the library knows of chips, tables and fields,
+/// and the fields of entries that the caller holds.
+///
+/// The numbers come from the rows of the view classes. Chips, tables and the fields of a table have
+/// indexes from 0. An index is good while the program runs; to store one, store the name, the
+/// chip's number or the field's identifier.
+///
+/// A call that can fail returns a code, and writes nothing but the message when it fails. Nothing
+/// aborts, throws or allocates; only the C library may allocate the place of a thread's message,
+/// once. All calls may run in several threads at once, on different entries. Texts and layouts live
+/// as long as the library; the caller frees nothing.
+///
+/// An entry is `entry_bytes` bytes as they were read from the chip: bit n is bit n % 8 of its byte
+/// n / 8. It needs no alignment. A dump is entries without gaps. Buffers of one call must not
+/// overlap.
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+#define VELMAR_API __attribute__((visibility("default")))
+
+/// What a call returns. A later release may add codes.
+typedef enum velmar_code {
+  VELMAR_OK = 0,
+  VELMAR_NULL = 1,         ///< a pointer is NULL
+  VELMAR_SIZE = 2,         ///< a buffer is too short or too long
+  VELMAR_INDEX = 3,        ///< no chip, table, field, entry, element or identifier has the number
+  VELMAR_UNKNOWN = 4,      ///< no chip, table or field has the name or identifier
+  VELMAR_AMBIGUOUS = 5,    ///< several chips, or a family of fields, have the name
+  VELMAR_NOT_ON_CHIP = 6,  ///< the chip does not have the table or the field
+  VELMAR_VARIANT = 7,      ///< the table on the chip does not have the variant
+  VELMAR_VALUE = 8,        ///< the value has more bits than the field
+  VELMAR_WIDE = 9,         ///< the field has more than 64 bits: read and write words or bytes
+  VELMAR_NO_ENTRY = 10     ///< the chip has no entry, or no further one, at the address
+} velmar_code;
+
+/// What went wrong in the last call of this thread that failed, and what to do about it, such as
+/// "unknown table "VlanEntri"; did you mean VlanEntry? "velmar tables" lists the tables". Empty
+/// before the first failure. The text is good until the next call of this thread that fails.
+VELMAR_API const char* velmar_message(void);
+
+/// The version of the library, such as "0.2.0".
+VELMAR_API const char* velmar_version(void);
+
+// Structures. The caller passes the size of its own structure, sizeof *info. Later releases add
+// members at the end: a program gets those that it was compiled with, and 0 for those that the
+// library does not have yet. VELMAR_SIZE: the structure is smaller than that of the first release.
+
+typedef struct velmar_chip {
+  const char* name;  ///< such as "BCM56990_B0"
+  uint32_t index;
+  uint32_t number;  ///< the ChipType_ value; never changes
+} velmar_chip;
+
+enum { VELMAR_TABLE = 0, VELMAR_REGISTER_ARRAY = 1 };
+
+typedef struct velmar_table {
+  const char* name;     ///< name of the view class, such as "VlanEntry"
+  const char* purpose;  ///< its contents, in a few words
+  uint32_t index;
+  uint32_t kind;         ///< VELMAR_TABLE or VELMAR_REGISTER_ARRAY
+  uint32_t field_count;  ///< number of fields on all chips together: indexes are below it
+  uint32_t unused;       ///< 0
+} velmar_table;
+
+/// What the getter of the view class returns.
+enum {
+  VELMAR_U8 = 0,
+  VELMAR_U16 = 1,
+  VELMAR_U32 = 2,
+  VELMAR_U64 = 3,
+  VELMAR_RAW128 = 4,
+  VELMAR_BITMAP = 5  ///< a set of ports: bit n is port n
+};
+
+typedef struct velmar_field {
+  const char* accessor;       ///< such as "fidId"
+  const char* hardware_name;  ///< such as "FID_ID"
+  const char* meaning;        ///< a few words
+  uint32_t index;             ///< the same on every chip
+  uint32_t id;                ///< identifier; never changes
+  uint32_t type;              ///< VELMAR_U8 to VELMAR_BITMAP
+  uint32_t first_bit;         ///< bit of the entry
+  uint32_t bits;              ///< width
+  uint32_t overlaps;          ///< 1: shares bits with another field, 0: does not
+  uint32_t
+      family_letters;  ///< letters of `accessor` before its number, for a field of a family such as
+                       ///< spTreePort0, spTreePort1 ...; 0 for a field alone
+  uint32_t family_number;  ///< its number in the family
+} velmar_field;
+
+/// Which variants a table on a chip has.
+enum { VELMAR_ANY_VARIANT = 0, VELMAR_VARIANT_0_ONLY = 1 };
+
+/// A table on a chip: the same for all its variants.
+typedef struct velmar_layout velmar_layout;
+
+typedef struct velmar_layout_facts {
+  uint32_t table;            ///< index
+  uint32_t chip;             ///< index
+  uint32_t variants;         ///< VELMAR_ANY_VARIANT or VELMAR_VARIANT_0_ONLY
+  uint32_t fields;           ///< number of fields that the chip has
+  uint32_t entry_bytes;      ///< size of an entry: 4 * words
+  uint32_t words;            ///< size of an entry in 32-bit words
+  uint32_t entries;          ///< number of entries; 1 for a register array
+  uint32_t elements;         ///< number of elements of a register array; 1 for a table
+  uint32_t identifiers;      ///< number of instance identifiers, from 0
+  uint32_t base;             ///< S-channel address of entry 0, element 0, identifier 0
+  uint32_t element_step;     ///< added to the address per element; 0 for a table
+  uint32_t identifier_step;  ///< added to the address per identifier
+  uint32_t access_type;      ///< S-channel access code
+  uint32_t block;            ///< pipeline block: 1 ingress, 2 egress
+} velmar_layout_facts;
+
+typedef struct velmar_place {
+  const velmar_layout* layout;
+  uint32_t index;       ///< of the entry, or of the element of a register array
+  uint32_t identifier;  ///< instance identifier
+} velmar_place;
+
+// Lists. Chips are in ascending order of their numbers; tables and fields have a fixed order.
+// VELMAR_INDEX: the index is not below the count.
+
+VELMAR_API uint32_t velmar_chip_count(void);
+VELMAR_API uint32_t velmar_table_count(void);
+VELMAR_API velmar_code velmar_chip_info(uint32_t chip, velmar_chip* info, size_t size);
+VELMAR_API velmar_code velmar_table_info(uint32_t table, velmar_table* info, size_t size);
+/// A field of a table, whatever the chip: `first_bit` and `bits` are 0, `overlaps` is that of all
+/// chips.
+VELMAR_API velmar_code velmar_field_info(uint32_t table, uint32_t field, velmar_field* info,
+                                         size_t size);
+
+// Names, in any case and with or without underscores and hyphens. VELMAR_UNKNOWN: nothing has the
+// name; the message proposes similar ones.
+
+/// A chip by its name ("BCM56990_B0", "56990_b0", or "56990" if only one chip has that number;
+/// otherwise VELMAR_AMBIGUOUS), or by its number.
+VELMAR_API velmar_code velmar_find_chip(const char* name, uint32_t* chip);
+/// A table by its name, with or without "Entry" or "Control" at the end.
+VELMAR_API velmar_code velmar_find_table(const char* name, uint32_t* table);
+/// A field of a layout by its accessor, hardware name, or identifier in decimal or after "0x".
+/// VELMAR_NOT_ON_CHIP: only other chips have it. VELMAR_AMBIGUOUS: a family of fields has the name.
+VELMAR_API velmar_code velmar_find_field(const velmar_layout* layout, const char* name,
+                                         uint32_t* field);
+/// The field of an identifier.
+VELMAR_API velmar_code velmar_field_of_id(const velmar_layout* layout, uint32_t id,
+                                          uint32_t* field);
+
+// Layouts. VELMAR_NOT_ON_CHIP: the chip does not have the table. VELMAR_VARIANT: the table on the
+// chip has variant 0 only, or the variant is above 255.
+
+VELMAR_API velmar_code velmar_layout_of(uint32_t table, uint32_t chip, uint32_t variant,
+                                        const velmar_layout** layout);
+/// The same by names.
+VELMAR_API velmar_code velmar_find_layout(const char* table, const char* chip, uint32_t variant,
+                                          const velmar_layout** layout);
+VELMAR_API velmar_code velmar_layout_info(const velmar_layout* layout, velmar_layout_facts* info,
+                                          size_t size);
+/// A field with its bits on the chip, and whether it shares bits there.
+VELMAR_API velmar_code velmar_layout_field(const velmar_layout* layout, uint32_t field,
+                                           velmar_field* info, size_t size);
+/// Sets the bits of `mask` that belong to a field of the chip, and clears the others, the reserved
+/// bits. `size` is `entry_bytes`.
+VELMAR_API velmar_code velmar_field_mask(const velmar_layout* layout, uint8_t* mask, size_t size);
+/// Sets the bits of `mask` that the field shares with other fields of the chip, and clears the
+/// others.
+VELMAR_API velmar_code velmar_shared_mask(const velmar_layout* layout, uint32_t field,
+                                          uint8_t* mask, size_t size);
+
+// Fields of an entry, by the index of the field. `entry_size` is `entry_bytes`. VELMAR_NOT_ON_CHIP:
+// the chip does not have the field. A write changes the bits of the field alone; VELMAR_VALUE: the
+// value has a bit set above those of the field.
+
+/// A field of up to 64 bits as a number; for a wider one VELMAR_WIDE.
+VELMAR_API velmar_code velmar_read(const velmar_layout* layout, uint32_t field, const void* entry,
+                                   size_t entry_size, uint64_t* value);
+VELMAR_API velmar_code velmar_write(const velmar_layout* layout, uint32_t field, void* entry,
+                                    size_t entry_size, uint64_t value);
+/// A field of any width as (bits + 7) / 8 bytes, the lowest bits first. `size` is their number.
+VELMAR_API velmar_code velmar_read_bytes(const velmar_layout* layout, uint32_t field,
+                                         const void* entry, size_t entry_size, uint8_t* bytes,
+                                         size_t size);
+VELMAR_API velmar_code velmar_write_bytes(const velmar_layout* layout, uint32_t field, void* entry,
+                                          size_t entry_size, const uint8_t* bytes, size_t size);
+/// A field of any width as (bits + 31) / 32 words, the lowest bits first: word i of a bitmap has
+/// ports 32 * i to 32 * i + 31, port 32 * i in bit 0. `count` is the number of words.
+VELMAR_API velmar_code velmar_read_words(const velmar_layout* layout, uint32_t field,
+                                         const void* entry, size_t entry_size, uint32_t* words,
+                                         size_t count);
+VELMAR_API velmar_code velmar_write_words(const velmar_layout* layout, uint32_t field, void* entry,
+                                          size_t entry_size, const uint32_t* words, size_t count);
+
+// A column: one field of all entries of a dump. VELMAR_SIZE: `dump_size` bytes are not a whole
+// number of entries, or are more than the table has, or `count` does not go with them.
+
+/// A field of up to 64 bits as `count` numbers, one for each entry; for a wider one VELMAR_WIDE.
+VELMAR_API velmar_code velmar_read_column(const velmar_layout* layout, uint32_t field,
+                                          const void* dump, size_t dump_size, uint64_t* values,
+                                          size_t count);
+/// A field of any width as `count` words: those of velmar_read_words() for the first entry, then
+/// those for the second, and so on.
+VELMAR_API velmar_code velmar_read_word_column(const velmar_layout* layout, uint32_t field,
+                                               const void* dump, size_t dump_size, uint32_t* words,
+                                               size_t count);
+
+// Addresses on the S-channel.
+
+/// The address of an entry, or of an element of a register array. VELMAR_INDEX: the table does not
+/// have the entry, the element or the identifier.
+VELMAR_API velmar_code velmar_address(const velmar_layout* layout, uint32_t index,
+                                      uint32_t identifier, uint32_t* address);
+/// One of the entries of all tables of a chip and variant that have an address: `nth` counts them
+/// from 0, in the order of the tables, until VELMAR_NO_ENTRY.
+VELMAR_API velmar_code velmar_entry_at(uint32_t chip, uint32_t variant, uint32_t address,
+                                       uint32_t nth, velmar_place* place, size_t size);
+
+#ifdef __cplusplus
+}  // extern "C"
+#endif
+
+#endif

@@ -1,0 +1,148 @@
+"""libvelmar for ctypes: its structures and functions as velmar.h declares them, and its errors."""
+
+from __future__ import annotations
+
+import ctypes
+import operator
+import os
+import pathlib
+from ctypes import POINTER, c_char_p, c_int, c_size_t, c_uint32, c_uint64, c_void_p
+from typing import Any
+
+# velmar_code
+NOT_ON_CHIP = 6
+NO_ENTRY = 10
+# Numbers of velmar_field.type and velmar_table.kind
+TYPES = ("U8", "U16", "U32", "U64", "Raw128", "bitmap")
+KINDS = ("table", "register array")
+
+
+class Error(ValueError):
+    """What velmar refuses. The text says what is wrong, and what to do about it.
+
+    code: the velmar_code of velmar.h; 0 if the module or the command refuses it, not the library.
+    """
+
+    def __init__(self, message: str, code: int = 0):
+        super().__init__(message)
+        self.code = code
+
+
+class velmar_chip(ctypes.Structure):
+    _fields_ = [("name", c_char_p), ("index", c_uint32), ("number", c_uint32)]
+
+
+class velmar_table(ctypes.Structure):
+    _fields_ = [("name", c_char_p), ("purpose", c_char_p), ("index", c_uint32), ("kind", c_uint32),
+                ("field_count", c_uint32), ("unused", c_uint32)]
+
+
+class velmar_field(ctypes.Structure):
+    _fields_ = [("accessor", c_char_p), ("hardware_name", c_char_p), ("meaning", c_char_p),
+                ("index", c_uint32), ("id", c_uint32), ("type", c_uint32), ("first_bit", c_uint32),
+                ("bits", c_uint32), ("overlaps", c_uint32), ("family_letters", c_uint32),
+                ("family_number", c_uint32)]
+
+
+class velmar_layout_facts(ctypes.Structure):
+    _fields_ = [(name, c_uint32) for name in (
+        "table", "chip", "variants", "fields", "entry_bytes", "words", "entries", "elements",
+        "identifiers", "base", "element_step", "identifier_step", "access_type", "block")]
+
+
+class velmar_place(ctypes.Structure):
+    _fields_ = [("layout", c_void_p), ("index", c_uint32), ("identifier", c_uint32)]
+
+
+# Buffers and layouts are void pointers here: an array, bytes and an address all go there.
+_buffer, _layout, _size = c_void_p, c_void_p, c_size_t
+_read = [_layout, c_uint32, _buffer, _size]
+FUNCTIONS = {
+    "velmar_message": (c_char_p, []),
+    "velmar_version": (c_char_p, []),
+    "velmar_chip_count": (c_uint32, []),
+    "velmar_table_count": (c_uint32, []),
+    "velmar_chip_info": (c_int, [c_uint32, POINTER(velmar_chip), _size]),
+    "velmar_table_info": (c_int, [c_uint32, POINTER(velmar_table), _size]),
+    "velmar_find_field": (c_int, [_layout, c_char_p, POINTER(c_uint32)]),
+    "velmar_find_chip": (c_int, [c_char_p, POINTER(c_uint32)]),
+    "velmar_layout_of": (c_int, [c_uint32, c_uint32, c_uint32, POINTER(_layout)]),
+    "velmar_find_layout": (c_int, [c_char_p, c_char_p, c_uint32, POINTER(_layout)]),
+    "velmar_layout_info": (c_int, [_layout, POINTER(velmar_layout_facts), _size]),
+    "velmar_layout_field": (c_int, [_layout, c_uint32, POINTER(velmar_field), _size]),
+    "velmar_field_mask": (c_int, [_layout, _buffer, _size]),
+    "velmar_write": (c_int, _read + [c_uint64]),
+    "velmar_write_bytes": (c_int, _read + [_buffer, _size]),
+    "velmar_read_column": (c_int, _read + [_buffer, _size]),
+    "velmar_read_word_column": (c_int, _read + [_buffer, _size]),
+    "velmar_address": (c_int, [_layout, c_uint32, c_uint32, POINTER(c_uint32)]),
+    "velmar_entry_at": (c_int, [c_uint32, c_uint32, c_uint32, c_uint32, POINTER(velmar_place),
+                                _size]),
+}
+
+
+def _path() -> str:
+    """The library: the one that is named, that of the module's own prefix, or the system's."""
+    named = os.environ.get("VELMAR_LIBRARY")
+    if named:
+        return named
+    name = "libvelmar.so.0"
+    above = pathlib.Path(__file__).resolve().parents  # PREFIX/lib/python3/dist-packages/velmar
+    for folder in [above[3], above[3].with_name("lib64")] if len(above) > 4 else []:
+        if (folder / name).exists():
+            return str(folder / name)
+    return name
+
+
+def _loaded(path: str) -> ctypes.CDLL:
+    try:
+        library = ctypes.CDLL(path)
+        for name, (result, arguments) in FUNCTIONS.items():
+            function = getattr(library, name)
+            function.restype, function.argtypes = result, arguments
+    except (OSError, AttributeError) as error:
+        raise ImportError(f"velmar: {error}; install libvelmar0, or name the file of the library in "
+                          "the environment variable VELMAR_LIBRARY") from None
+    return library
+
+
+path = _path()
+library = _loaded(path)
+
+
+def call(function: str, *arguments: Any) -> None:
+    """Calls a function that returns a velmar_code. Raises Error with the library's message."""
+    code = getattr(library, function)(*arguments)
+    if code != 0:
+        raise Error(library.velmar_message().decode(), code)
+
+
+def info(function: str, structure: type, *arguments: Any) -> Any:
+    """The structure that a function gives."""
+    facts = structure()
+    call(function, *arguments, ctypes.byref(facts), ctypes.sizeof(facts))
+    return facts
+
+
+def text(name: str) -> bytes:
+    """A name as C takes it."""
+    if not isinstance(name, str):
+        raise TypeError(f"{name!r} is not a name; give a str")
+    if "\0" in name:
+        raise Error(f"{name!r} has a zero character; remove it")
+    return name.encode()
+
+
+def u32(number: int, what: str) -> int:
+    """A number as C takes it: ctypes would cut off what is too much, without a word."""
+    number = operator.index(number)
+    if not 0 <= number < 1 << 32:
+        raise Error(f"{what} {number} is not a number of 32 bits; give 0 to {(1 << 32) - 1}")
+    return number
+
+
+def find(function: str, *arguments: Any) -> int:
+    """The index, or the address, that a function finds."""
+    found = c_uint32()
+    call(function, *arguments, ctypes.byref(found))
+    return found.value
