@@ -21,22 +21,22 @@ void store(U8* into, T value) {
   std::memcpy(into, &value, sizeof(value));
 }
 
-/// The first of eight bytes that hold a field of a VLAN entry: a multiple of 8 if possible.
-constexpr U32 windowOf(U32 offset, U32 width) {
-  if (offset / 64 == (offset + width - 1) / 64) return offset / 64 * 8;
-  const U32 own = offset / 8;
-  return own < entryBytes - 8 ? own : entryBytes - 8;
+/// The first of eight bytes that hold a field of a VLAN entry: a multiple of 4, so that a read never
+/// straddles two writes for long, and inside the entry.
+constexpr U32 windowOf(U32 offset) {
+  const U32 start = offset / 32 * 4;
+  return start < entryBytes - 8 ? start : entryBytes - 8;
 }
 
 template <U32 offset, U32 width>
 U64 get(const U8* buf) {
-  constexpr U32 start = windowOf(offset, width);
+  constexpr U32 start = windowOf(offset);
   return load<U64>(buf + start) >> (offset - 8 * start) & ((U64{1} << width) - 1);
 }
 
 template <U32 offset, U32 width>
 void set(U8* buf, U64 value) {
-  constexpr U32 start = windowOf(offset, width);
+  constexpr U32 start = windowOf(offset);
   constexpr U32 shift = offset - 8 * start;
   constexpr U64 mask = ((U64{1} << width) - 1) << shift;
   store<U64>(buf + start, (load<U64>(buf + start) & ~mask) | (value << shift & mask));
@@ -45,8 +45,8 @@ void set(U8* buf, U64 value) {
 template <U32 words, U32 lastBits>
 Oru::PerUnitBitmap getBitmap(const U8* buf) {
   Oru::PerUnitBitmap bitmap;
-  for (U32 i = 0; i + 1 < words; ++i) bitmap.bitListIs(i, load<U32>(buf + 4 * i));
   bitmap.bitListIs(words - 1, load<U32>(buf + 4 * (words - 1)) & ((1U << lastBits) - 1));
+  for (U32 i = 0; i + 1 < words; ++i) bitmap.bitListIs(i, load<U32>(buf + 4 * i));
   return bitmap;
 }
 
@@ -62,8 +62,7 @@ constexpr U16 numbers[] = {9, 13};
 
 }  // namespace
 
-Vlan::Vlan(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant)
-    : BcmAsicBase(static_cast<U8>(chipType), buf, len, flag, variant, 0) {}
+Vlan::Vlan(ChipType_, U8* buf, U16, bool, U8) : buf_(buf) {}
 
 U16 Vlan::constant() const { return 12; }
 
@@ -81,21 +80,24 @@ bool Vlan::getSchanAddress(U32, U8, U32& address, U32& accessType, U32& block, U
   return true;
 }
 
-void Vlan::setField64(U32, U64) {}
-U16 Vlan::fieldWidth(U32 fieldId) const { return numbers[fieldId & 1]; }
-U16 Vlan::fieldOffset(U32 fieldId) const { return numbers[fieldId & 1]; }
-bool Vlan::isFieldValid(U32 fieldId) const { return fieldId != 0; }
-U16 Vlan::width() const { return 4; }
-U32 Vlan::fieldCount() const { return 15; }
-bool Vlan::isTable() const { return true; }
-Raw8192 Vlan::allFieldsMask() const { return {}; }
-U32 Vlan::instanceCount() const { return 1; }
-bool Vlan::hasIdentifier(U32 identifier) const { return identifier == 0; }
-U32 Vlan::arrayElements() const { return 1; }
-bool Vlan::getSchanAddress(U32& address, U32& accessType, U32& block, U16 identifier,
-                           U32 tableEntry, U16 arrayIndex) const {
-  return getSchanAddress(chipType_, variant_, address, accessType, block, identifier, tableEntry,
-                         arrayIndex);
+Walked::Walked(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant)
+    : BcmAsicBase(static_cast<U8>(chipType), buf, len, flag, variant, 0) {}
+
+void Walked::setField64(U32, U64) {}
+U16 Walked::fieldWidth(U32 fieldId) const { return numbers[fieldId & 1]; }
+U16 Walked::fieldOffset(U32 fieldId) const { return numbers[fieldId & 1]; }
+bool Walked::isFieldValid(U32 fieldId) const { return fieldId != 0; }
+U16 Walked::width() const { return 4; }
+U32 Walked::fieldCount() const { return 15; }
+bool Walked::isTable() const { return true; }
+Raw8192 Walked::allFieldsMask() const { return {}; }
+U32 Walked::instanceCount() const { return 1; }
+bool Walked::hasIdentifier(U32 identifier) const { return identifier == 0; }
+U32 Walked::arrayElements() const { return 1; }
+bool Walked::getSchanAddress(U32& address, U32& accessType, U32& block, U16 identifier,
+                             U32 tableEntry, U16 arrayIndex) const {
+  return Vlan::getSchanAddress(chipType_, variant_, address, accessType, block, identifier,
+                               tableEntry, arrayIndex);
 }
 
 Oru::PerUnitBitmap Bitmaps::bitmap136() const { return getBitmap<5, 8>(buf_ + 17); }

@@ -27,8 +27,8 @@ namespace Floors {
   FIELD(umcIdx, U16, 48, 9)                \
   FIELD(bcIdx, U16, 0, 9)
 
-/// A view of a 16-byte VLAN entry. Its virtual members return at once for any identifier.
-class FLOORS_EXPORT Vlan : public AsicUtils::BcmAsicBase {
+/// A view of a 16-byte VLAN entry.
+class FLOORS_EXPORT Vlan {
  public:
   Vlan(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
 
@@ -41,6 +41,15 @@ class FLOORS_EXPORT Vlan : public AsicUtils::BcmAsicBase {
 
   static bool getSchanAddress(U32 chipType, U8 variant, U32& address, U32& accessType, U32& block,
                               U16 identifier, U32 tableEntry, U16 arrayIndex);
+
+ private:
+  U8* buf_;
+};
+
+/// A view whose virtual members return at once for any identifier.
+class FLOORS_EXPORT Walked : public AsicUtils::BcmAsicBase {
+ public:
+  Walked(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant);
 
   void setField64(U32 fieldId, U64 value) override;
   U16 fieldWidth(U32 fieldId) const override;
@@ -57,7 +66,8 @@ class FLOORS_EXPORT Vlan : public AsicUtils::BcmAsicBase {
                        U16 arrayIndex) const override;
 };
 
-/// A bitmap of 136 bits at bit 136 and one of 272 bits at bit 0, word by word.
+/// A bitmap of 136 bits at bit 136 and one of 272 bits at bit 0, word by word. The getters size the
+/// bitmap once, by its last word.
 class FLOORS_EXPORT Bitmaps {
  public:
   explicit Bitmaps(U8* buf) : buf_(buf) {}

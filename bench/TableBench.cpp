@@ -94,7 +94,7 @@ const bool added = [] {
   addTable<VlanEntry>("encode/8192 VLANs", &encode<VlanEntry>);
   addTable<Floors::Vlan>("read back/floor", &readBack<Floors::Vlan>);
   addTable<VlanEntry>("read back/8192 VLANs", &readBack<VlanEntry>);
-  addWalk<Floors::Vlan>("walk/floor");
+  addWalk<Floors::Walked>("walk/floor");
   addWalk<VlanEntry>("walk/generic");
   return true;
 }();

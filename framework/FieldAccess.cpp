@@ -50,17 +50,29 @@ U32 wordsOf(const FieldSlot& slot) { return (slot.width + 31U) / 32; }
 // The words of a bitmap go from buffer to list, and back, through registers: what is written in
 // pieces of one size and read in pieces of another waits for both.
 
+/// Word `i` of a bitmap at the end of a buffer, where a window of 8 bytes would reach beyond it.
+[[gnu::noinline]] U32 wordAtEnd(const EntryView& view, const FieldSlot& slot, U32 i) {
+  U64 word = 0;
+  const U32 bits = std::min(32U, slot.width - 32 * i);
+  Detail::copyBits(bytesOf(word), sizeof(word), ViewAccess::buf(view), ViewAccess::len(view),
+                   static_cast<int>(bits), 0, static_cast<int>(slot.offset + 32 * i));
+  return static_cast<U32>(word);
+}
+
 void read(const EntryView& view, const FieldSlot& slot, Oru::PerUnitBitmap& bitmap) {
-  const auto wordAt = [&view, &slot](U32 i, U32 bits) {
-    U64 word = 0;
-    Detail::copyBits(bytesOf(word), sizeof(word), ViewAccess::buf(view), ViewAccess::len(view),
-                     static_cast<int>(bits), 0, static_cast<int>(slot.offset + 32 * i));
-    return static_cast<U32>(word);
+  const U8* const first = ViewAccess::buf(view) + slot.offset / 8;
+  const U32 held = ViewAccess::len(view) - slot.offset / 8U;  // bytes from there to the end
+  const U32 shift = slot.offset % 8;
+  const auto wordAt = [&view, &slot, first, held, shift](U32 i) {
+    U64 window;
+    if (4 * i + sizeof(window) > held) return wordAtEnd(view, slot, i);
+    std::memcpy(&window, first + 4 * i, sizeof(window));
+    return static_cast<U32>(window >> shift);
   };
   // From the last word down, so that the list grows once.
   U32 i = wordsOf(slot) - 1;
-  bitmap.bitListIs(i, wordAt(i, slot.width - 32 * i));
-  while (i-- > 0) bitmap.bitListIs(i, wordAt(i, 32));
+  bitmap.bitListIs(i, wordAt(i) & ~0U >> (32 * (i + 1) - slot.width));
+  while (i-- > 0) bitmap.bitListIs(i, wordAt(i));
 }
 
 /// Puts the lowest `bits` bits of the words at an offset of the buffer, 64 bits at a time.
