@@ -63,16 +63,20 @@ void read(const EntryView& view, const FieldSlot& slot, Oru::PerUnitBitmap& bitm
   const U8* const first = ViewAccess::buf(view) + slot.offset / 8;
   const U32 held = ViewAccess::len(view) - slot.offset / 8U;  // bytes from there to the end
   const U32 shift = slot.offset % 8;
-  const auto wordAt = [&view, &slot, first, held, shift](U32 i) {
+  const auto windowAt = [first, shift](U32 i) {
     U64 window;
-    if (4 * i + sizeof(window) > held) return wordAtEnd(view, slot, i);
     std::memcpy(&window, first + 4 * i, sizeof(window));
     return static_cast<U32>(window >> shift);
   };
-  // From the last word down, so that the list grows once.
+  const auto wordAt = [&view, &slot, held, windowAt](U32 i) {
+    return 4 * i + sizeof(U64) <= held ? windowAt(i) : wordAtEnd(view, slot, i);
+  };
+  // From the last word down, so that the list grows once. A window reaches one word beyond its own,
+  // so only the last two can reach beyond the field.
   U32 i = wordsOf(slot) - 1;
   bitmap.bitListIs(i, wordAt(i) & ~0U >> (32 * (i + 1) - slot.width));
-  while (i-- > 0) bitmap.bitListIs(i, wordAt(i));
+  if (i > 0) bitmap.bitListIs(i - 1, wordAt(i - 1));
+  for (i = i > 0 ? i - 1 : 0; i-- > 0;) bitmap.bitListIs(i, windowAt(i));
 }
 
 /// Puts the lowest `bits` bits of the words at an offset of the buffer, 64 bits at a time.

@@ -68,4 +68,4 @@ with tempfile.TemporaryDirectory() as directory:
         measure(f"decode {form} / jsonl", goal, decode[:-3] + ["--format", form, full], decode)
     measure("encode jsonl / jq", 0.4, [velmar, "encode", *target, "@" + lines],
             ["jq", "-c", ".fields.stg.decimal", lines])
-    measure("start-up (chips)", 2, [velmar, "chips"], [os.path.join(build, "bin", "empty-program")])
+    measure("start-up (chips)", 1.4, [velmar, "chips"], [os.path.join(build, "bin", "empty-program")])

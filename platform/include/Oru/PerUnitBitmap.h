@@ -90,8 +90,13 @@ class VELMAR_PLATFORM_EXPORT PerUnitBitmap {
 
   void growTo(U32 index) {
     if (index >= inlineWords && index >= heapWords_) moveToHeap(index);
-    U32* list = words();
-    for (U32 i = wordCount_; i <= index; ++i) list[i] = 0;
+    if (wordCount_ == 0 && heap_ == nullptr) {
+      // All at once: a few wide stores.
+      for (U32& word : inline_) word = 0;
+    } else {
+      U32* list = words();
+      for (U32 i = wordCount_; i <= index; ++i) list[i] = 0;
+    }
     wordCount_ = index + 1;
   }
   void assign(const PerUnitBitmap& other) {

@@ -102,5 +102,6 @@ function addressResult({layout, index, identifier}, address) {
       },
       h("b", {}, `${layout.table.name} ${what} ${index}`),
       h("span", {}, `${addressText(address)} on ${layout.chip}, access code ${layout.accessType}`),
-      h("small", {}, layout.identifiers > 1 ? `instance ${identifier}` : layout.table.purpose));
+      h("small", {},
+        layout.identifiers > 1 ? `instance identifier ${identifier}` : layout.table.purpose));
 }

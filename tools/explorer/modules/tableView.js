@@ -98,7 +98,7 @@ export class TableView {
     const step = layout.isRegisterArray ? ` + ${layout.addrStride} × element` : " + index";
     const identifier = layout.identifierTerm === 0 || layout.identifiers === 1 ?
         "" :
-        ` + ${layout.identifierTerm} × instance`;
+        ` + ${layout.identifierTerm} × instance identifier`;
     return addressText(layout.base) + step + identifier;
   }
 
@@ -118,7 +118,7 @@ export class TableView {
       problem.textContent = "";
       result.textContent = "";
       const at = number(index, layout.indexCount, indexName);
-      const id = number(identifier, layout.identifiers, "Instance");
+      const id = number(identifier, layout.identifiers, "Instance identifier");
       if (at === null || id === null) return;
       Object.assign(
           this.options, {index: at === 0 ? "" : `${at}`, identifier: id === 0 ? "" : `${id}`});
@@ -135,8 +135,9 @@ export class TableView {
     compute();
     return h(
         "p", {class: "calculator"}, labelled(indexName, index),
-        layout.identifiers > 1 ? labelled(`Instance (0 to ${layout.identifiers - 1})`, identifier) :
-                                 null,
+        layout.identifiers > 1 ?
+            labelled(`Instance identifier (0 to ${layout.identifiers - 1})`, identifier) :
+            null,
         "→", result,
         layout.identifiers > 1 && layout.identifierTerm === 0 ?
             h("span", {class: "note"}, "All instances have the same address.") :
