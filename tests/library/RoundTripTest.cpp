@@ -1,7 +1,8 @@
 // Every field on every chip, written and read back in a buffer of exactly the bytes that it needs,
-// against a bit-by-bit model: all ones, all zeros and random values over both backgrounds; the bits
-// around the field must not change. Buffers are heap blocks, some at odd addresses, and blocks that
-// end or start at a protected page, where an access beyond them ends the program.
+// and in one with room for whole windows, against a bit-by-bit model: all ones, all zeros and random
+// values over both backgrounds; the bits around the field must not change. Buffers are heap blocks,
+// some at odd addresses, and blocks that end or start at a protected page, where an access beyond them
+// ends the program.
 
 #include <sys/mman.h>
 #include <unistd.h>
@@ -42,8 +43,9 @@ class GuardedPage {
 std::size_t bytesFor(GoldenField::Place place) { return (place.offset + place.width + 7) / 8; }
 
 void checkRoundTrip(const ClassProbe& probe, const FieldProbe& field, U32 chip,
-                    GoldenField::Place place, const Words& value, U8 background, U8* buffer) {
-  const std::size_t size = bytesFor(place);
+                    GoldenField::Place place, const Words& value, U8 background, U8* buffer,
+                    std::size_t room = 0) {
+  const std::size_t size = bytesFor(place) + room;
   std::fill_n(buffer, size, background);
   const auto view = probe.make(chip, buffer, static_cast<U16>(size), 0);
   field.set(*view, value);
@@ -64,7 +66,7 @@ void checkRoundTrip(const ClassProbe& probe, const FieldProbe& field, U32 chip,
 
 class RoundTrip : public testing::TestWithParam<std::size_t> {};
 
-TEST_P(RoundTrip, exactBuffers) {
+TEST_P(RoundTrip, exactAndRoomyBuffers) {
   const ClassProbe& probe = classProbes()[GetParam()];
   const GuardedPage page;
   std::mt19937 random(7);
@@ -85,6 +87,7 @@ TEST_P(RoundTrip, exactBuffers) {
           for (U8* buffer : {heap.get(), oddHeap.get() + 1, page.atStart(), page.atEnd(bytes)}) {
             checkRoundTrip(probe, field, chip, place, value, background, buffer);
           }
+          checkRoundTrip(probe, field, chip, place, value, background, page.atStart(), 8);
         }
       }
       // A bitmap has a copy of its own, which only shifts and masks: each bit alone shows where it goes.
