@@ -500,9 +500,8 @@ class PortCell {
   show(bytes) {
     const field = this.field;
     this.value = bytes ? readBits(bytes, field.offset, field.width) : null;
-    this.element.replaceChildren(`${this.port}`, ...(bytes ? [h("b", {}, `${this.value}`)] : []));
+    this.element.replaceChildren(`${this.port} `, ...(bytes ? [h("b", {}, `${this.value}`)] : []));
     this.element.title = `${field.accessor}, bits ${field.bits}${bytes ? `: ${this.value}` : ""}`;
-    this.element.setAttribute("aria-label", this.element.title);
     if (bytes)
       this.element.dataset.value = hexText(this.value);
     else
