@@ -30,11 +30,15 @@ velmar_code failUnknownChip(std::string_view name) {
               quoted(name).text(), suggestions.text().text());
 }
 
-/// Whether the name is that of a family, of which `accessor` is a field.
-bool namesFamily(std::string_view name, std::string_view accessor) {
-  const std::string_view digits = accessor.substr(std::min(name.size(), accessor.size()));
-  return accessor.substr(0, name.size()) == name && !digits.empty() &&
-         digits.find_first_not_of("0123456789") == std::string_view::npos;
+/// The name of field `index`, taken apart, if it is one of many that are called `name`.
+std::optional<NumberedName> memberOf(std::string_view name, const Catalogue::Table& table,
+                                     U32 index) {
+  const Catalogue::Field field = table.field(index);
+  const std::optional<NumberedName> numbered = numberedName(field.accessor);
+  const bool isFamily =
+      numbered && index + 1 < table.fieldCount() && areOfOneFamily(field, table.field(index + 1));
+  if (!isFamily || SimpleName(name).text() != SimpleName(numbered->prefix).text()) return {};
+  return numbered;
 }
 
 velmar_code failUnknownField(const Catalogue::Table& table, const Catalogue::Chip& chip,
@@ -44,13 +48,11 @@ velmar_code failUnknownField(const Catalogue::Table& table, const Catalogue::Chi
     if (table.range(i, chip.number).width == 0) continue;
     const char* accessor = table.field(i).accessor;
     suggestions.consider(accessor);
-    if (!namesFamily(name, accessor)) continue;
-    const int letters = static_cast<int>(name.size());
-    const U64 number = parseNumber(accessor + name.size()).value_or(0);
-    return fail(VELMAR_AMBIGUOUS,
-                "%.*s are many fields; give numbers, such as %s, %s-%llu or %.*s*", letters,
-                name.data(), accessor, accessor, static_cast<unsigned long long>(number + 3),
-                letters, name.data());
+    const std::optional<NumberedName> member = memberOf(name, table, i);
+    if (!member) continue;
+    const int letters = static_cast<int>(member->prefix.size());
+    return fail(VELMAR_AMBIGUOUS, "%.*s are many fields; give numbers, such as %s, %s-%u or %.*s*",
+                letters, accessor, accessor, accessor, member->number + 3, letters, accessor);
   }
   return fail(VELMAR_UNKNOWN,
               "%s has no field %s; %s\"velmar layout %s --chip %s\" lists the fields", table.name(),

@@ -50,6 +50,9 @@ def class_of(view):
     table = int(view.address.cast(pointer).dereference())
     symbol = gdb.execute(f"info symbol {table:#x}", to_string=True)
     name = re.match(r"vtable for Velmar::(\w+) ", symbol)
+    if not name and symbol.startswith("vtable for "):
+        # A class of the program's own: its type says which view it is made of.
+        name = re.fullmatch(r"Velmar::(\w+)", view.type.strip_typedefs().unqualified().name or "")
     if not name:
         raise velmar.Error(f"the object at {int(view.address):#x} is not a view; it may not be "
                            "constructed yet, or be overwritten")
@@ -121,11 +124,16 @@ class DecodeBytes(gdb.Command):
             raise gdb.GdbError("give velmar-decode ADDRESS TABLE CHIP [VARIANT]")
         try:
             value = gdb.parse_and_eval(arguments[0])
+            if value.type.code in (gdb.TYPE_CODE_REF, gdb.TYPE_CODE_RVALUE_REF):
+                value = value.referenced_value()
             is_array = value.type.strip_typedefs().code == gdb.TYPE_CODE_ARRAY
             address = int(value.address if is_array else value)
             layout = velmar.layout(*arguments[1:3], *map(int, arguments[3:]))
+            if is_array and value.type.sizeof < layout.entry_bytes:
+                raise velmar.Error(f"{arguments[0]} has {value.type.sizeof} bytes, but an entry has "
+                                   f"{layout.entry_bytes}; give the address of a whole entry")
             fields = list(read(layout, address))
-        except (ValueError, gdb.error) as error:
+        except (ValueError, OverflowError, gdb.error) as error:
             raise gdb.GdbError(str(error))
         print(layout.table, layout.chip)
         for name, text in fields:

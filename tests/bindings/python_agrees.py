@@ -4,6 +4,7 @@ entries agrees with the command. What cannot be right is refused.
 
 usage: python_agrees.py SOURCE_DIR BUILD_DIR"""
 
+import array
 import json
 import os
 import pickle
@@ -114,6 +115,7 @@ listed = json.loads(run("tables", "-c", "33", "-f", "json")[1])["tables"]
 check([(table.name, table.kind, table.purpose) for table in velmar.tables(33)] ==
       [(row["table"], row["kind"], row["purpose"]) for row in listed], "tables of a chip")
 check(velmar.Chip(vlan.chip, 33) in velmar.chips(), "chips")
+check(velmar.layout("VLAN_ENTRY", "56990") == vlan, "a layout by another name")
 rows = velmar.compare("56275_A0", "56175_A0", "vlan")
 check([row["part"] for row in rows] == ["vfi", "l3Iif"], f"compare: {rows}")
 
@@ -138,7 +140,12 @@ for call, message in (
         (lambda: vlan.decode(data + data), "give at most 8192"),
         (lambda: vlan.diff(data[:5], data), "give whole entries"),
         (lambda: vlan.diff(dump, data), "VlanMplsEntry on BCM56990_B0, not of VlanEntry"),
-        (lambda: mpls.diff(velmar.Dump(mpls, [5, 5], dump.data), dump), "one index for each"),
+        (lambda: mpls.diff(velmar.Dump(mpls, [5, 5, 6], dump.data), dump), "one index for each"),
+        (lambda: mpls.decode(velmar.Dump(mpls, [-5, 7], dump.data)), "the index -5"),
+        (lambda: mpls.decode(array.array("d", [1.5])), "items of 8 bytes"),
+        (lambda: velmar.compare(33, 30, "--help"), 'unknown table "--help"'),
+        (lambda: velmar.layout("VlanStgB", 33).field("SP_TREE_PORT"), "are many fields"),
+        (lambda: velmar.layout("VlanStgB", 33).field("spTreePort1"), "has no field"),
         (lambda: vlan.encode({"stg": 64}), 'stg: value "64" does not fit; the field has 6 bits'),
         (lambda: vlan.encode({"stg": 1 << 64}), "stg: value 0x10000000000000000 does not fit"),
         (lambda: vlan.encode({"stg": -1}), "-1 is negative"),
@@ -164,9 +171,11 @@ for call, message in (
         check(re.search(message, str(error)), f"{error}, expected {message}")
 check(velmar.find(0xffffffff, 33) == [], "an address without an entry")
 
-os.environ["VELMAR_COMMAND"] = "/nonexistent/velmar"
-try:
-    check(False, f"no command: {velmar.compare(33, 6)}")
-except velmar.Error as error:
-    check("VELMAR_COMMAND" in str(error), f"no command: {error}")
+for command in "/nonexistent/velmar", "/bin/true":
+    os.environ["VELMAR_COMMAND"] = command
+    for call in lambda: velmar.compare(33, 6), lambda: velmar.load("samples/vlan-bcm56990.bin", "vlan", 33):
+        try:
+            check(False, f"{command}: {call()}")
+        except velmar.Error as error:
+            check("VELMAR_COMMAND" in str(error), f"{command}: {error}")
 finish()

@@ -11,7 +11,7 @@ from typing import (TYPE_CHECKING, Any, Dict, Iterable, List, Mapping, Optional,
                     Union, cast)
 
 from . import _library
-from ._library import Error, call, find, info, text, u32
+from ._library import Error, call, chip_name, find, info, shown, table_name, text, u32
 
 if TYPE_CHECKING:
     import numpy
@@ -96,8 +96,8 @@ class Layout:
 
     An entry is `entry_bytes` bytes as they were read from the chip: bit n of the entry is bit n % 8 of
     byte n // 8. Data are such entries without gaps, in bytes, bytearray, memoryview or a numpy array, or
-    a Dump; text is for load(). They must be whole entries, at most as many as the table has, otherwise
-    Error is raised.
+    a Dump; text is for load(). Items of an array are bytes, or little-endian words of 32 bits. They must
+    be whole entries, at most as many as the table has, otherwise Error is raised.
     """
 
     def __init__(self, table: str, chip: Union[str, int], variant: int = 0):
@@ -173,6 +173,8 @@ class Layout:
         chosen = self.fields if fields is None else [self.field(name) for name in fields]
         import numpy
         _, raw = self._entries(data)
+        if not chosen:
+            self._numbers(self.fields[0], raw)  # refuses what is not whole entries
         # One piece of memory: the system gives many small ones anew each time, which takes longer than
         # to read the fields.
         count = sum(_is_number(field) for field in chosen)
@@ -190,6 +192,8 @@ class Layout:
         Error: unknown field, value or port that the field does not have, fields that share bits and
         disagree, bits of "outsideFields" inside fields, base that is not one entry.
         """
+        if not isinstance(values, Mapping):
+            raise TypeError(f"{values!r} is not a dict; give field names with their values")
         raw = bytes(self.entry_bytes) if base is None else self._entries(base)[1]
         if len(raw) != self.entry_bytes:
             raise Error(f"the base has {len(raw)} bytes; give one entry of {self.entry_bytes} bytes")
@@ -266,19 +270,23 @@ class Layout:
                 raise Error(f"the dump is of {data.layout.table} on {data.layout.chip}, not of "
                             f"{self.table} on {self.chip}; use its own layout")
             indexes, data = data.indexes, data.data
-        if isinstance(data, str):
-            raise TypeError(f"{data!r} is text; give bytes, or what velmar.load() reads from a file")
-        raw = data if isinstance(data, bytes) else memoryview(cast(bytes, data)).tobytes()
-        return range(len(raw) // self.entry_bytes) if indexes is None else indexes, raw
+        raw = _raw(data)
+        count = len(raw) // self.entry_bytes
+        if indexes is None:
+            return range(count), raw
+        if len(indexes) != count or len(set(indexes)) != count:
+            raise Error("the dump has not one index for each entry; give each entry once")
+        limit = self.entries * self.elements
+        wrong = [index for index in indexes if not (isinstance(index, int) and 0 <= index < limit)]
+        if wrong:
+            raise Error(f"the dump has the index {wrong[0]!r}; give indexes from 0 to {limit - 1}")
+        return indexes, raw
 
     def _by_entry(self, data: Data) -> Dict[int, bytes]:
         indexes, raw = self._entries(data)
         self._numbers(self.fields[0], raw)  # refuses what is not whole entries
         size = self.entry_bytes
-        entries = {index: raw[size * i:size * (i + 1)] for i, index in enumerate(indexes)}
-        if len(entries) != len(raw) // size:
-            raise Error("the dump has not one index for each entry; give each entry once")
-        return entries
+        return {index: raw[size * i:size * (i + 1)] for i, index in enumerate(indexes)}
 
     def _numbers(self, field: Field, raw: bytes) -> List[int]:
         """A column of numbers of any width."""
@@ -357,13 +365,13 @@ def layout(table: str, chip: Union[str, int], variant: int = 0) -> Layout:
     Names may be in any case, without underscores and without "Entry"; a chip also by its number.
     Error: unknown name, the chip does not have the table, or the table does not have the variant.
     """
-    return _layout(table, chip, variant)
+    return _layout(table_name(table), chip_name(chip), u32(variant, "variant"))
 
 
 def ranges(ports: Iterable[int]) -> str:
     """Ports as text, such as "0-3,17"; "none" if there are none."""
     parts: List[List[int]] = []
-    for port in sorted(ports):
+    for port in sorted(set(ports)):
         if parts and parts[-1][1] == port - 1:
             parts[-1][1] = port
         else:
@@ -372,8 +380,24 @@ def ranges(ports: Iterable[int]) -> str:
 
 
 @functools.lru_cache(maxsize=None)
-def _layout(table: str, chip: Union[str, int], variant: int) -> Layout:
+def _layout(table: str, chip: str, variant: int) -> Layout:
     return Layout(table, chip, variant)
+
+
+def _raw(data: Data) -> bytes:
+    """The bytes of entries. Items of other sizes are not bytes of an entry in order."""
+    if isinstance(data, bytes):
+        return data
+    if isinstance(data, str):
+        raise TypeError(f"{data!r} is text; give bytes, or what velmar.load() reads from a file")
+    try:
+        items = memoryview(cast(bytes, data))
+    except TypeError:
+        raise TypeError(f"{data!r} is not data; give bytes, or a numpy array of uint8") from None
+    if items.format not in ("B", "b", "c", "I", "<I"):
+        raise Error(f"the data have items of {items.itemsize} bytes and format {items.format!r}; give "
+                    "bytes (numpy: uint8), or little-endian words of 32 bits (numpy: <u4)")
+    return items.tobytes()
 
 
 def _is_number(field: Field) -> bool:
@@ -394,7 +418,7 @@ def _index(name: str, value: Any) -> int:
     except TypeError:
         raise Error(f"{name}: {value!r} is not a number; give an int") from None
     if number < 0:
-        raise Error(f"{name}: {number} is negative; give an int from 0 on")
+        raise Error(f"{name}: {shown(number)} is negative; give an int from 0 on")
     return number
 
 
@@ -402,16 +426,17 @@ def _number(field: Field, value: Any) -> int:
     """A value as a number; for a bitmap the bit of each port."""
     if field.type != "bitmap":
         return _index(field.name, value)
-    if isinstance(value, (str, bytes, Mapping)) or not isinstance(value, Iterable):
+    is_list = isinstance(value, Iterable) and getattr(value, "ndim", 1) == 1
+    if isinstance(value, (str, bytes, bytearray, memoryview, Mapping)) or not is_list:
         raise Error(f"{field.name}: {value!r} is not ports; give a list of them, such as [0, 17]")
     number = 0
     for port in value:
         # A row of a column has a bool for each port: that is another form.
-        if isinstance(port, bool) or type(port).__name__ == "bool_":
+        if type(port).__name__ in ("bool", "bool_"):
             raise Error(f"{field.name}: {port} is not a port; give the numbers of the ports")
         port = _index(field.name, port)
         if port >= field.bits:
-            raise Error(f"{field.name}: there is no port {port}; the field has ports 0 to "
+            raise Error(f"{field.name}: there is no port {shown(port)}; the field has ports 0 to "
                         f"{field.bits - 1}")
         number |= 1 << port
     return number

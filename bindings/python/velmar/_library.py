@@ -7,7 +7,7 @@ import operator
 import os
 import pathlib
 from ctypes import POINTER, c_char_p, c_int, c_size_t, c_uint32, c_uint64, c_void_p
-from typing import Any
+from typing import Any, Union
 
 # velmar_code
 NOT_ON_CHIP = 6
@@ -65,6 +65,7 @@ FUNCTIONS = {
     "velmar_chip_info": (c_int, [c_uint32, POINTER(velmar_chip), _size]),
     "velmar_table_info": (c_int, [c_uint32, POINTER(velmar_table), _size]),
     "velmar_find_field": (c_int, [_layout, c_char_p, POINTER(c_uint32)]),
+    "velmar_find_table": (c_int, [c_char_p, POINTER(c_uint32)]),
     "velmar_find_chip": (c_int, [c_char_p, POINTER(c_uint32)]),
     "velmar_layout_of": (c_int, [c_uint32, c_uint32, c_uint32, POINTER(_layout)]),
     "velmar_find_layout": (c_int, [c_char_p, c_char_p, c_uint32, POINTER(_layout)]),
@@ -130,15 +131,32 @@ def text(name: str) -> bytes:
         raise TypeError(f"{name!r} is not a name; give a str")
     if "\0" in name:
         raise Error(f"{name!r} has a zero character; remove it")
-    return name.encode()
+    return name.encode(errors="backslashreplace")
 
 
 def u32(number: int, what: str) -> int:
     """A number as C takes it: ctypes would cut off what is too much, without a word."""
     number = operator.index(number)
     if not 0 <= number < 1 << 32:
-        raise Error(f"{what} {number} is not a number of 32 bits; give 0 to {(1 << 32) - 1}")
-    return number
+        raise Error(f"{what} {shown(number)} is not a number of 32 bits; give 0 to {(1 << 32) - 1}")
+    return int(number)
+
+
+def shown(number: int) -> str:
+    """A number for a message; Python refuses to write thousands of decimal digits."""
+    return str(number) if abs(number) < 1 << 64 else f"of {number.bit_length()} bits"
+
+
+def chip_name(chip: Union[str, int]) -> str:
+    """The name of a chip that is given in any form. Error: unknown chip."""
+    index = find("velmar_find_chip", text(str(chip)))
+    return str(info("velmar_chip_info", velmar_chip, index).name.decode())
+
+
+def table_name(table: str) -> str:
+    """The name of a table that is given in any form. Error: unknown table."""
+    index = find("velmar_find_table", text(table))
+    return str(info("velmar_table_info", velmar_table, index).name.decode())
 
 
 def find(function: str, *arguments: Any) -> int:
