@@ -230,6 +230,14 @@ def hostile(shown, folder):
         check(shown.run("return document.images.length + document.querySelectorAll('tr[data-index]').length") == 0,
               f"{name}: something is shown")
     check(shown.run("return document.title") != "run", "a name ran a script")
+    for encoding in ("utf-16", "utf-16-le", "utf-16-be"):
+        path = os.path.join(folder, encoding)
+        with open(path, "w", encoding=encoding) as file:
+            file.write("00 01 02 03 " * 4)
+        shown.open("#dumps/VlanEntry/BCM56990_B0")
+        shown.choose_file(path)
+        check(shown.wait("return document.querySelector('.drop')?.textContent.includes('Choose above')"),
+              f"{encoding} is not asked for: {shown.text()[:300]}")
 
 
 def keyboard(shown):

@@ -47,7 +47,8 @@ function isText(file) {
 
 /** Text with a mark, in 16-bit letters, with colours or padding. */
 function mayBeText(file) {
-  const start = file.subarray(0, 65536);
+  // The first two bytes may be the mark of 16-bit letters.
+  const start = file.subarray(2, 65536);
   const printable = start.filter(isPrintable).length;
   const isWide = start.length > 3 &&
       [0, 1].some((odd) => start.every((byte, i) => (i % 2 === odd) === (byte === 0)));
