@@ -1,6 +1,6 @@
 // The tables, and the results of the search.
 
-import {addressText, chipsText} from "./catalogue.js";
+import {addressText, chipsText, quoted} from "./catalogue.js";
 import {grid, h} from "./elements.js";
 import {addressIn, chipsIn, findAddress, search} from "./search.js";
 import {formatState} from "./state.js";
@@ -42,20 +42,23 @@ export function resultsOf(page, query) {
   const address = addressIn(query);
   if (address !== null) return addressResults(page, address, chipsIn(page.catalogue, query));
   const {items, chips} = search(page.catalogue, page.items, query);
-  if (items.length === 0) {
-    return [
-      h("p", {},
-        `Nothing is called "${
-            query.trim()}". Try a table (VlanEntry), a field (stg), a hardware name ` +
-            "(BC_IDX), an identifier (616), a word of a meaning (spanning), or an address (0x0c7c0064).")
-    ];
-  }
+  if (items.length === 0) return [h("p", {}, notFoundText(page.catalogue, query))];
   const rest = items.length - mostResults;
   return [
     h("p", {role: "status"},
       `${items.length} found${rest > 0 ? `; the first ${mostResults} are shown` : ""}`),
     ...items.slice(0, mostResults).map((item) => resultOf(page, item, chips)),
   ];
+}
+
+/** What can be looked for, with examples of the first table. */
+function notFoundText(catalogue, query) {
+  const [table] = catalogue.tables;
+  const [field] = table.fields;
+  const {base} = catalogue.layout(table.name, table.chips[0]);
+  return `Nothing is called ${quoted(query.trim())}. Try a table (${table.name}), a field (${
+      field.accessor}), a hardware name (${field.hardwareName}), an identifier (${
+      field.id}), words of a meaning (${field.meaning}), or an address (${addressText(base)}).`;
 }
 
 /** Opens on a chip that the query names, on the chosen one, or on the first that has it. */
