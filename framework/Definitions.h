@@ -16,6 +16,10 @@
 /// The call site of the enclosing member.
 #define VELMAR_SITE (::Velmar::Framework::Site{__PRETTY_FUNCTION__, __LINE__})
 
+/// Where the code of a member begins that is called for each entry: how it lies in the lines of the
+/// instruction cache decides a tenth of its time.
+#define VELMAR_ALIGNED(bytes) [[gnu::aligned(bytes)]]
+
 /// A field as an index into the class's rows of names.
 #define VELMAR_FIELD_INDEX(accessor, Accessor, HARDWARE_NAME, TYPE, meaning) HARDWARE_NAME,
 
@@ -52,6 +56,7 @@
   }
 
 #define VELMAR_DEFINE_CONSTRUCTION(CLASS, KIND)                                      \
+  VELMAR_ALIGNED(32)                                                                 \
   CLASS::CLASS(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant)          \
       : BcmAsicBase(static_cast<U8>(chipType), buf, len, flag, variant, 0) {         \
     Framework::construct<ViewData>(chipType, variant, VELMAR_SITE);                  \
@@ -65,10 +70,10 @@
 
 /// The five members of a field.
 #define VELMAR_DEFINE_FIELD(accessor, Accessor, HARDWARE_NAME, TYPE, meaning)                    \
-  VELMAR_VALUE_##TYPE View::accessor() const {                                                   \
+  VELMAR_ALIGNED(ViewFields::alignment) VELMAR_VALUE_##TYPE View::accessor() const {             \
     return ViewFields::get<VELMAR_VALUE_##TYPE>(*this, Index::HARDWARE_NAME);                    \
   }                                                                                              \
-  void View::accessor##Is(VELMAR_PARAMETER_##TYPE value) {                                       \
+  VELMAR_ALIGNED(ViewFields::alignment) void View::accessor##Is(VELMAR_PARAMETER_##TYPE value) { \
     ViewFields::set<VELMAR_VALUE_##TYPE>(*this, value, Index::HARDWARE_NAME);                    \
   }                                                                                              \
   U16 View::accessor##Len() const { return ViewFields::length(*this, Index::HARDWARE_NAME); }    \
@@ -80,13 +85,13 @@
 /// Fields chosen by identifier, and the whole entry.
 #define VELMAR_DEFINE_GENERIC_ACCESS(CLASS, RAW)                                             \
   U16 CLASS::fieldOffset(U32 fieldId) const {                                                \
-    return Framework::offsetOfId(*this, fieldId, classData_##CLASS, VELMAR_SITE);            \
+    return Framework::offsetOfId<ViewData>(*this, fieldId, VELMAR_SITE);                     \
   }                                                                                          \
   U16 CLASS::fieldWidth(U32 fieldId) const {                                                 \
-    return Framework::widthOfId(*this, fieldId, classData_##CLASS, VELMAR_SITE);             \
+    return Framework::widthOfId<ViewData>(*this, fieldId, VELMAR_SITE);                      \
   }                                                                                          \
   bool CLASS::isFieldValid(U32 fieldId) const {                                              \
-    return Framework::isIdValid(*this, fieldId, classData_##CLASS, VELMAR_SITE);             \
+    return Framework::isIdValid<ViewData>(*this, fieldId, VELMAR_SITE);                      \
   }                                                                                          \
   void CLASS::setField64(U32 fieldId, U64 value) {                                           \
     Framework::setById(*this, fieldId, value, classData_##CLASS, VELMAR_SITE);               \
@@ -115,6 +120,7 @@
   bool CLASS::hasIdentifier(U32 identifier) const {                                               \
     return hasIdentifier(chipType_, variant_, identifier);                                        \
   }                                                                                               \
+  VELMAR_ALIGNED(32)                                                                              \
   bool CLASS::getSchanAddress(U32 chipType, U8 variant, U32& address, U32& accessType,            \
                               U32& block, U16 identifier, U32 tableEntry, U16 arrayIndex) {       \
     return Framework::getAddress<ViewData>(                                                       \

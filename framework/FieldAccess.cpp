@@ -1,6 +1,7 @@
 #include "framework/FieldAccess.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 
 namespace Velmar {
@@ -26,23 +27,48 @@ const FieldSlot& checkPresent(const EntryView& view, U32 field, const ClassData&
   if (value > largestValue(slot)) failHexadecimal("value <= ", largestValue(slot), site);
 }
 
-/// Whether the view has the field and its buffer holds it.
+/// Whether the view has the field and its buffer holds it, in one comparison: the width of an absent
+/// field, less one, is larger than any buffer.
 bool isHeld(const EntryView& view, const FieldSlot& slot) {
-  return slot.width != 0 && ViewAccess::len(view) >= bytesUpTo(slot);
+  return slot.width - 1U < 8 * std::int64_t{ViewAccess::len(view)} - slot.offset;
 }
 
 // The work itself, after the checks.
 
+/// The bytes that a field has bits in: what the slow path reads and writes, whatever the buffer.
+struct FieldBytes {
+  U8* first;
+  int count;
+  int offset;  ///< the field's first bit, from the first byte
+  int width;
+};
+
+/// The row checks hold a field's width to its value type; stated here for the optimiser.
 template <class T>
-void read(const EntryView& view, const FieldSlot& slot, T& value) {
-  Detail::copyBits(bytesOf(value), sizeof(value), ViewAccess::buf(view), ViewAccess::len(view),
-                   slot.width, 0, slot.offset);
+[[gnu::always_inline]] inline FieldBytes bytesOfField(const EntryView& view,
+                                                      const FieldSlot& slot) {
+  constexpr int bytes = sizeof(T);
+  const U32 first = slot.offset / 8;
+  const int count = static_cast<int>(bytesUpTo(slot) - first);
+  const int width = slot.width;
+  if (width < 1 || width > 8 * bytes || count < 1 || count > bytes + 1) __builtin_unreachable();
+  return {ViewAccess::buf(view) + first, count, slot.offset % 8, width};
 }
 
 template <class T>
-void write(const EntryView& view, const FieldSlot& slot, const T& value) {
-  Detail::copyBits(ViewAccess::buf(view), ViewAccess::len(view), bytesOf(value), sizeof(value),
-                   slot.width, slot.offset, 0);
+[[gnu::always_inline]] inline T valueOf(const EntryView& view, const FieldSlot& slot) {
+  T value{};
+  const FieldBytes field = bytesOfField<T>(view, slot);
+  Detail::copyBits(bytesOf(value), sizeof(value), field.first, field.count, field.width, 0,
+                   field.offset);
+  return value;
+}
+
+template <class T>
+[[gnu::always_inline]] inline void write(const EntryView& view, const FieldSlot& slot, T value) {
+  const FieldBytes field = bytesOfField<T>(view, slot);
+  Detail::copyBits(field.first, field.count, bytesOf(value), sizeof(value), field.width,
+                   field.offset, 0);
 }
 
 U32 wordsOf(const FieldSlot& slot) { return (slot.width + 31U) / 32; }
@@ -59,7 +85,10 @@ U32 wordsOf(const FieldSlot& slot) { return (slot.width + 31U) / 32; }
   return static_cast<U32>(word);
 }
 
-void read(const EntryView& view, const FieldSlot& slot, Oru::PerUnitBitmap& bitmap) {
+template <>
+[[gnu::always_inline]] inline Oru::PerUnitBitmap valueOf(const EntryView& view,
+                                                         const FieldSlot& slot) {
+  Oru::PerUnitBitmap bitmap;
   const U8* const first = ViewAccess::buf(view) + slot.offset / 8;
   const U32 held = ViewAccess::len(view) - slot.offset / 8U;  // bytes from there to the end
   const U32 shift = slot.offset % 8;
@@ -77,53 +106,59 @@ void read(const EntryView& view, const FieldSlot& slot, Oru::PerUnitBitmap& bitm
   bitmap.bitListIs(i, wordAt(i) & ~0U >> (32 * (i + 1) - slot.width));
   if (i > 0) bitmap.bitListIs(i - 1, wordAt(i - 1));
   for (i = i > 0 ? i - 1 : 0; i-- > 0;) bitmap.bitListIs(i, windowAt(i));
+  return bitmap;
 }
 
-/// Puts the lowest `bits` bits of the words at an offset of the buffer, 64 bits at a time.
-void putWords(U8* buf, U32 offset, U32 bits, const Oru::PerUnitBitmap& bitmap) {
-  const U32 below = offset % 8;  // bits of the first byte to keep
+/// Puts the lowest `bits` bits of the words at an offset of the buffer, 32 at a time.
+[[gnu::always_inline]] inline void putWords(U8* buf, U32 offset, U32 bits,
+                                            const Oru::PerUnitBitmap& bitmap) {
   U8* into = buf + offset / 8;
-  U64 carry = *into & ((1U << below) - 1);
+  U32 held = offset % 8;  // bits that wait to be written: first those of the first byte to keep
+  U64 waiting = *into & lowBits(held);
   U32 word = 0;
-  for (; bits >= 64; bits -= 64, word += 2, into += 8) {
-    const U64 value = wordOf(bitmap, word) | U64{wordOf(bitmap, word + 1)} << 32;
-    const U64 shifted = value << below | carry;
-    std::memcpy(into, &shifted, sizeof(shifted));
-    carry = value >> 1 >> (63 - below);
+  for (; bits >= 32; bits -= 32, into += sizeof(U32)) {
+    waiting |= U64{wordOf(bitmap, word++)} << held;
+    const U32 next = static_cast<U32>(waiting);
+    std::memcpy(into, &next, sizeof(next));
+    waiting >>= 32;
   }
-  // The last words and the carry go byte by byte: up to 32 bits with what is left of those before.
-  for (U32 held = below; bits != 0 || held != 0;) {
-    if (bits != 0) {
-      const U32 count = std::min<U32>(bits, 32);
-      carry |= (wordOf(bitmap, word++) & (~U64{0} >> (64 - count))) << held;
-      held += count;
-      bits -= count;
-    }
-    for (; held >= 8; held -= 8, carry >>= 8) *into++ = static_cast<U8>(carry);
-    if (bits != 0 || held == 0) continue;
-    *into = static_cast<U8>((*into & 0xffU << held) | carry);
-    return;
-  }
+  if (bits != 0) waiting |= (wordOf(bitmap, word) & lowBits(bits)) << held;
+  for (held += bits; held >= 8; held -= 8, waiting >>= 8) *into++ = static_cast<U8>(waiting);
+  if (held != 0) *into = static_cast<U8>((*into & ~lowBits(held)) | waiting);
 }
 
 /// Writes the words that the bitmap has, then throws if the field needs more.
-void write(const EntryView& view, const FieldSlot& slot, const Oru::PerUnitBitmap& bitmap) {
+[[gnu::always_inline]] inline void write(const EntryView& view, const FieldSlot& slot,
+                                         const Oru::PerUnitBitmap& bitmap) {
   const U32 given = std::min(wordsOf(slot), wordCountOf(bitmap));
   const U32 bits = std::min<U32>(slot.width, 32 * given);
   if (bits != 0) putWords(ViewAccess::buf(view), slot.offset, bits, bitmap);
   if (given < wordsOf(slot)) Morvo::Impl::throwVectorOutOfRangeException(given, given);
 }
 
+/// checkedGet with the trace on, or with a failing check. Apart, so that the other path needs no
+/// stack.
+template <class T>
+[[gnu::cold, gnu::noinline]] T tracedGet(const EntryView& view, const FieldSlot& slot,
+                                         const ClassData& data) {
+  traceAndCheck(view, data.fieldOf(slot), data, Member::getter);
+  return valueOf<T>(view, slot);
+}
+
+/// The same for setters.
+template <class T>
+[[gnu::cold, gnu::noinline]] void tracedSet(const EntryView& view, T value, U64 checkedValue,
+                                            const FieldSlot& slot, const ClassData& data) {
+  traceAndCheck(view, data.fieldOf(slot), data, Member::setter, checkedValue);
+  write(view, slot, value);
+}
+
 }  // namespace
 
 template <class T>
 T checkedGet(const EntryView& view, const FieldSlot& slot, const ClassData& data) {
-  if (takesSlowPath(!isHeld(view, slot))) {
-    traceAndCheck(view, data.fieldOf(slot), data, Member::getter);
-  }
-  T value{};
-  read(view, slot, value);
-  return value;
+  if (takesSlowPath(!isHeld(view, slot))) return tracedGet<T>(view, slot, data);
+  return valueOf<T>(view, slot);
 }
 
 template U8 checkedGet<U8>(const EntryView&, const FieldSlot&, const ClassData&);
@@ -136,9 +171,9 @@ template Oru::PerUnitBitmap checkedGet<Oru::PerUnitBitmap>(const EntryView&, con
 
 template <class T>
 void checkedSet(const EntryView& view, T value, const FieldSlot& slot, const ClassData& data) {
-  if (takesSlowPath(!isHeld(view, slot) || value > largestValue(slot))) {
-    traceAndCheck(view, data.fieldOf(slot), data, Member::setter, value);
-  }
+  const bool isShort = !isHeld(view, slot);
+  const bool isTooLarge = value > largestValue(slot);
+  if (takesSlowPath(isShort || isTooLarge)) return tracedSet<T>(view, value, value, slot, data);
   write(view, slot, value);
 }
 
@@ -149,17 +184,14 @@ template void checkedSet<U64>(const EntryView&, U64, const FieldSlot&, const Cla
 
 void setBitmap(const EntryView& view, const Oru::PerUnitBitmap& value, const FieldSlot& slot,
                const ClassData& data) {
-  if (takesSlowPath(!isHeld(view, slot))) {
-    traceAndCheck(view, data.fieldOf(slot), data, Member::setter);
-  }
+  if (takesSlowPath(!isHeld(view, slot)))
+    return tracedSet<const Oru::PerUnitBitmap&>(view, value, 0, slot, data);
   write(view, slot, value);
 }
 
 void setRaw(const EntryView& view, const Raw128& value, const FieldSlot& slot,
             const ClassData& data) {
-  if (takesSlowPath(!isHeld(view, slot))) {
-    traceAndCheck(view, data.fieldOf(slot), data, Member::setter);
-  }
+  if (takesSlowPath(!isHeld(view, slot))) return tracedSet(view, value, 0, slot, data);
   write(view, slot, value);
 }
 

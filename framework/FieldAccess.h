@@ -33,7 +33,16 @@ void setRaw(const EntryView& view, const Raw128& value, const FieldSlot& slot,
 /// Class::data for everything else.
 template <class Class>
 class Fields {
+  static constexpr const ClassData& data = Class::data;
+
+  /// In a class of many fields the accessors share one routine for each operation, since port
+  /// families have hundreds of them; in the others each accessor has its own copy.
+  static constexpr bool sharesRoutines = Class::arrays.fields > 64;
+
  public:
+  /// Of the code of getters and setters; that of the shared routines is 64.
+  static constexpr int alignment = sharesRoutines ? 16 : 32;
+
   template <class T>
   [[gnu::always_inline]] static T get(const EntryView& view, U32 field) {
     if constexpr (!isScalar(valueTypeOf<T>)) {
@@ -83,51 +92,26 @@ class Fields {
   }
 
  private:
-  static constexpr const ClassData& data = Class::data;
-
-  /// In a class of many fields the accessors share one routine for each operation, since port
-  /// families have hundreds of them; in the others each accessor has its own copy.
-  static constexpr bool sharesRoutines = Class::arrays.fields > 64;
-
   static const FieldSlot& slotOf(const EntryView& view, U32 field) {
     const U32 row = rowIn(Class::arrays, ViewAccess::chipType(view), ViewAccess::variant(view));
     return slotIn(Class::arrays, field, row);
   }
 
-  // Facts of the fast path, stated for the optimiser.
-  /// The row checks guarantee that the width fits the value type.
-  template <class T>
-  static int checkedWidth(const FieldSlot& slot) {
-    const int width = slot.width;
-    if (width < 1 || width > static_cast<int>(8 * sizeof(T))) __builtin_unreachable();
-    return width;
-  }
-  /// The comparison with the slot guarantees that the buffer holds a whole window.
-  static int checkedLen(U16 len) {
-    if (len < fastCopyBytes) __builtin_unreachable();
-    return len;
-  }
-
   template <class T>
   [[gnu::always_inline]] static T inlineGet(const EntryView& view, U32 field) {
     const FieldSlot& slot = slotOf(view, field);
-    const U16 len = ViewAccess::len(view);
-    if (takesSlowPath(len <= slot.slowLen)) return checkedGet<T>(view, slot, data);
-    T value = 0;
-    Detail::copyBits(bytesOf(value), sizeof(value), ViewAccess::buf(view), checkedLen(len),
-                     checkedWidth<T>(slot), 0, slot.offset);
-    return value;
+    if (takesSlowPath(ViewAccess::len(view) <= slot.slowLen))
+      return checkedGet<T>(view, slot, data);
+    return static_cast<T>(readWindow(ViewAccess::buf(view), slot));
   }
 
   template <class T>
   [[gnu::always_inline]] static void inlineSet(const EntryView& view, T value, U32 field) {
     const FieldSlot& slot = slotOf(view, field);
-    const U16 len = ViewAccess::len(view);
-    if (takesSlowPath(len <= slot.slowLen || value > largestValue(slot))) {
-      return checkedSet<T>(view, value, slot, data);
-    }
-    Detail::copyBits(ViewAccess::buf(view), checkedLen(len), bytesOf(value), sizeof(value),
-                     checkedWidth<T>(slot), slot.offset, 0);
+    const bool isShort = ViewAccess::len(view) <= slot.slowLen;
+    const bool isTooWide = value > lowBits(slot.width);
+    if (takesSlowPath(isShort || isTooWide)) return checkedSet<T>(view, value, slot, data);
+    writeWindow(ViewAccess::buf(view), slot, value);
   }
 
   [[gnu::always_inline]] static U16 inlineOffset(const EntryView& view, U32 field) {
@@ -149,11 +133,12 @@ class Fields {
   }
 
   template <class T>
-  [[gnu::noinline]] static T sharedGet(const EntryView& view, U32 field) {
+  [[gnu::noinline, gnu::aligned(64)]] static T sharedGet(const EntryView& view, U32 field) {
     return inlineGet<T>(view, field);
   }
   template <class T>
-  [[gnu::noinline]] static void sharedSet(const EntryView& view, T value, U32 field) {
+  [[gnu::noinline, gnu::aligned(64)]] static void sharedSet(const EntryView& view, T value,
+                                                            U32 field) {
     inlineSet<T>(view, value, field);
   }
   [[gnu::noinline]] static U16 sharedOffset(const EntryView& view, U32 field) {

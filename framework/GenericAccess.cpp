@@ -12,46 +12,24 @@ const FieldSlot& slotOfId(const EntryView& view, U32 id, const ClassData& data) 
 /// The value converted to the setter's parameter: high bits beyond the type are dropped.
 U64 narrowed(U64 value, ValueType type) { return value & (~U64{0} >> (64 - bitsOf(type))); }
 
-// The slow paths of the operations below: trace, checks, result.
+}  // namespace
 
-[[gnu::cold, gnu::noinline]] U16 tracedOffset(const EntryView& view, U32 id, const ClassData& data,
-                                              Site site) {
+U16 checkedOffsetOfId(const EntryView& view, U32 id, const ClassData& data, Site site) {
   traceMember(view, site);
   if (!data.hasId(id)) fail("false", site);
   return checkedOffset(view, slotOfId(view, id, data), data);
 }
 
-[[gnu::cold, gnu::noinline]] bool tracedIsValid(const EntryView& view, U32 id,
-                                                const ClassData& data, Site site) {
+U16 checkedWidthOfId(const EntryView& view, U32 id, const ClassData& data, Site site) {
   traceMember(view, site);
-  return data.hasId(id) && checkedIsValid(view, slotOfId(view, id, data), data);
-}
-
-[[gnu::cold, gnu::noinline]] U16 checkedWidth(const EntryView& view, U32 id, const ClassData& data,
-                                              Site site) {
+  if (!view.isFieldValid(id)) return 0;
   if (!data.hasId(id)) fail("false", site);
   return checkedLength(view, slotOfId(view, id, data), data);
 }
 
-}  // namespace
-
-U16 offsetOfId(const EntryView& view, U32 id, const ClassData& data, Site site) {
-  const FieldSlot& slot = slotOfId(view, id, data);
-  if (takesSlowPath(slot.width == 0)) return tracedOffset(view, id, data, site);
-  return slot.offset;
-}
-
-U16 widthOfId(const EntryView& view, U32 id, const ClassData& data, Site site) {
-  if (mayTrace()) traceMember(view, site);
-  if (!view.isFieldValid(id)) return 0;
-  const FieldSlot& slot = slotOfId(view, id, data);
-  if (takesSlowPath(slot.width == 0)) return checkedWidth(view, id, data, site);
-  return slot.width;
-}
-
-bool isIdValid(const EntryView& view, U32 id, const ClassData& data, Site site) {
-  if (mayTrace()) return tracedIsValid(view, id, data, site);
-  return slotOfId(view, id, data).width != 0;
+bool checkedIsIdValid(const EntryView& view, U32 id, const ClassData& data, Site site) {
+  traceMember(view, site);
+  return data.hasId(id) && checkedIsValid(view, slotOfId(view, id, data), data);
 }
 
 void setById(const EntryView& view, U32 id, U64 value, const ClassData& data, Site site) {

@@ -28,10 +28,6 @@ inline bool traceIsOn(U32 level) { return traceHandle.isEnabled(level); }
 inline U32 wordCountOf(const Oru::PerUnitBitmap& bitmap) { return bitmap.wordCount(); }
 inline U32 wordOf(const Oru::PerUnitBitmap& bitmap, U32 index) { return bitmap.word(index); }
 
-/// Length in bytes from which the bit copy has one path for all buffers. A matter of speed only:
-/// accessors leave shorter buffers to the slow path.
-constexpr U32 fastCopyBytes = Detail::windowBytes;
-
 /// The bytes of a raw value or integer, lowest first.
 template <class T>
 U8* bytesOf(T& value) {

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "framework/Rows.h"
+#include "framework/FieldSlot.h"
 
 // What the engine reads, made from the rows of tables/ at compile time. A chip row of a table
 // becomes a "row" here; one more row, the last, stands for every chip and variant that the class
@@ -10,36 +10,6 @@
 
 namespace Velmar {
 namespace Framework {
-
-/// One field on one row. The last row, and a field that the row lacks, hold an absent slot.
-struct FieldSlot {
-  U16 offset = 0;  ///< first bit
-  U16 width = 0;   ///< bits; 0: absent
-  /// The fast path takes longer buffers than this: they hold the field and a whole window of the
-  /// bit copy. An absent slot needs more than any buffer has.
-  U16 slowLen = 0xffff;
-  U8 uncheckedBits = 0;  ///< values up to 2^(64 - this) - 1 are accepted
-};
-
-/// The buffer length in bytes that a present field needs.
-constexpr U32 bytesUpTo(const FieldSlot& slot) { return (U32{slot.offset} + slot.width + 7) / 8; }
-
-constexpr FieldSlot makeSlot(BitRange range) {
-  FieldSlot slot;
-  if (!isPresent(range)) return slot;
-  slot.offset = range.offset;
-  slot.width = range.width;
-  const U32 bytes = bytesUpTo(slot);
-  slot.slowLen = static_cast<U16>((bytes < fastCopyBytes ? fastCopyBytes : bytes) - 1);
-  // A width of whole bytes takes any value of the field's type, and the bits that do not fit are
-  // dropped: callers rely on it for the fields that are narrower on some chips.
-  if (range.width < 64 && range.width % 8 != 0)
-    slot.uncheckedBits = static_cast<U8>(64 - range.width);
-  return slot;
-}
-
-/// The largest value that a field's setter accepts.
-constexpr U64 largestValue(const FieldSlot& slot) { return ~U64{0} >> slot.uncheckedBits; }
 
 /// Geometry and address of one row. The names are those of the public members that return them.
 struct RowFacts : Geometry {
@@ -223,7 +193,7 @@ constexpr auto makeArrays(Kind kind, const FieldName (&names)[fields], const Cla
                                 names[field].meaning};
     for (U32 row = 0; row < rows; ++row) {
       const BitRange range = fieldRowOf(fieldRows, id).ranges[chipRows[row].column];
-      arrays.slots[field * (rows + 1) + row] = makeSlot(range);
+      arrays.slots[field * (rows + 1) + row] = makeSlot(range, 4U * chipRows[row].words);
       if (!isPresent(range)) continue;
       ++arrays.facts[row].fieldCount;
       for (U32 bit = range.offset; bit < endOf(range); ++bit) {

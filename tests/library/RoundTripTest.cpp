@@ -90,12 +90,13 @@ TEST_P(RoundTrip, exactAndRoomyBuffers) {
           checkRoundTrip(probe, field, chip, place, value, background, page.atStart(), 8);
         }
       }
-      // A bitmap has a copy of its own, which only shifts and masks: each bit alone shows where it goes.
-      for (U32 bit = 0; field.type == "bitmap" && bit < place.width; ++bit) {
+      // Windows and bitmaps only shift and mask: each bit alone shows where it goes.
+      for (U32 bit = 0; bit < place.width; ++bit) {
         Words one(ones.size(), 0);
         one[bit / 32] = 1U << bit % 32;
         for (const U8 background : {U8{0x00}, U8{0xff}}) {
           checkRoundTrip(probe, field, chip, place, one, background, heap.get());
+          checkRoundTrip(probe, field, chip, place, one, background, page.atStart(), 8);
         }
       }
       if (HasFatalFailure()) return;

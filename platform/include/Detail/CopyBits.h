@@ -17,7 +17,7 @@ constexpr U32 windowBytes = 8;
 constexpr U32 windowBits = 57;
 constexpr U32 alignedBits = 33;
 
-/// These few lines are the body of every accessor: always inline them.
+/// Always inlined, so that a caller that knows a width or a length gets only the lines it needs.
 #define DETAIL_INLINE [[gnu::always_inline]] inline
 
 // The copy touches data only through these two, and otherwise only shifts, masks and joins words:

@@ -43,7 +43,7 @@ class VELMAR_PLATFORM_EXPORT PerUnitBitmap {
   /// Sets word `index`; a shorter list grows to it with zero words. The largest index throws
   /// std::length_error: the count of words would overflow.
   void bitListIs(U32 index, U32 word) {
-    if (index >= wordCount_) growTo(index);
+    if (__builtin_expect(index >= wordCount_, false)) growTo(index);
     words()[index] = word;
   }
 
