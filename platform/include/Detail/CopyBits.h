@@ -94,14 +94,6 @@ DETAIL_INLINE void writeAligned(Memory dst, U32 len, U32 offset, U32 bits, Word 
   writeWindow(dst, len, offset / 32 * 4, offset, bits, value);
 }
 
-/// 64 bits from bit `shift` (0 to 7) of the first byte; reads no byte beyond their last.
-template <class Memory>
-DETAIL_INLINE auto read64(Memory src, U32 shift) {
-  // The ninth byte, or the eighth again if `shift` is 0, when it adds nothing.
-  const auto high = loadBytes<1>(src + (shift + 63) / 8);
-  return loadBytes<8>(src) >> shift | high << 1 << (63 - shift);
-}
-
 /// Copies more bits than one window takes. From 64 bits on, the only bytes of `dst` that it reads
 /// are those that the range shares with other bits, so that no read waits for a write.
 template <class Into, class From>
@@ -118,19 +110,22 @@ template <class Into, class From>
   const U32 last = (dstOffset + bits - 1) / 8;
   const U32 below = dstOffset % 8;                      // bits of the first byte to keep
   const U32 above = 8 * (last + 1) - dstOffset - bits;  // bits of the last byte to keep
-  const U32 end = srcOffset + bits - 64;                // the last 64 bits
-  const auto head = read64(src + srcOffset / 8, srcOffset % 8) << below;
-  const auto tail = read64(src + end / 8, end % 8) >> above;
+  const U32 end = srcOffset + bits - 1;                 // the last bit
   const auto firstByte = loadBytes<1>(dst + first) & ((1U << below) - 1);
   const auto lastByte = loadBytes<1>(dst + last) & ~(0xffU >> above);
+  // The last seven bytes. A read has at least 57 bits of the range.
+  const auto tail = loadBytes<8>(src + (end / 8 - 7)) << (7 - end % 8) >> above >> 8;
 
-  storeBytes<8>(dst + first, head | firstByte);
-  const U32 next = srcOffset + 64 - below;
+  // Of eight bytes that are written, the next write covers the last.
+  storeBytes<8>(dst + first,
+                loadBytes<8>(src + srcOffset / 8) >> srcOffset % 8 << below | firstByte);
+  const U32 next = srcOffset + 56 - below;
   From from = src + next / 8;
-  for (U32 into = first + 8; into < last - 7; into += 8, from = from + 8) {
-    storeBytes<8>(dst + into, read64(from, next % 8));
+  for (U32 into = first + 7; into < last - 6; into += 7, from = from + 7) {
+    storeBytes<8>(dst + into, loadBytes<8>(from) >> next % 8);
   }
-  storeBytes<8>(dst + (last - 7), tail | lastByte << 56);
+  storeBytes<4>(dst + (last - 6), tail);
+  storeBytes<4>(dst + (last - 3), tail >> 24 | lastByte << 24);
 }
 
 /// copyBits(), generic over the memory.
