@@ -7,6 +7,7 @@ namespace {
 
 using namespace Bench;
 using Velmar::VlanEntry;
+using Velmar::VlanMplsEntry;
 using Velmar::VlanStgEntry;
 
 constexpr U16 roomy = 64;
@@ -47,6 +48,10 @@ const bool added = [] {
   addAccessors("other variants", views<VlanEntry>(anyVariant, roomy, 4));
   addStgAccessors("port family", views<VlanStgEntry>(oneChip, roomy));
   addStgAccessors("port family, mixed chips", views<VlanStgEntry>(mixedChips, roomy));
+  const auto words = views<VlanMplsEntry>({BCM56990_B0}, 4);
+  add("getter/exactly 4 bytes", words, [](VlanMplsEntry& view, U32) { keep(view.l3Iif()); });
+  add("setter/exactly 4 bytes", words,
+      [](VlanMplsEntry& view, U32 i) { view.l3IifIs(static_cast<U16>(i)); });
   // Bits 10 to 22: the field ends in byte 2. Bits 365 to 376: byte 47.
   addAccessors("exactly 3 bytes", views<VlanEntry>(oneChip, 3));
   addAccessors("exactly 48 bytes", views<VlanEntry>({BCM56960_A0}, 48));

@@ -70,10 +70,12 @@
 
 /// The five members of a field.
 #define VELMAR_DEFINE_FIELD(accessor, Accessor, HARDWARE_NAME, TYPE, meaning)                    \
-  VELMAR_ALIGNED(ViewFields::alignment) VELMAR_VALUE_##TYPE View::accessor() const {             \
+  VELMAR_ALIGNED(ViewFields::getterAlignment)                                                    \
+  VELMAR_VALUE_##TYPE View::accessor() const {                                                   \
     return ViewFields::get<VELMAR_VALUE_##TYPE>(*this, Index::HARDWARE_NAME);                    \
   }                                                                                              \
-  VELMAR_ALIGNED(ViewFields::alignment) void View::accessor##Is(VELMAR_PARAMETER_##TYPE value) { \
+  VELMAR_ALIGNED(ViewFields::setterAlignment)                                                    \
+  void View::accessor##Is(VELMAR_PARAMETER_##TYPE value) {                                       \
     ViewFields::set<VELMAR_VALUE_##TYPE>(*this, value, Index::HARDWARE_NAME);                    \
   }                                                                                              \
   U16 View::accessor##Len() const { return ViewFields::length(*this, Index::HARDWARE_NAME); }    \

@@ -34,23 +34,25 @@ void setRaw(const EntryView& view, const Raw128& value, const FieldSlot& slot,
 template <class Class>
 class Fields {
   static constexpr const ClassData& data = Class::data;
+  using Window = typename std::decay_t<decltype(Class::arrays)>::Window;
 
   /// In a class of many fields the accessors share one routine for each operation, since port
   /// families have hundreds of them; in the others each accessor has its own copy.
   static constexpr bool sharesRoutines = Class::arrays.fields > 64;
 
  public:
-  /// Of the code of getters and setters; that of the shared routines is 64.
-  static constexpr int alignment = sharesRoutines ? 16 : 32;
+  /// In bytes, of the code of an accessor that works itself. A shared routine has 64.
+  static constexpr int getterAlignment = sharesRoutines ? 16 : 32;
+  static constexpr int setterAlignment = sharesRoutines ? 16 : 64;
 
   template <class T>
   [[gnu::always_inline]] static T get(const EntryView& view, U32 field) {
     if constexpr (!isScalar(valueTypeOf<T>)) {
       return checkedGet<T>(view, slotOf(view, field), data);
     } else if constexpr (sharesRoutines) {
-      return sharedGet<T>(view, field);
+      return sharedGet<T>(view, slotsOf(field));
     } else {
-      return inlineGet<T>(view, field);
+      return getAt<T>(view, slotOf(view, field));
     }
   }
 
@@ -61,94 +63,94 @@ class Fields {
     } else if constexpr (valueTypeOf<T> == ValueType::raw128) {
       setRaw(view, value, slotOf(view, field), data);
     } else if constexpr (sharesRoutines) {
-      sharedSet<T>(view, value, field);
+      sharedSet<T>(view, value, slotsOf(field));
     } else {
-      inlineSet<T>(view, value, field);
+      setAt<T>(view, value, slotOf(view, field));
     }
   }
 
   [[gnu::always_inline]] static U16 offset(const EntryView& view, U32 field) {
     if constexpr (sharesRoutines) {
-      return sharedOffset(view, field);
+      return sharedOffset(view, slotsOf(field));
     } else {
-      return inlineOffset(view, field);
+      return offsetAt(view, slotOf(view, field));
     }
   }
 
   [[gnu::always_inline]] static U16 length(const EntryView& view, U32 field) {
     if constexpr (sharesRoutines) {
-      return sharedLength(view, field);
+      return sharedLength(view, slotsOf(field));
     } else {
-      return inlineLength(view, field);
+      return lengthAt(view, slotOf(view, field));
     }
   }
 
   [[gnu::always_inline]] static bool isValid(const EntryView& view, U32 field) {
     if constexpr (sharesRoutines) {
-      return sharedIsValid(view, field);
+      return sharedIsValid(view, slotsOf(field));
     } else {
-      return inlineIsValid(view, field);
+      return isValidAt(view, slotOf(view, field));
     }
   }
 
  private:
+  static U32 rowOf(const EntryView& view) {
+    return rowIn(Class::arrays, ViewAccess::chipType(view), ViewAccess::variant(view));
+  }
   static const FieldSlot& slotOf(const EntryView& view, U32 field) {
-    const U32 row = rowIn(Class::arrays, ViewAccess::chipType(view), ViewAccess::variant(view));
-    return slotIn(Class::arrays, field, row);
+    return slotIn(Class::arrays, field, rowOf(view));
+  }
+  /// A field's slots, by row.
+  static const FieldSlot* slotsOf(U32 field) { return &slotIn(Class::arrays, field, 0); }
+
+  template <class T>
+  [[gnu::always_inline]] static T getAt(const EntryView& view, const FieldSlot& slot) {
+    const bool isShort = ViewAccess::len(view) <= slot.slowLen;
+    if (takesSlowPath(isShort)) return checkedGet<T>(view, slot, data);
+    return static_cast<T>(readWindow<Window>(ViewAccess::buf(view), slot));
   }
 
   template <class T>
-  [[gnu::always_inline]] static T inlineGet(const EntryView& view, U32 field) {
-    const FieldSlot& slot = slotOf(view, field);
-    if (takesSlowPath(ViewAccess::len(view) <= slot.slowLen))
-      return checkedGet<T>(view, slot, data);
-    return static_cast<T>(readWindow(ViewAccess::buf(view), slot));
-  }
-
-  template <class T>
-  [[gnu::always_inline]] static void inlineSet(const EntryView& view, T value, U32 field) {
-    const FieldSlot& slot = slotOf(view, field);
+  [[gnu::always_inline]] static void setAt(const EntryView& view, T value, const FieldSlot& slot) {
     const bool isShort = ViewAccess::len(view) <= slot.slowLen;
     const bool isTooWide = value > lowBits(slot.width);
     if (takesSlowPath(isShort || isTooWide)) return checkedSet<T>(view, value, slot, data);
-    writeWindow(ViewAccess::buf(view), slot, value);
+    writeWindow<Window>(ViewAccess::buf(view), slot, value);
   }
 
-  [[gnu::always_inline]] static U16 inlineOffset(const EntryView& view, U32 field) {
-    const FieldSlot& slot = slotOf(view, field);
+  [[gnu::always_inline]] static U16 offsetAt(const EntryView& view, const FieldSlot& slot) {
     if (takesSlowPath(slot.width == 0)) return checkedOffset(view, slot, data);
     return slot.offset;
   }
 
-  [[gnu::always_inline]] static U16 inlineLength(const EntryView& view, U32 field) {
-    const FieldSlot& slot = slotOf(view, field);
+  [[gnu::always_inline]] static U16 lengthAt(const EntryView& view, const FieldSlot& slot) {
     if (takesSlowPath(slot.width == 0)) return checkedLength(view, slot, data);
     return slot.width;
   }
 
-  [[gnu::always_inline]] static bool inlineIsValid(const EntryView& view, U32 field) {
-    const FieldSlot& slot = slotOf(view, field);
+  [[gnu::always_inline]] static bool isValidAt(const EntryView& view, const FieldSlot& slot) {
     if (mayTrace()) return checkedIsValid(view, slot, data);
     return slot.width != 0;
   }
 
   template <class T>
-  [[gnu::noinline, gnu::aligned(64)]] static T sharedGet(const EntryView& view, U32 field) {
-    return inlineGet<T>(view, field);
+  [[gnu::noinline, gnu::aligned(64)]] static T sharedGet(const EntryView& view,
+                                                         const FieldSlot* slots) {
+    return getAt<T>(view, slots[rowOf(view)]);
   }
   template <class T>
   [[gnu::noinline, gnu::aligned(64)]] static void sharedSet(const EntryView& view, T value,
-                                                            U32 field) {
-    inlineSet<T>(view, value, field);
+                                                            const FieldSlot* slots) {
+    setAt<T>(view, value, slots[rowOf(view)]);
   }
-  [[gnu::noinline]] static U16 sharedOffset(const EntryView& view, U32 field) {
-    return inlineOffset(view, field);
+  [[gnu::noinline]] static U16 sharedOffset(const EntryView& view, const FieldSlot* slots) {
+    return offsetAt(view, slots[rowOf(view)]);
   }
-  [[gnu::noinline]] static U16 sharedLength(const EntryView& view, U32 field) {
-    return inlineLength(view, field);
+  [[gnu::noinline]] static U16 sharedLength(const EntryView& view, const FieldSlot* slots) {
+    return lengthAt(view, slots[rowOf(view)]);
   }
-  [[gnu::noinline]] static bool sharedIsValid(const EntryView& view, U32 field) {
-    return inlineIsValid(view, field);
+  [[gnu::noinline]] static bool sharedIsValid(const EntryView& view, const FieldSlot* slots) {
+    return isValidAt(view, slots[rowOf(view)]);
   }
 };
 

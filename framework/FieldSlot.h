@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstring>
+#include <type_traits>
 
 #include "framework/Rows.h"
 
@@ -10,11 +11,13 @@
 namespace Velmar {
 namespace Framework {
 
-/// Bytes of a window: the part of an entry that the fast path reads, and for a setter writes back,
-/// as one little-endian integer.
-constexpr U32 windowBytes = 8;
 static_assert(__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__,
               "entries are read as little-endian integers");
+
+/// A window: the part of an entry that the fast path reads, and for a setter writes back, as one
+/// integer. Entries of one word are narrower than those of other classes.
+template <U32 rawWords>
+using Window = std::conditional_t<rawWords == 1, U32, U64>;
 
 /// One field on one row. The last row, and a field that the row lacks, hold an absent slot.
 struct FieldSlot {
@@ -33,7 +36,7 @@ constexpr U32 bytesUpTo(const FieldSlot& slot) { return (U32{slot.offset} + slot
 /// Chooses a field's window inside the entry: on a multiple of 8 bytes if it can be, else of 4.
 /// Fields in the same window are set one after the other at full speed; a read of a window that was
 /// written in parts waits for them.
-constexpr void setWindow(FieldSlot& slot, U32 entryBytes) {
+constexpr void setWindow(FieldSlot& slot, U32 entryBytes, U32 windowBytes) {
   const U32 last = entryBytes < windowBytes ? 0 : entryBytes - windowBytes;
   for (const U32 start : {slot.offset / 64U * 8, slot.offset / 32U * 4, slot.offset / 8U, last}) {
     if (start > last || 8 * start > slot.offset) continue;
@@ -45,12 +48,12 @@ constexpr void setWindow(FieldSlot& slot, U32 entryBytes) {
   }
 }
 
-constexpr FieldSlot makeSlot(BitRange range, U32 entryBytes) {
+constexpr FieldSlot makeSlot(BitRange range, U32 entryBytes, U32 windowBytes) {
   FieldSlot slot;
   if (!isPresent(range)) return slot;
   slot.offset = range.offset;
   slot.width = range.width;
-  setWindow(slot, entryBytes);
+  setWindow(slot, entryBytes, windowBytes);
   // A width of whole bytes takes any value of the field's type, and the bits that do not fit are
   // dropped: callers rely on it for the fields that are narrower on some chips.
   if (range.width < 64 && range.width % 8 != 0) slot.acceptedBits = static_cast<U8>(range.width);
@@ -73,20 +76,22 @@ constexpr U64 lowBits(std::size_t bits) { return lowBitsTable.ofWidth[bits]; }
 constexpr U64 largestValue(const FieldSlot& slot) { return lowBits(slot.acceptedBits); }
 
 /// The value of a field in a buffer that is longer than its slowLen.
-inline U64 readWindow(const U8* buf, const FieldSlot& slot) {
-  U64 window;
-  std::memcpy(&window, buf + slot.slowLen + 1 - windowBytes, sizeof(window));
+template <class Window>
+U64 readWindow(const U8* buf, const FieldSlot& slot) {
+  Window window;
+  std::memcpy(&window, buf + slot.slowLen + 1 - sizeof(window), sizeof(window));
   return window >> slot.shift & lowBits(slot.width);
 }
 
 /// Writes a value that fits the field.
-inline void writeWindow(U8* buf, const FieldSlot& slot, U64 value) {
+template <class Window>
+void writeWindow(U8* buf, const FieldSlot& slot, U64 value) {
   const U64 mask = lowBits(slot.width);
   const U32 shift = slot.shift;
-  U8* const at = buf + slot.slowLen + 1 - windowBytes;
-  U64 window;
+  U8* const at = buf + slot.slowLen + 1 - sizeof(Window);
+  Window window;
   std::memcpy(&window, at, sizeof(window));
-  window = (window & ~(mask << shift)) | value << shift;
+  window = static_cast<Window>((window & ~(mask << shift)) | value << shift);
   std::memcpy(at, &window, sizeof(window));
 }
 

@@ -73,6 +73,7 @@ struct TableArrays {
   static_assert(fields_ < 256 && rows_ < 256, "fields and rows are numbered by bytes");
   static constexpr U32 fields = fields_;
   static constexpr U32 rows = rows_;
+  using Window = Framework::Window<rawWords_>;
 
   RowIndex rowIndex{};
   FieldSlot slots[(fields_ + 1) * (rows_ + 1)]{};  ///< by field, then row; the last field is absent
@@ -193,7 +194,8 @@ constexpr auto makeArrays(Kind kind, const FieldName (&names)[fields], const Cla
                                 names[field].meaning};
     for (U32 row = 0; row < rows; ++row) {
       const BitRange range = fieldRowOf(fieldRows, id).ranges[chipRows[row].column];
-      arrays.slots[field * (rows + 1) + row] = makeSlot(range, 4U * chipRows[row].words);
+      arrays.slots[field * (rows + 1) + row] =
+          makeSlot(range, 4U * chipRows[row].words, sizeof(Window<rawWords>));
       if (!isPresent(range)) continue;
       ++arrays.facts[row].fieldCount;
       for (U32 bit = range.offset; bit < endOf(range); ++bit) {

@@ -7,6 +7,7 @@
 #include "Velmar/IngVpVlanMembershipEccEntry.h"
 #include "Velmar/PortBitmapProfileEntry.h"
 #include "Velmar/VlanEntry.h"
+#include "Velmar/VlanMplsEntry.h"
 #include "Velmar/VlanStgEntry.h"
 
 namespace {
@@ -60,6 +61,8 @@ U32 walk(const AsicUtils::AsicBase& view) {
   PATH(setter,          VlanEntry,                 BCM56990_B0, 16, view.fidIdIs(i)) \
   PATH(getterExact,     VlanEntry,                 BCM56960_A0, 48, view.fidId()) \
   PATH(setterExact,     VlanEntry,                 BCM56960_A0, 48, view.fidIdIs(i)) \
+  PATH(getterWord,      VlanMplsEntry,             BCM56990_B0,  4, view.l3Iif()) \
+  PATH(setterWord,      VlanMplsEntry,             BCM56990_B0,  4, view.l3IifIs(i)) \
   PATH(getterShort,     VlanEntry,                 BCM56990_B0,  3, view.fidId()) \
   PATH(setterShort,     VlanEntry,                 BCM56990_B0,  3, view.fidIdIs(i)) \
   PATH(getterPort,      VlanStgEntry,              BCM56990_B0, 40, view.spTreePort99()) \
