@@ -57,7 +57,7 @@ MEGABYTE = 1e6
 def run_benchmarks(build, repetitions):
     """The time of one item in nanoseconds, by benchmark; the best of several repetitions."""
     command = [build / "bin/velmar-bench", "--benchmark_enable_random_interleaving=true",
-               f"--benchmark_repetitions={repetitions}", "--benchmark_min_time=0.01",
+               f"--benchmark_repetitions={repetitions}", "--benchmark_min_time=0.002",
                "--benchmark_format=json"]
     report = json.loads(subprocess.run(command, check=True, stdout=subprocess.PIPE,
                                        stderr=subprocess.DEVNULL).stdout)
@@ -114,7 +114,7 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--build", type=pathlib.Path, required=True)
     parser.add_argument("--runs", type=int, default=1)
-    parser.add_argument("--repetitions", type=int, default=8)
+    parser.add_argument("--repetitions", type=int, default=40)
     options = parser.parse_args()
 
     runs = [rows_of(options.build, options.repetitions) for _ in range(options.runs)]

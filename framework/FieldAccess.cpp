@@ -109,31 +109,36 @@ template <>
   return bitmap;
 }
 
-/// Puts the lowest `bits` bits of the words at an offset of the buffer, 32 at a time.
+/// Puts the lowest `bits` bits of the words, at least one, at an offset of the buffer.
 [[gnu::always_inline]] inline void putWords(U8* buf, U32 offset, U32 bits,
                                             const Oru::PerUnitBitmap& bitmap) {
   U8* into = buf + offset / 8;
   U32 held = offset % 8;  // bits that wait to be written: first those of the first byte to keep
   U64 waiting = *into & lowBits(held);
   U32 word = 0;
-  for (; bits >= 32; bits -= 32, into += sizeof(U32)) {
+  for (; bits > 32; bits -= 32, into += sizeof(U32)) {
     waiting |= U64{wordOf(bitmap, word++)} << held;
     const U32 next = static_cast<U32>(waiting);
     std::memcpy(into, &next, sizeof(next));
     waiting >>= 32;
   }
-  if (bits != 0) waiting |= (wordOf(bitmap, word) & lowBits(bits)) << held;
+  waiting |= (wordOf(bitmap, word) & lowBits(bits)) << held;
   for (held += bits; held >= 8; held -= 8, waiting >>= 8) *into++ = static_cast<U8>(waiting);
   if (held != 0) *into = static_cast<U8>((*into & ~lowBits(held)) | waiting);
 }
 
-/// Writes the words that the bitmap has, then throws if the field needs more.
+/// Writes the words of a bitmap that has fewer than the field needs.
+[[noreturn, gnu::cold]] void writeShort(const EntryView& view, const FieldSlot& slot,
+                                        const Oru::PerUnitBitmap& bitmap) {
+  const U32 given = wordCountOf(bitmap);
+  if (given != 0) putWords(ViewAccess::buf(view), slot.offset, 32 * given, bitmap);
+  Morvo::Impl::throwVectorOutOfRangeException(given, given);
+}
+
 [[gnu::always_inline]] inline void write(const EntryView& view, const FieldSlot& slot,
                                          const Oru::PerUnitBitmap& bitmap) {
-  const U32 given = std::min(wordsOf(slot), wordCountOf(bitmap));
-  const U32 bits = std::min<U32>(slot.width, 32 * given);
-  if (bits != 0) putWords(ViewAccess::buf(view), slot.offset, bits, bitmap);
-  if (given < wordsOf(slot)) Morvo::Impl::throwVectorOutOfRangeException(given, given);
+  if (wordCountOf(bitmap) < wordsOf(slot)) writeShort(view, slot, bitmap);
+  putWords(ViewAccess::buf(view), slot.offset, slot.width, bitmap);
 }
 
 /// checkedGet with the trace on, or with a failing check. Apart, so that the other path needs no
