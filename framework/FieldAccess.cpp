@@ -8,6 +8,27 @@ namespace Velmar {
 namespace Framework {
 namespace {
 
+/// Whether each field of an entry has a window in the entry that holds it; only one that is wider than
+/// 57 bits may have none.
+template <class Window>
+constexpr bool windowsHoldFields(U32 entryBytes) {
+  constexpr U32 bytes = sizeof(Window);
+  for (U32 offset = 0; offset < 8 * entryBytes; ++offset) {
+    for (U32 width = 1; width <= 8 * bytes && offset + width <= 8 * entryBytes; ++width) {
+      const BitRange range{static_cast<U16>(offset), static_cast<U16>(width)};
+      const FieldSlot slot = makeSlot(range, entryBytes, bytes);
+      if (slot.slowLen == FieldSlot{}.slowLen && width > 57) continue;
+      const U32 first = slot.slowLen + 1 - bytes;
+      if (8 * first + slot.shift != offset || slot.shift + width > 8 * bytes) return false;
+      if (first + bytes > entryBytes) return false;
+    }
+  }
+  return true;
+}
+static_assert(windowsHoldFields<U32>(4) && windowsHoldFields<U64>(8) &&
+                  windowsHoldFields<U64>(12) && windowsHoldFields<U64>(20),
+              "a field's window does not hold it");
+
 /// The field's slot, after the checks common to getter, setter and offset.
 const FieldSlot& checkPresent(const EntryView& view, U32 field, const ClassData& data, Site site) {
   const FieldSlot& slot = data.slot(field, data.rowOfChip(ViewAccess::chipType(view)));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstring>
 #include <type_traits>
@@ -38,11 +39,11 @@ constexpr U32 bytesUpTo(const FieldSlot& slot) { return (U32{slot.offset} + slot
 /// written in parts waits for them.
 constexpr void setWindow(FieldSlot& slot, U32 entryBytes, U32 windowBytes) {
   const U32 last = entryBytes < windowBytes ? 0 : entryBytes - windowBytes;
-  for (const U32 start : {slot.offset / 64U * 8, slot.offset / 32U * 4, slot.offset / 8U, last}) {
-    if (start > last || 8 * start > slot.offset) continue;
-    const U32 shift = slot.offset - 8 * start;
+  for (const U32 start : {slot.offset / 64U * 8, slot.offset / 32U * 4, slot.offset / 8U}) {
+    const U32 first = std::min(start, last);
+    const U32 shift = slot.offset - 8 * first;
     if (shift + slot.width > 8 * windowBytes) continue;
-    slot.slowLen = static_cast<U16>(start + windowBytes - 1);
+    slot.slowLen = static_cast<U16>(first + windowBytes - 1);
     slot.shift = static_cast<U8>(shift);
     return;
   }

@@ -64,12 +64,16 @@ TEST(GenericAccess, setField64NarrowsThenChecks) {
   });
 }
 
-TEST(GenericAccess, aDerivedViewThatClaimsAFieldGetsNoWidthForIt) {
-  struct Claiming : Velmar::VlanEntry {
+TEST(GenericAccess, widthsAskTheDerivedViewFirst) {
+  struct Derived : Velmar::VlanEntry {
     using VlanEntry::VlanEntry;
-    bool isFieldValid(U32) const override { return true; }
+    bool isFieldValid(U32) const override { return claims; }
+    bool claims = false;
   };
-  const Claiming view(BCM56990_B0, nullptr, 0, false, 0);
+  Derived view(BCM56990_B0, nullptr, 0, false, 0);
+  EXPECT_EQ(view.fieldWidth(Velmar::FieldId::STG), 0);
+  view.claims = true;
+  EXPECT_EQ(view.fieldWidth(Velmar::FieldId::STG), view.stgLen());
   ASSERT_FALSE(view.isPortBitmapValid());
   EXPECT_EQ(assertionOf([&] { view.fieldWidth(0xffff); }).expression, "false");
   EXPECT_EQ(assertionOf([&] { view.fieldWidth(Velmar::FieldId::PORT_BITMAP); }).function,
