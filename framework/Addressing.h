@@ -32,7 +32,7 @@ using HasIdentifier = bool (*)(U32 chipType, U8 variant, U32 identifier);
 template <class Class>
 bool getAddress(U32 chipType, U8 variant, SchanOutputs outputs, SchanInputs inputs,
                 HasIdentifier hasIdentifier, Site site) {
-  const RowFacts& facts = Class::arrays.facts[rowIn(Class::arrays, chipType, variant)];
+  const RowFacts& facts = Class::facts.ofRow[rowIn(Class::arrays, chipType, variant)];
   // The last row has no entries and is refused here too.
   const bool isRefused = inputs.tableEntry >= facts.entries ||
                          inputs.arrayIndex >= facts.arrayElements || inputs.identifier != 0;

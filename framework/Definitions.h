@@ -8,7 +8,8 @@
 
 // VELMAR_DEFINE_TABLE and VELMAR_DEFINE_REGISTER, at the end, check the rows of a class and define
 // every member that the class's header declares. A member is one call into the engine. All macros
-// rely on names that VELMAR_DEFINE_DATA defines: View, Index, ViewData, ViewFields.
+// rely on names that VELMAR_DEFINE_DATA and VELMAR_DEFINE_VIEW_DATA define: View, Index, ViewData,
+// ViewFields.
 // `scripts/expand <Class>` prints the expansion for a class.
 
 // clang-format off
@@ -41,18 +42,25 @@
   constexpr Framework::SpanMember spans[] = {SPANS(VELMAR_SPAN_MEMBER){ChipType_{}, nullptr}}; \
   VELMAR_CHECK_ROWS(CLASS, KIND, sizeof(RAW) / 4, names, spans, about, layout, chips, chipFacts) \
   constexpr auto tableArrays =                                                                 \
-      Framework::makeArrays<sizeof(RAW) / 4, Framework::idRangeOf(names).count>(               \
-          KIND, names, about, layout, chips, spans, chipFacts);                                \
+      Framework::makeArrays<sizeof(RAW) / 4, Framework::idRangeOf(names).count>(names, layout, \
+                                                                                chips);        \
+  constexpr auto tableFacts =                                                                  \
+      Framework::makeFacts(KIND, names, about, layout, chips, spans, chipFacts);               \
   }                                                                                            \
   extern const Framework::ClassData classData_##CLASS;                                         \
   constexpr Framework::ClassData classData_##CLASS = Framework::makeClassData(                 \
-      #CLASS, __LINE__, KIND, about, Framework::idRangeOf(names).first, tableArrays);          \
-  namespace {                                                                                  \
-  struct ViewData {                                                                            \
-    static constexpr const auto& arrays = tableArrays;                                         \
-    static constexpr const Framework::ClassData& data = classData_##CLASS;                     \
-  };                                                                                           \
-  using ViewFields = Framework::Fields<ViewData>;                                              \
+      #CLASS, __LINE__, KIND, about, Framework::idRangeOf(names).first, tableArrays,           \
+      tableFacts);
+
+/// What the engine's templates read of the class.
+#define VELMAR_DEFINE_VIEW_DATA(CLASS)                                     \
+  namespace {                                                              \
+  struct ViewData {                                                        \
+    static constexpr const auto& arrays = tableArrays;                     \
+    static constexpr const auto& facts = tableFacts;                       \
+    static constexpr const Framework::ClassData& data = classData_##CLASS; \
+  };                                                                       \
+  using ViewFields = Framework::Fields<ViewData>;                          \
   }
 
 #define VELMAR_DEFINE_CONSTRUCTION(CLASS, KIND)                                      \
@@ -138,6 +146,7 @@
 /// Everything common to memories and register arrays.
 #define VELMAR_DEFINE_VIEW(CLASS, KIND, RAW, FIELDS, SPANS, about, layout, chips, chipFacts)    \
   VELMAR_DEFINE_DATA(CLASS, KIND, RAW, FIELDS, SPANS, about, layout, chips, chipFacts)          \
+  VELMAR_DEFINE_VIEW_DATA(CLASS)                                                                \
   VELMAR_DEFINE_CONSTRUCTION(CLASS, KIND)                                                       \
   FIELDS(VELMAR_DEFINE_FIELD)                                                                   \
   VELMAR_DEFINE_GENERIC_ACCESS(CLASS, RAW)                                                      \

@@ -67,7 +67,7 @@ constexpr IdRange idRangeOf(const FieldName (&names)[fields]) {
   return {lowest, highest - lowest + 1};
 }
 
-/// The arrays of one class.
+/// The arrays of one class. They hold no pointers, so that the loader leaves their pages alone.
 template <U32 fields_, U32 rows_, U32 rawWords_, U32 ids_>
 struct TableArrays {
   static_assert(fields_ < 256 && rows_ < 256, "fields and rows are numbered by bytes");
@@ -77,10 +77,15 @@ struct TableArrays {
 
   RowIndex rowIndex{};
   FieldSlot slots[(fields_ + 1) * (rows_ + 1)]{};  ///< by field, then row; the last field is absent
-  RowFacts facts[rows_ + 1]{};
   U32 masks[rows_][rawWords_]{};
-  FieldFacts fieldFacts[fields_]{};
   U8 fieldOfId[ids_]{};  ///< by identifier, from the lowest; `fields` where the class lacks it
+};
+
+/// The rest of a class's data.
+template <U32 fields, U32 rows>
+struct TableFacts {
+  RowFacts ofRow[rows + 1]{};
+  FieldFacts ofField[fields]{};
 };
 
 /// A class's data without its sizes, for the slow paths and for the catalogue.
@@ -174,30 +179,20 @@ constexpr bool sharesBits(const FieldRows& fieldRows, U32 id) {
 }
 
 /// The arrays of a class, from its rows.
-template <U32 rawWords, U32 ids, class FieldRows, U32 fields, U32 rows, U32 spans, U32 allChips>
-constexpr auto makeArrays(Kind kind, const FieldName (&names)[fields], const ClassRow& about,
-                          const FieldRows& fieldRows, const ChipRow (&chipRows)[rows],
-                          const SpanMember (&spanMembers)[spans],
-                          const ChipFacts (&chipFacts)[allChips]) {
+template <U32 rawWords, U32 ids, class FieldRows, U32 fields, U32 rows>
+constexpr auto makeArrays(const FieldName (&names)[fields], const FieldRows& fieldRows,
+                          const ChipRow (&chipRows)[rows]) {
   TableArrays<fields, rows, rawWords, ids> arrays;
   arrays.rowIndex = makeRowIndex(chipRows);
-  for (U32 row = 0; row < rows; ++row) {
-    const ChipRow& chips = chipRows[row];
-    arrays.facts[row] = makeRowFacts(kind, about, chips, factsOf(chipFacts, chips.chips.lowest()),
-                                     spanOf(spanMembers, chipRows, chips.entries));
-  }
   for (U8& field : arrays.fieldOfId) field = fields;
   for (U32 field = 0; field < fields; ++field) {
     const U32 id = names[field].id;
     arrays.fieldOfId[id - idRangeOf(names).first] = static_cast<U8>(field);
-    arrays.fieldFacts[field] = {static_cast<U16>(id), names[field].type, sharesBits(fieldRows, id),
-                                names[field].meaning};
     for (U32 row = 0; row < rows; ++row) {
       const BitRange range = fieldRowOf(fieldRows, id).ranges[chipRows[row].column];
       arrays.slots[field * (rows + 1) + row] =
           makeSlot(range, 4U * chipRows[row].words, sizeof(Window<rawWords>));
       if (!isPresent(range)) continue;
-      ++arrays.facts[row].fieldCount;
       for (U32 bit = range.offset; bit < endOf(range); ++bit) {
         arrays.masks[row][bit / 32] |= 1U << bit % 32;
       }
@@ -206,10 +201,33 @@ constexpr auto makeArrays(Kind kind, const FieldName (&names)[fields], const Cla
   return arrays;
 }
 
+/// The facts of a class, from its rows.
+template <class FieldRows, U32 fields, U32 rows, U32 spans, U32 allChips>
+constexpr auto makeFacts(Kind kind, const FieldName (&names)[fields], const ClassRow& about,
+                         const FieldRows& fieldRows, const ChipRow (&chipRows)[rows],
+                         const SpanMember (&spanMembers)[spans],
+                         const ChipFacts (&chipFacts)[allChips]) {
+  TableFacts<fields, rows> facts;
+  for (U32 row = 0; row < rows; ++row) {
+    const ChipRow& chips = chipRows[row];
+    RowFacts& ofRow = facts.ofRow[row];
+    ofRow = makeRowFacts(kind, about, chips, factsOf(chipFacts, chips.chips.lowest()),
+                         spanOf(spanMembers, chipRows, chips.entries));
+    for (const auto& field : fieldRows) ofRow.fieldCount += isPresent(field.ranges[chips.column]);
+  }
+  for (U32 field = 0; field < fields; ++field) {
+    const U32 id = names[field].id;
+    facts.ofField[field] = {static_cast<U16>(id), names[field].type, sharesBits(fieldRows, id),
+                            names[field].meaning};
+  }
+  return facts;
+}
+
 template <U32 fields, U32 rows, U32 rawWords, U32 ids>
 constexpr ClassData makeClassData(const char* name, U32 line, Kind kind, const ClassRow& about,
                                   U32 firstId,
-                                  const TableArrays<fields, rows, rawWords, ids>& arrays) {
+                                  const TableArrays<fields, rows, rawWords, ids>& arrays,
+                                  const TableFacts<fields, rows>& facts) {
   const U32 rawBytes = 4 * rawWords;
   return {name,
           about.purpose,
@@ -221,9 +239,9 @@ constexpr ClassData makeClassData(const char* name, U32 line, Kind kind, const C
           rawWords,
           arrays.rowIndex,
           arrays.slots,
-          arrays.facts,
+          facts.ofRow,
           &arrays.masks[0][0],
-          arrays.fieldFacts,
+          facts.ofField,
           firstId,
           ids,
           arrays.fieldOfId};
