@@ -17,10 +17,6 @@
 /// The call site of the enclosing member.
 #define VELMAR_SITE (::Velmar::Framework::Site{__PRETTY_FUNCTION__, __LINE__})
 
-/// Where the code of a member begins that is called for each entry: how it lies in the lines of the
-/// instruction cache decides a tenth of its time.
-#define VELMAR_ALIGNED(bytes) [[gnu::aligned(bytes)]]
-
 /// A field as an index into the class's rows of names.
 #define VELMAR_FIELD_INDEX(accessor, Accessor, HARDWARE_NAME, TYPE, meaning) HARDWARE_NAME,
 
@@ -64,7 +60,7 @@
   }
 
 #define VELMAR_DEFINE_CONSTRUCTION(CLASS, KIND)                                      \
-  VELMAR_ALIGNED(32)                                                                 \
+  [[gnu::aligned(32)]]                                                               \
   CLASS::CLASS(ChipType_ chipType, U8* buf, U16 len, bool flag, U8 variant)          \
       : BcmAsicBase(static_cast<U8>(chipType), buf, len, flag, variant, 0) {         \
     Framework::construct<ViewData>(chipType, variant, VELMAR_SITE);                  \
@@ -78,11 +74,11 @@
 
 /// The five members of a field.
 #define VELMAR_DEFINE_FIELD(accessor, Accessor, HARDWARE_NAME, TYPE, meaning)                    \
-  VELMAR_ALIGNED(ViewFields::getterAlignment)                                                    \
+  [[gnu::aligned(ViewFields::getterAlignment)]]                                                  \
   VELMAR_VALUE_##TYPE View::accessor() const {                                                   \
     return ViewFields::get<VELMAR_VALUE_##TYPE>(*this, Index::HARDWARE_NAME);                    \
   }                                                                                              \
-  VELMAR_ALIGNED(ViewFields::setterAlignment)                                                    \
+  [[gnu::aligned(ViewFields::setterAlignment)]]                                                  \
   void View::accessor##Is(VELMAR_PARAMETER_##TYPE value) {                                       \
     ViewFields::set<VELMAR_VALUE_##TYPE>(*this, value, Index::HARDWARE_NAME);                    \
   }                                                                                              \
@@ -130,7 +126,7 @@
   bool CLASS::hasIdentifier(U32 identifier) const {                                               \
     return hasIdentifier(chipType_, variant_, identifier);                                        \
   }                                                                                               \
-  VELMAR_ALIGNED(32)                                                                              \
+  [[gnu::aligned(32)]]                                                                            \
   bool CLASS::getSchanAddress(U32 chipType, U8 variant, U32& address, U32& accessType,            \
                               U32& block, U16 identifier, U32 tableEntry, U16 arrayIndex) {       \
     return Framework::getAddress<ViewData>(                                                       \

@@ -20,9 +20,10 @@ class ViewAccess : public EntryView {
   static U8 variant(const EntryView& view) { return view.*(&ViewAccess::variant_); }
 };
 
-/// The row of a view's chip and variant.
-inline U32 rowOf(const EntryView& view, const ClassData& data) {
-  return data.rowOf(ViewAccess::chipType(view), ViewAccess::variant(view));
+/// The row of a view's chip and variant in TableArrays or ClassData.
+template <class Data>
+U32 rowOf(const EntryView& view, const Data& data) {
+  return rowIn(data, ViewAccess::chipType(view), ViewAccess::variant(view));
 }
 
 }  // namespace Framework

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
-#include <type_traits>
 
 #include "framework/Rows.h"
 
@@ -14,11 +13,6 @@ namespace Framework {
 
 static_assert(__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__,
               "entries are read as little-endian integers");
-
-/// A window: the part of an entry that the fast path reads, and for a setter writes back, as one
-/// integer. Entries of one word are narrower than those of other classes.
-template <U32 rawWords>
-using Window = std::conditional_t<rawWords == 1, U32, U64>;
 
 /// One field on one row. The last row, and a field that the row lacks, hold an absent slot.
 struct FieldSlot {

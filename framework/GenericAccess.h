@@ -20,8 +20,7 @@ void setById(const EntryView& view, U32 id, U64 value, const ClassData& data, Si
 /// The slot of the field that an identifier names; an absent slot for an unknown identifier.
 template <class Class>
 const FieldSlot& slotOfId(const EntryView& view, U32 id) {
-  const U32 row = rowIn(Class::arrays, ViewAccess::chipType(view), ViewAccess::variant(view));
-  return slotIn(Class::arrays, Class::data.fieldOfId(id), row);
+  return slotIn(Class::arrays, Class::data.fieldOfId(id), rowOf(view, Class::arrays));
 }
 
 template <class Class>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <type_traits>
 
 #include "framework/FieldSlot.h"
 
@@ -73,7 +74,8 @@ struct TableArrays {
   static_assert(fields_ < 256 && rows_ < 256, "fields and rows are numbered by bytes");
   static constexpr U32 fields = fields_;
   static constexpr U32 rows = rows_;
-  using Window = Framework::Window<rawWords_>;
+  /// The part of an entry that the fast path reads, and for a setter writes back, as one integer.
+  using Window = std::conditional_t<rawWords_ == 1, U32, U64>;
 
   RowIndex rowIndex{};
   FieldSlot slots[(fields_ + 1) * (rows_ + 1)]{};  ///< by field, then row; the last field is absent
@@ -191,7 +193,7 @@ constexpr auto makeArrays(const FieldName (&names)[fields], const FieldRows& fie
     for (U32 row = 0; row < rows; ++row) {
       const BitRange range = fieldRowOf(fieldRows, id).ranges[chipRows[row].column];
       arrays.slots[field * (rows + 1) + row] =
-          makeSlot(range, 4U * chipRows[row].words, sizeof(Window<rawWords>));
+          makeSlot(range, 4U * chipRows[row].words, sizeof(typename decltype(arrays)::Window));
       if (!isPresent(range)) continue;
       for (U32 bit = range.offset; bit < endOf(range); ++bit) {
         arrays.masks[row][bit / 32] |= 1U << bit % 32;

@@ -1,8 +1,8 @@
 // Every field on every chip, written and read back in a buffer of exactly the bytes that it needs,
-// and in one with room for whole windows, against a bit-by-bit model: all ones, all zeros and random
-// values over both backgrounds; the bits around the field must not change. Buffers are heap blocks,
-// some at odd addresses, and blocks that end or start at a protected page, where an access beyond them
-// ends the program.
+// and in one with room for whole windows, against a bit-by-bit model: all ones, all zeros, random
+// values and each bit alone, over both backgrounds; the bits around the field must not change. Buffers
+// are heap blocks, some at odd addresses, and blocks that end or start at a protected page, where an
+// access beyond them ends the program.
 
 #include <sys/mman.h>
 #include <unistd.h>
