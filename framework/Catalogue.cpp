@@ -39,6 +39,11 @@ U32 Table::fieldIndex(U32 id) const {
   return index;
 }
 
+Family Table::family(U32 index) const {
+  const Framework::FieldFacts& facts = data_->fieldFacts[index];
+  return {facts.prefixLength, facts.port};
+}
+
 bool Table::isOn(U32 chipType) const { return data_->rowOfChip(chipType) != data_->rows; }
 bool Table::isOn(U32 chipType, U8 variant) const {
   return data_->rowOf(chipType, variant) != data_->rows;

@@ -65,6 +65,25 @@ constexpr Fault namesMatchLayout(const FieldName (&names)[fields], const FieldRo
   return sound();
 }
 
+/// The accessors of a port family are one prefix, then the port. All port rows of a class come from
+/// one rule.
+template <U32 fields, class FieldRows>
+constexpr Fault portsEndAccessors(const FieldName (&names)[fields], const FieldRows& fieldRows) {
+  const char* first = nullptr;
+  U32 firstLength = 0;
+  for (const FieldName& field : names) {
+    for (const auto& row : fieldRows) {
+      if (row.id != field.id || row.port == noPort) continue;
+      const U32 length = lengthBefore(field.accessor, row.port);
+      if (first == nullptr) first = field.accessor, firstLength = length;
+      const bool isSound =
+          length != 0 && length == firstLength && sameStart(first, field.accessor, length);
+      if (!isSound) return badField(row.id);
+    }
+  }
+  return sound();
+}
+
 template <class FieldRows, class ChipRows>
 constexpr Fault cellsAreFilled(const FieldRows& fieldRows, const ChipRows& chipRows) {
   for (const auto& row : fieldRows) {
@@ -259,6 +278,12 @@ struct NamesMatchLayout {
 };
 
 template <class Class, bool isSound, auto field, auto chip>
+struct PortsEndAccessors {
+  static_assert(isSound,
+                "an accessor of a port family is not the prefix of the family and the port");
+};
+
+template <class Class, bool isSound, auto field, auto chip>
 struct CellsAreFilled {
   static_assert(isSound, "a layout row leaves a column out or gives a width of 0; write none");
 };
@@ -333,6 +358,7 @@ struct SpansMatchEntries {
   constexpr U32 columns = ::Velmar::Framework::columnsOf(layout);                                \
   VELMAR_CHECK(CLASS, AccessorsDerive, accessorsDerive(names))                                   \
   VELMAR_CHECK(CLASS, NamesMatchLayout, namesMatchLayout(names, layout))                         \
+  VELMAR_CHECK(CLASS, PortsEndAccessors, portsEndAccessors(names, layout))                       \
   VELMAR_CHECK(CLASS, CellsAreFilled, cellsAreFilled(layout, chips))                             \
   VELMAR_CHECK(CLASS, ColumnsAreUsed, columnsAreUsed(chips, columns))                            \
   VELMAR_CHECK(CLASS, ChipsAreOnce, chipsAreOnce(chips))                                         \

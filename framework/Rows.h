@@ -34,19 +34,24 @@ constexpr bool shareBits(BitRange a, BitRange b) {
 enum class Overlap : U8 { disjoint, marked };
 constexpr Overlap alias = Overlap::marked;
 
+/// The port of a field that is of no port family.
+constexpr U16 noPort = 0xffff;
+
 /// One field: its identifier and its place in each layout column.
 template <U32 columns>
 struct FieldRow {
   U32 id;
   BitRange ranges[columns];
   Overlap overlap = Overlap::disjoint;
+  U16 port = noPort;  ///< set by portRows: the number that ends the accessor
 };
 
 /// A family of per-port fields: the fields follow each other from the first one on, each of
 /// bitsPerPort bits, and a column has as many of them as it has ports.
 template <U32 columns>
 struct PortRule {
-  U32 firstId;  ///< identifier of the field at bit 0; the others have the identifiers after it
+  U32 firstId;    ///< identifier of the field at bit 0; the others have the identifiers after it
+  U16 firstPort;  ///< port of that field; the others have the ports after it
   U16 bitsPerPort;
   U16 ports[columns];
 };
@@ -57,6 +62,7 @@ constexpr std::array<FieldRow<columns>, declared> portRows(const PortRule<column
   std::array<FieldRow<columns>, declared> rows{};
   for (U32 i = 0; i < declared; ++i) {
     rows[i].id = rule.firstId + i;
+    rows[i].port = static_cast<U16>(rule.firstPort + i);
     for (U32 column = 0; column < columns; ++column) {
       const U16 offset = static_cast<U16>(rule.bitsPerPort * i);
       rows[i].ranges[column] = i < rule.ports[column] ? BitRange{offset, rule.bitsPerPort} : none;

@@ -4,6 +4,7 @@
 #include <type_traits>
 
 #include "framework/FieldSlot.h"
+#include "framework/Names.h"
 
 // What the engine reads, made from the rows of tables/ at compile time. A chip row of a table
 // becomes a "row" here; one more row, the last, stands for every chip and variant that the class
@@ -27,8 +28,12 @@ struct FieldFacts {
   U16 id = 0;
   ValueType type = ValueType::u8;
   bool overlaps = false;  ///< shares bits with another field on some row
+  U16 port = 0;           ///< its number in its port family
+  U8 prefixLength = 0;    ///< characters of its accessor before the port; 0: it is of no family
   const char* meaning = nullptr;
 };
+
+static_assert(sizeof(FieldFacts) <= 16, "there is one for each field of each class");
 
 /// Chip numbers in a view are below this; any other number is unknown.
 constexpr U32 chipTypes = 256;
@@ -180,6 +185,21 @@ constexpr bool sharesBits(const FieldRows& fieldRows, U32 id) {
   return false;
 }
 
+/// The facts of a field, from its rows.
+template <class FieldRows>
+constexpr FieldFacts makeFieldFacts(const FieldName& name, const FieldRows& fieldRows) {
+  FieldFacts facts;
+  facts.id = static_cast<U16>(name.id);
+  facts.type = name.type;
+  facts.overlaps = sharesBits(fieldRows, name.id);
+  facts.meaning = name.meaning;
+  const U16 port = fieldRowOf(fieldRows, name.id).port;
+  if (port == noPort) return facts;
+  facts.port = port;
+  facts.prefixLength = static_cast<U8>(lengthBefore(name.accessor, port));
+  return facts;
+}
+
 /// The arrays of a class, from its rows.
 template <U32 rawWords, U32 ids, class FieldRows, U32 fields, U32 rows>
 constexpr auto makeArrays(const FieldName (&names)[fields], const FieldRows& fieldRows,
@@ -218,9 +238,7 @@ constexpr auto makeFacts(Kind kind, const FieldName (&names)[fields], const Clas
     for (const auto& field : fieldRows) ofRow.fieldCount += isPresent(field.ranges[chips.column]);
   }
   for (U32 field = 0; field < fields; ++field) {
-    const U32 id = names[field].id;
-    facts.ofField[field] = {static_cast<U16>(id), names[field].type, sharesBits(fieldRows, id),
-                            names[field].meaning};
+    facts.ofField[field] = makeFieldFacts(names[field], fieldRows);
   }
   return facts;
 }

@@ -14,8 +14,8 @@ constexpr ClassRow about = {"egress spanning-tree groups, upper ports, a state p
 
 enum : U8 { c56990, columns };
 
-// field of the first port, bits per port, ports of 56990
-constexpr PortRule<columns> states = {FieldId::SP_TREE_PORT136, 2, {136}};
+// field of the first port, that port, bits per port, ports of 56990
+constexpr PortRule<columns> states = {FieldId::SP_TREE_PORT136, 136, 2, {136}};
 constexpr auto layout = portRows<136>(states);
 
 constexpr ChipRow chips[] = {

@@ -14,8 +14,8 @@ constexpr ClassRow about = {"egress spanning-tree groups, a state per port", egr
 
 enum : U8 { c56960, c56870, c56470, c56980, columns };
 
-// field of the first port, bits per port, ports of 56960 56870 56470 56980
-constexpr PortRule<columns> states = {FieldId::SP_TREE_PORT0, 2, {136, 132, 72, 160}};
+// field of the first port, that port, bits per port, ports of 56960 56870 56470 56980
+constexpr PortRule<columns> states = {FieldId::SP_TREE_PORT0, 0, 2, {136, 132, 72, 160}};
 constexpr auto layout = portRows<160>(states);
 
 constexpr ChipRow chips[] = {

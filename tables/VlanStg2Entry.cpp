@@ -14,8 +14,8 @@ constexpr ClassRow about = {"second ingress spanning-tree groups, a state per po
 
 enum : U8 { c56980, columns };
 
-// field of the first port, bits per port, ports of 56980
-constexpr PortRule<columns> states = {FieldId::SP_TREE_PORT0, 2, {160}};
+// field of the first port, that port, bits per port, ports of 56980
+constexpr PortRule<columns> states = {FieldId::SP_TREE_PORT0, 0, 2, {160}};
 constexpr auto layout = portRows<160>(states);
 
 constexpr ChipRow chips[] = {

@@ -11,10 +11,12 @@
 /// indexes from 0. An index is good while the program runs; to store one, store the name, the
 /// chip's number or the field's identifier.
 ///
-/// A call that can fail returns a code, and writes nothing but the message when it fails. Nothing
-/// aborts, throws or allocates; only the C library may allocate the place of a thread's message,
-/// once. All calls may run in several threads at once, on different entries. Texts and layouts live
-/// as long as the library; the caller frees nothing.
+/// A call that can fail returns a code, and writes nothing but the fault when it fails. Nothing
+/// prints, aborts or throws. Dumps and documents are allocated, and freed by the caller with
+/// velmar_dump_free() and velmar_text_free(); a call that makes one says VELMAR_MEMORY where there is
+/// no memory. Other calls allocate nothing; only the C library may allocate the place of a thread's
+/// fault, once. All calls may run in several threads at once, on different entries; a dump may be
+/// used in several threads at once. Other texts and layouts live as long as the library.
 ///
 /// An entry is `entry_bytes` bytes as they were read from the chip: bit n is bit n % 8 of its byte
 /// n / 8. It needs no alignment. A dump is entries without gaps. Buffers of one call must not
@@ -38,11 +40,14 @@ typedef enum velmar_code {
   VELMAR_VARIANT = 7,      ///< the table on the chip does not have the variant
   VELMAR_VALUE = 8,        ///< the value has more bits than the field
   VELMAR_WIDE = 9,         ///< the field has more than 64 bits: read and write words or bytes
-  VELMAR_NO_ENTRY = 10     ///< the chip has no entry, or no further one, at the address
+  VELMAR_NO_ENTRY = 10,    ///< the chip has no entry, or no further one, at the address
+  VELMAR_INPUT = 11,       ///< what is read is damaged or incomplete, or contradicts itself
+  VELMAR_OPTION = 12,      ///< an option is wrong, is missing, or has no effect
+  VELMAR_MEMORY = 13       ///< there is no memory
 } velmar_code;
 
-/// What went wrong in the last call of this thread that failed, and what to do about it, such as
-/// "unknown table "VlanEntri"; did you mean VlanEntry? "velmar tables" lists the tables". Empty
+/// What went wrong in the last call of this thread that failed, where in the input if it has lines,
+/// and what to do about it, such as "unknown table "VlanEntri"; did you mean VlanEntry? "velmar tables" lists the tables". Empty
 /// before the first failure. The text is good until the next call of this thread that fails.
 VELMAR_API const char* velmar_message(void);
 
@@ -52,6 +57,27 @@ VELMAR_API const char* velmar_version(void);
 // Structures. The caller passes the size of its own structure, sizeof *info. Later releases add
 // members at the end: a program gets those that it was compiled with, and 0 for those that the
 // library does not have yet. VELMAR_SIZE: the structure is smaller than that of the first release.
+
+/// No entry, chip or table.
+#define VELMAR_NONE UINT32_MAX
+
+/// The last call of a thread that failed, in parts.
+typedef struct velmar_fault {
+  const char* text;    ///< what is wrong, without the place
+  const char* remedy;  ///< what to do about it, such as give hex_order="bytes" or "words"; or ""
+  const char*
+      options;  ///< those that mend it, such as "hex_order=bytes|words;input=xxd": the members
+                ///< of velmar_read_options with the texts or numbers that they may have,
+                ///< "origin" alone for any; "" if there is none
+  const char* field;  ///< accessor of the field that is meant, or ""
+  uint64_t line;      ///< of the input, from 1; 0: not known
+  uint64_t column;    ///< of the line, from 1; 0: not known
+  uint32_t entry;     ///< index of the entry that is meant, or VELMAR_NONE
+  uint32_t code;      ///< velmar_code; 0 before the first failure
+} velmar_fault;
+
+/// The texts are good until the next call of this thread that fails.
+VELMAR_API velmar_code velmar_last_fault(velmar_fault* fault, size_t size);
 
 typedef struct velmar_chip {
   const char* name;  ///< such as "BCM56990_B0"
@@ -220,6 +246,96 @@ VELMAR_API velmar_code velmar_address(const velmar_layout* layout, uint32_t inde
 /// from 0, in the order of the tables, until VELMAR_NO_ENTRY.
 VELMAR_API velmar_code velmar_entry_at(uint32_t chip, uint32_t variant, uint32_t address,
                                        uint32_t nth, velmar_place* place, size_t size);
+
+// Dumps: entries of one table on one chip, each with its index, from bytes or text in any notation.
+
+/// How to read a dump. Options that are all zero are the default.
+typedef struct velmar_read_options {
+  const char* input;  ///< notation: "raw", "hex", "xxd", "hexdump", "od", "json" or "csv"; NULL or
+                      ///< "auto": recognized
+  const char*
+      hex_order;  ///< what hexadecimal digits are: "bytes" (the first byte first), "words" (of
+                  ///< 32 bits, the first word first) or "int" (one number for each entry, the
+                  ///< highest digit first); NULL: as their groups say it
+  const char* byte_order;  ///< the byte of each 32-bit word that comes first: "little" (lowest) or
+                           ///< "big" (highest); NULL: "little"
+  uint64_t origin;         ///< if has_origin is not 0: address of entry 0, for lines with addresses
+  uint32_t has_origin;
+  uint32_t has_first;
+  uint32_t first;       ///< if has_first is not 0: index of the first entry
+  uint32_t stride;      ///< bytes from one entry to the next; 0: entry_bytes
+  uint32_t beyond_end;  ///< not 0: take entries beyond the end of the table, too
+  uint32_t variant;     ///< of the table
+} velmar_read_options;
+
+/// Entries with their indexes. It does not change.
+typedef struct velmar_dump velmar_dump;
+
+/// Reads the `size` bytes of a file or text, at most 64 MiB. `options` may be NULL; `options_size` is
+/// sizeof *options. A raw dump without a stride borrows `bytes`, which must outlive it; others copy.
+/// VELMAR_INPUT: it is no dump of the table. VELMAR_OPTION: an option is wrong or has no effect, or
+/// one must say which of several readings is meant: velmar_last_fault() gives its choices.
+/// VELMAR_INDEX, VELMAR_SIZE: it has an entry that the table does not have, or no whole entries.
+VELMAR_API velmar_code velmar_dump_read(const velmar_layout* layout,
+                                        const velmar_read_options* options, size_t options_size,
+                                        const void* bytes, size_t size, velmar_dump** dump);
+/// A dump of `count` entries without gaps, `size` bytes. `indexes`: their indexes in any order, each
+/// once; NULL: from 0 on, and the dump borrows `bytes`, which must outlive it.
+VELMAR_API velmar_code velmar_dump_of(const velmar_layout* layout, uint32_t variant,
+                                      const uint32_t* indexes, size_t count, const void* bytes,
+                                      size_t size, velmar_dump** dump);
+/// Frees a dump; NULL does nothing.
+VELMAR_API void velmar_dump_free(velmar_dump* dump);
+/// Number of entries. The entries of a dump have positions from 0, below it.
+VELMAR_API velmar_code velmar_dump_count(const velmar_dump* dump, size_t* count);
+/// The indexes of `count` entries from a position on. VELMAR_INDEX: there are not so many.
+VELMAR_API velmar_code velmar_dump_index(const velmar_dump* dump, size_t position,
+                                         uint32_t* indexes, size_t count);
+/// The bytes of all entries, without gaps, and their number: count * entry_bytes. Those of a dump that
+/// borrows are the caller's own; others are good until the dump is freed.
+VELMAR_API velmar_code velmar_dump_bytes(const velmar_dump* dump, const uint8_t** bytes,
+                                         size_t* size);
+/// What was left out of the input, or is worth saying: sentence `nth`, from 0 on; NULL after the last
+/// one. It is good until the dump is freed.
+VELMAR_API velmar_code velmar_dump_note(const velmar_dump* dump, size_t nth, const char** note);
+
+/// The entries that fit, as ascending positions: all `conditions` hold, such as "stg=3",
+/// "fidId>=0x10" or "portBitmap~20-22"; the index is one of `indexes`, such as "5,100-199", or NULL for
+/// any; if `nonzero` is not 0, a bit is set. `positions` has room for `room` numbers, at least the
+/// number of entries, otherwise VELMAR_SIZE; `count` is how many are written. VELMAR_INDEX: the dump
+/// has no entry in a part of `indexes`.
+VELMAR_API velmar_code velmar_select(const velmar_dump* dump, const char* const* conditions,
+                                     size_t condition_count, const char* indexes, uint32_t nonzero,
+                                     uint32_t* positions, size_t room, size_t* count);
+
+// Documents: JSON that ends in a zero character, in the forms of docs/schema. Each text is freed with
+// velmar_text_free().
+
+VELMAR_API void velmar_text_free(char* text);
+/// The values of all fields, as "velmar-entries": of the entries at `count` positions, or of all where
+/// `positions` is NULL and `count` 0. `plain` not 0: numbers, lists of ports and hexadecimal text alone.
+VELMAR_API velmar_code velmar_entries_json(const velmar_dump* dump, const uint32_t* positions,
+                                           size_t count, uint32_t plain, char** text);
+/// What changed between two dumps of one layout and variant, as "velmar-diff". Entries are matched by
+/// their indexes. VELMAR_INPUT: the dumps are of different tables, chips or variants.
+VELMAR_API velmar_code velmar_difference(const velmar_dump* before, const velmar_dump* after,
+                                         char** text);
+/// What changes from one chip to another, as "velmar-comparison": in one table, or in all for
+/// VELMAR_NONE.
+VELMAR_API velmar_code velmar_comparison(uint32_t before, uint32_t after, uint32_t table,
+                                         uint32_t variant, char** text);
+/// The tables and chips that a dump fits, the likeliest first, as "velmar-identification". `table` and
+/// `chip` are the only ones that are tried, or VELMAR_NONE. The variant is 0. VELMAR_INPUT: there is
+/// nothing to read, or too much.
+VELMAR_API velmar_code velmar_identification(const void* bytes, size_t size,
+                                             const velmar_read_options* options,
+                                             size_t options_size, uint32_t table, uint32_t chip,
+                                             char** text);
+/// Moves the entries of a dump to another chip, each field to its place there. Fields that only that
+/// chip has are zero. `translated` is a dump like any other, or has no entry if none can be moved.
+/// `losses` is what it does not hold, as "velmar-translation"; its list is empty if nothing is lost.
+VELMAR_API velmar_code velmar_translation(const velmar_dump* dump, uint32_t chip,
+                                          velmar_dump** translated, char** losses);
 
 #ifdef __cplusplus
 }  // extern "C"

@@ -44,6 +44,12 @@ struct Field {
   bool overlaps;             ///< shares bits with another field of the class on some chip
 };
 
+/// The port family of a field, such as spTreePort0, spTreePort1, ...: it is declared by a rule.
+struct Family {
+  U32 prefixLength;  ///< characters of the accessor before its number; 0: the field is of no family
+  U32 number;        ///< its number in the family: the port
+};
+
 /// Where a field lies in an entry, in bits.
 struct BitRange {
   U16 offset;
@@ -83,6 +89,8 @@ class VELMAR_EXPORT Table {
   Field field(U32 index) const;  ///< field `index`, below fieldCount(), in declaration order
   /// Index of the field of an identifier; fieldCount() where the class does not declare it.
   U32 fieldIndex(U32 id) const;
+  /// The port family of field `index`; all zero where it is of none.
+  Family family(U32 index) const;
 
   /// Whether the class exists on a chip.
   bool isOn(U32 chipType) const;

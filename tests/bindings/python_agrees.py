@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""For every class on every chip: what the Python module decodes, encodes and finds different in random
-entries agrees with the command. What cannot be right is refused.
+"""For every class on every chip: what the Python module reads, decodes, encodes, selects, translates and
+finds different in random entries agrees with the command. What cannot be right is refused.
 
 usage: python_agrees.py SOURCE_DIR BUILD_DIR"""
 
@@ -82,6 +82,50 @@ def check_diff(where, layout, target, old, new):
     check(layout.diff(old, new) == rows, f"{where}: {layout.diff(old, new)}, the command has {rows}")
 
 
+def check_select(where, layout, target, dump):
+    """A dump in text, and its entries that fit a condition."""
+    text = run("encode", *target, "--base", "-", "--input", "raw", "-f", "hex", data=dump)[1]
+    field = random.choice(layout.fields)
+    condition = f"{field.name}={as_text(layout.decode(dump)[0][field.name])}"
+    document = json.loads(run("decode", *target, "-", "--where", condition, "-f", "json", data=text)[1])
+    with tempfile.NamedTemporaryFile() as file:
+        file.write(text)
+        file.flush()
+        check(velmar.load(file.name, layout.table, layout.chip).data == dump, f"{where}: load")
+        selected = velmar.load(file.name, layout.table, layout.chip, where=condition)
+    check(list(selected.indexes) == [entry["index"] for entry in document["entries"]],
+          f"{where}: {condition}: {selected.indexes}, the command has {document}")
+    check([entry[field.name] for entry in layout.decode(selected)] ==
+          [plain(entry["fields"][field.name]) for entry in document["entries"]],
+          f"{where}: {condition}")
+
+
+def check_identify(where, layout, dump):
+    options = "--table", layout.table, "--chip", layout.chip
+    expected = json.loads(run("identify", *options, "-", "--input", "raw", "-f", "json", data=dump)[1])
+    fits = velmar.identify(dump, layout.table, layout.chip, input="raw")
+    check(fits == expected["fits"], f"{where}: {fits}, the command has {expected}")
+
+
+def check_translate(where, layout, dump):
+    chips = [chip.name for chip in velmar.chips()
+             if layout.table in [table.name for table in velmar.tables(chip.name)]]
+    other = random.choice(chips)
+    code, expected, lost = run("translate", layout.table, "--from", layout.chip, "--to", other, "--lossy",
+                               "-", "--input", "raw", "-f", "json", data=dump)
+    translated, losses = velmar.translate(layout.select(dump), other)
+    rows = json.loads(expected)["entries"] if expected else []
+    check([(index, int(row["address"], 16)) for index, row in zip(translated.indexes, rows)] ==
+          [(row["index"], translated.layout.address(row["index"])) for row in rows] and
+          [{name: plain(value) for name, value in row["fields"].items()} for row in rows] ==
+          translated.layout.decode(translated), f"{where} to {other}: {translated}, {expected}")
+    lines = [line for line in lost.splitlines() if line.startswith("velmar: lost: ")]
+    check([line.split(": ")[2:4] for line in lines] ==
+          [[loss["field"], loss["reason"] + "; in " + line.split("; in ")[1].split(": ")[0]]
+           for loss, line in zip(losses, lines)] and len(lines) == len(losses) and
+          code == (1 if losses else 0), f"{where} to {other}: {losses}, the command has {lost}")
+
+
 for table in golden_tables():
     where = f"{table.name} on {table.chip}"
     target = (table.name, "--chip", table.chip)
@@ -94,6 +138,9 @@ for table in golden_tables():
     changed = check_encode(where, layout, target, entries[0])
     check_diff(where, layout, target, b"".join(entries),
                b"".join([changed, *entries[1:2], random.randbytes(size)][:table.count]))
+    check_select(where, layout, target, b"".join(entries))
+    check_identify(where, layout, random.choice(entries))
+    check_translate(where, layout, b"".join(entries))
 check("numpy" not in sys.modules, "without columns the module needs numpy")
 
 os.chdir(source)
@@ -116,8 +163,15 @@ check([(table.name, table.kind, table.purpose) for table in velmar.tables(33)] =
       [(row["table"], row["kind"], row["purpose"]) for row in listed], "tables of a chip")
 check(velmar.Chip(vlan.chip, 33) in velmar.chips(), "chips")
 check(velmar.layout("VLAN_ENTRY", "56990") == vlan, "a layout by another name")
-rows = velmar.compare("56275_A0", "56175_A0", "vlan")
-check([row["part"] for row in rows] == ["vfi", "l3Iif"], f"compare: {rows}")
+for chips, of_table in ((("56275_A0", "56175_A0"), "vlan"), (("56870_A0", "56990_B0"), None)):
+    words = [word for chip in chips for word in ("--chip", chip)]
+    document = json.loads(run("compare", *filter(None, [of_table]), *words, "-f", "json")[1])
+    rows = velmar.compare(*chips, of_table)
+    check(rows == document["differences"] and rows, f"compare {chips}: {rows}")
+whole = json.loads(run("identify", "samples/vlan-bcm56990.bin", "-f", "json")[1])["fits"]
+check(velmar.identify("samples/vlan-bcm56990.bin") == whole == velmar.identify(data), "identify")
+raw = velmar.load("samples/vlan-bcm56990.bin", "vlan", 33)
+check((raw.indexes, raw.data) == (range(vlan.entries), data), "load of a raw dump")
 
 # Indexes of a dump in text stay with its entries.
 with tempfile.NamedTemporaryFile("w") as file:
@@ -163,6 +217,16 @@ for call, message in (
         (lambda: egress.encode({"portBitmap": "0-3"}), "'0-3' is not ports"),
         (lambda: vlan.address(1 << 32), "not a number of 32 bits"),
         (lambda: velmar.find(-1, 33), "not a number of 32 bits"),
+        (lambda: vlan.select(data, "sgt=3"), "did you mean stg"),
+        (lambda: vlan.select(data, ["stg=3", "stg~3"]), "stg is a number"),
+        (lambda: vlan.select(data[:16], indexes="1-3"), "no entry with index 1-3"),
+        (lambda: velmar.load("samples", "vlan", 33), "^samples: cannot open: Is a directory"),
+        (lambda: velmar.load("samples/vlan-bcm56990.bin", "vlan", 33, stride=0), "stride 0"),
+        (lambda: velmar.load("samples/vlan-bcm56990.bin", "vlan", 33, first=1), "8193 entries"),
+        (lambda: velmar.load("samples/vlan-bcm56990.bin", "vlan", 33, input="yaml"), '"yaml"'),
+        (lambda: velmar.load("/dev/zero", "vlan", 33), "^/dev/zero: .* more than 64 MiB"),
+        (lambda: velmar.identify(b""), "^empty"),
+        (lambda: velmar.translate(vlan.select(data), "56999"), "unknown chip"),
         (lambda: velmar.layout("vlan\0", 33), "zero character"),
         (lambda: velmar.load("no-such-file", "vlan", 33), "^no-such-file: cannot open")):
     try:
@@ -171,11 +235,17 @@ for call, message in (
         check(re.search(message, str(error)), f"{error}, expected {message}")
 check(velmar.find(0xffffffff, 33) == [], "an address without an entry")
 
-for command in "/nonexistent/velmar", "/bin/true":
-    os.environ["VELMAR_COMMAND"] = command
-    for call in lambda: velmar.compare(33, 6), lambda: velmar.load("samples/vlan-bcm56990.bin", "vlan", 33):
+with tempfile.NamedTemporaryFile("w") as file:
+    file.write("1 2 3 4\n")
+    file.flush()
+    for call, place, choices in (
+            (lambda: velmar.load(file.name, "VlanMpls", 33), f"{file.name}:1: ",
+             {"hex_order": ("bytes", "words")}),
+            (lambda: velmar.load("samples/vlan-bcm56990.bin", "vlan", 33, hex_order="int"),
+             "samples/vlan-bcm56990.bin: ", {"hex_order": ()})):
         try:
-            check(False, f"{command}: {call()}")
+            check(False, f"not refused: {place}: {call()}")
         except velmar.Error as error:
-            check("VELMAR_COMMAND" in str(error), f"{command}: {error}")
+            check(str(error).startswith(place) and error.choices == choices and
+                  (error.line == 1) == (":1" in place), f"{error}: {vars(error)}")
 finish()

@@ -18,20 +18,24 @@ with open(os.path.join(module.source, "bindings", "c", "velmar.h"), encoding="ut
     text = re.sub(r"//.*", "", file.read())
 
 NUMBERS = {"uint8_t": ctypes.c_uint8, "uint32_t": ctypes.c_uint32, "uint64_t": ctypes.c_uint64,
-           "size_t": ctypes.c_size_t, "velmar_code": ctypes.c_int}
+           "size_t": ctypes.c_size_t, "velmar_code": ctypes.c_int, "void": None}
 # The module passes these as addresses: buffers of any kind, and layouts.
-ADDRESSES = {"void", "uint8_t", "uint64_t", "velmar_layout"}
-ARRAYS = {"words", "mask", "bytes"}
+ADDRESSES = {"void", "uint8_t", "uint64_t", "velmar_layout", "velmar_dump"}
+ARRAYS = {"words", "mask", "bytes", "indexes", "positions"}
 
 
 def ctype(declaration):
     """The ctypes of a C declaration such as "const char* name" or "uint32_t* chip"."""
-    kind, stars, name = re.fullmatch(r"(?:const )?(\w+)([*]*) ?(\w*)", declaration).groups()
+    kind, stars, name = re.fullmatch(r"(?:const )?(\w+)((?:[*]| const)*) ?(\w*)",
+                                     declaration).groups()
+    stars = stars.count("*")
+    if kind == "char" and name in ("text", "losses"):  # the module frees it: it needs the address
+        return ctypes.POINTER(ctypes.c_void_p) if stars == 2 else ctypes.c_void_p
     if kind == "char":
-        return ctypes.c_char_p
-    if stars == "":
+        return ctypes.POINTER(ctypes.c_char_p) if stars == 2 else ctypes.c_char_p
+    if stars == 0:
         return NUMBERS[kind]
-    if stars == "**":
+    if stars == 2:
         return ctypes.POINTER(ctypes.c_void_p)
     if kind in ADDRESSES or name in ARRAYS:
         return ctypes.c_void_p
@@ -53,7 +57,7 @@ for name, members in structures.items():
                 for each in (" ".join(line.split()) for line in members.split(";")) if each]
     check(getattr(_library, name)._fields_ == expected,
           f"{name}: {getattr(_library, name)._fields_}; velmar.h has {expected}")
-check(len(structures) == 5, f"structures: {list(structures)}")
+check(len(structures) == 7, f"structures: {list(structures)}")
 
 constants = {name: int(value) for name, value in re.findall(r"(VELMAR_\w+) = (\d+)", text)}
 for name, value in (("NOT_ON_CHIP", _library.NOT_ON_CHIP), ("NO_ENTRY", _library.NO_ENTRY),

@@ -5,7 +5,7 @@ usage: catalogue_export.py SOURCE_DIR BUILD_DIR"""
 
 import json
 
-from command import check, finish, golden_tables, run
+from command import check, finish, golden_tables, rows, run
 
 
 def exported(*arguments):
@@ -22,9 +22,14 @@ shared = {(table.name, table.chip, one.name): {
     other.name for other in table.fields if other != one and
     one.offset < other.offset + other.width and other.offset < one.offset + one.width}
     for table in golden_tables() for one in table.fields}
+families = {(row["class"], row["accessor"]): {
+    "prefix": row["accessor"].removesuffix(str(row["port"])), "number": row["port"]}
+    for row in rows("fields.tsv") if row["port"] is not None}
 layouts = {}
 for table in exported()["tables"]:
     for field in table["fields"]:
+        family = families.get((table["name"], field["accessor"]))
+        check(field.get("family") == family, f"{table['name']} {field['accessor']}: not {family}")
         check(field["overlaps"] == any(
             shared.get((table["name"], layout["chip"], field["accessor"]))
             for layout in table["layouts"]), f"{table['name']} {field['accessor']}: overlaps")

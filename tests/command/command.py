@@ -52,7 +52,7 @@ def rows(name):
                         str(number(cell, port)) if ports and "n" in cell and title in ("id", "offset")
                         else cell for title, cell in row.items()}
                 for chip in row["chip"].split(","):
-                    yield {**each, "chip": chip}
+                    yield {**each, "chip": chip, "port": port}
 
 
 def golden_tables():

@@ -128,7 +128,9 @@ for command in commands + [["export"]]:
         wide = [line for line in shown.splitlines() if len(line) > columns and " " in line.strip()
                 and not re.search(r"0x[0-9a-f]{20}", line)]
         check(not wide, f"{command} at {columns} columns: {wide[:2]}")
-check(used == set(schemas), f"schemas without a document: {set(schemas) - used}")
+# The command prints losses as text; tests/bindings validates this document.
+of_libraries = {"velmar-translation"}
+check(used == set(schemas) - of_libraries, f"schemas without a document: {set(schemas) - used}")
 
 for verb in re.findall(r"^  ([a-z]+) ", run("--help")[1].decode(), re.M):
     if on_terminal(60, "--help") is None:

@@ -1,84 +1,84 @@
-// Dumps in every format: a reader throws a Failure, or yields whole entries in order, the same ones
-// however the input is split into pieces, and again after they are written and read back.
-
-#include <memory>
+// Bytes in every notation: a reader gives a fault with a remedy, or whole entries, the same ones again
+// after they are written and read.
 
 #include "Fuzzing.h"
-#include "input/EntryReader.h"
-#include "output/EntryWriter.h"
+#include "core/Documents.h"
+#include "core/Reading.h"
 
 namespace Fuzzing {
 namespace {
 
+using Core::Notation;
+
 // JSON is several times slower to read, so it has a program of its own.
 #ifdef FUZZ_JSON
-const char* const formats[] = {"json", "raw"};
-const Tool::Format writtenAs[] = {Tool::Format::json, Tool::Format::jsonl};
+constexpr Notation notations[] = {Notation::json, Notation::raw};
 #else
-const char* const formats[] = {"auto", "raw", "hex", "xxd"};
-const Tool::Format writtenAs[] = {Tool::Format::hex, Tool::Format::words};
+constexpr Notation notations[] = {Notation::automatic, Notation::raw, Notation::hex, Notation::xxd,
+                                  Notation::hexdump,   Notation::od,  Notation::csv};
 #endif
 
-struct Dump {
-  std::vector<U64> indexes;
-  std::vector<std::vector<U8>> entries;
-  std::string failure;
-};
+void requireWhole(const Core::Dump& dump, const Core::Layout& layout) {
+  require(dump.entryBytes() == layout.entryBytes(), "entries have their size", layout.name());
+  require(dump.size() == dump.count() * layout.entryBytes(), "entries are whole", layout.name());
+  std::vector<U32> indexes;
+  for (size_t i = 0; i < dump.count(); ++i) indexes.push_back(dump.index(i));
+  std::sort(indexes.begin(), indexes.end());
+  require(std::adjacent_find(indexes.begin(), indexes.end()) == indexes.end(),
+          "no index comes twice", layout.name());
+}
 
-/// The contents of standard input. A "*" of xxd may stand for a whole table: not all of it is read.
-Dump readDump(const Tool::Layout& layout, Tool::InputOptions options, size_t piece) {
-  constexpr size_t most = 16;
+std::string hexText(const Core::Dump& dump, U32 group) {
+  std::string text;
+  for (size_t i = 0; i < dump.count(); ++i) {
+    text += Core::formatText("{}:", dump.index(i));
+    for (U32 at = 0; at < dump.entryBytes(); at += group) {
+      text += ' ';
+      for (U32 j = group; j-- > 0;) text += Core::formatText("{:02x}", dump.bytes(i)[at + j]);
+    }
+    text += '\n';
+  }
+  return text;
+}
+
+std::string document(const Core::Dump& dump, const Core::Layout& layout,
+                     Core::EntryDocument::Style style) {
+  std::string text;
+  Core::EntryDocument entries(text, layout, layout.fields(), style);
+  for (size_t i = 0; i < dump.count(); ++i) entries.write(dump.index(i), dump.bytes(i));
+  entries.end();
+  return text;
+}
+
+std::string written(const Core::Dump& dump, const Core::Layout& layout, U32 way) {
+  const bool isPlain = dump.count() % 2 == 0;
+  switch (way) {
+    case 0:
+      return hexText(dump, 1);
+    case 1:
+      return hexText(dump, 4);
+    case 2:
+      return document(dump, layout, {Core::RowFormat::json, isPlain});
+    case 3:
+      return document(dump, layout, {Core::RowFormat::jsonLines, isPlain});
+    default:
+      return document(dump, layout, {Core::RowFormat::csv, false});
+  }
+}
+
+void checkWritten(const Core::Dump& dump, const Core::Layout& layout, U32 way) {
+  Core::ReadOptions options;
   options.beyondEnd = true;
-  Dump dump;
-  dump.failure = failureOf([&] {
-    const auto reader =
-        Tool::openEntries(std::make_unique<Tool::ByteStream>("-", nullptr, piece), layout, options);
-    for (Tool::Entry entry; dump.entries.size() < most && reader->next(entry);) {
-      if (reader->isAscending() && !dump.indexes.empty()) {
-        require(entry.index > dump.indexes.back(), "indexes ascend");
-      }
-      dump.indexes.push_back(entry.index);
-      dump.entries.emplace_back(entry.bytes, entry.bytes + layout.entryBytes());
-    }
-  });
-  return dump;
-}
-
-void printHex(Tool::Output& output, const Dump& dump, U32 group) {
-  for (size_t i = 0; i < dump.entries.size(); ++i) {
-    output.print("{}:", dump.indexes[i]);
-    for (size_t at = 0; at < dump.entries[i].size(); at += group) {
-      output.write(" ");
-      for (U32 j = group; j-- > 0;) output.print("{:02x}", dump.entries[i][at + j]);
-    }
-    output.write("\n");
+  const std::string text = written(dump, layout, way);
+  const auto again = Core::readDump(layout, options, text);
+  require(again.has_value(), "what is written is read",
+          again ? "" : messageOf(again.error()) + "\n" + text);
+  require(again->count() == dump.count(), "written and read, no entry is lost", text);
+  for (size_t i = 0; i < dump.count(); ++i) {
+    require(again->index(i) == dump.index(i), "written and read, the indexes are the same", text);
   }
-}
-
-void printJson(Tool::Output& output, const Dump& dump, const Tool::Layout& layout,
-               Tool::Format format) {
-  const auto writer = Tool::makeEntryWriter(output, layout, layout.fields(), {format, dump.entries.size() % 2 == 0, true});
-  for (size_t i = 0; i < dump.entries.size(); ++i) {
-    writer->write({dump.indexes[i], dump.entries[i].data()});
-  }
-  writer->end();
-}
-
-void checkWritten(const Dump& dump, const Tool::Layout& layout, Tool::Format format) {
-  MemoryPipe::clear();
-  Tool::Output output("", "never");
-  if (format == Tool::Format::hex)
-    printHex(output, dump, 1);
-  else if (format == Tool::Format::words)
-    printHex(output, dump, 4);
-  else
-    printJson(output, dump, layout, format);
-  output.finish();
-  MemoryPipe::rewind();
-  const Dump again = readDump(layout, {}, 4096);
-  require(again.failure.empty(), "what is written is read", again.failure);
-  require(again.indexes == dump.indexes, "written and read, the indexes are the same");
-  require(again.entries == dump.entries, "written and read, the entries are the same");
+  require(std::equal(dump.data(), dump.data() + dump.size(), again->data()),
+          "written and read, the entries are the same", text);
 }
 
 }  // namespace
@@ -87,27 +87,28 @@ void checkWritten(const Dump& dump, const Tool::Layout& layout, Tool::Format for
 extern "C" int LLVMFuzzerTestOneInput(const U8* data, size_t size) {
   using namespace Fuzzing;
   Input input(data, size);
-  const Tool::Layout& layout = chooseLayout(input);
-  Tool::InputOptions options;
-  options.format = formats[input.choose(std::size(formats))];
-  options.hexOrder = static_cast<Tool::HexOrder>(input.choose(4));
+  const Core::Layout& layout = chooseLayout(input);
+  Core::ReadOptions options;
+  options.beyondEnd = true;
+  options.notation = notations[input.choose(std::size(notations))];
+  options.hexOrder = static_cast<Core::HexOrder>(input.choose(4));
   const U32 strides[] = {0, layout.entryBytes(), layout.entryBytes() + 3, 128, 1, 65536};
   options.stride = strides[input.choose(std::size(strides))];
-  const U64 firsts[] = {0, 100, 0xffffffff};
+  const std::optional<U32> firsts[] = {std::nullopt, 100, 0xffffffff};
   options.first = firsts[input.choose(std::size(firsts))];
-  const size_t pieces[] = {7, 64, 4096};
-  const size_t piece = pieces[input.choose(std::size(pieces))];
-  const U32 then = input.choose(4);
+  const std::optional<U64> origins[] = {std::nullopt, 0, 0x1000};
+  options.origin = origins[input.choose(std::size(origins))];
+  const U32 way = input.choose(5);
 
-  MemoryPipe::fill(input.rest());
-  const Dump dump = readDump(layout, options, piece);
-  if (then == 1) {
-    MemoryPipe::rewind();
-    const Dump again = readDump(layout, options, piece == 7 ? 4096 : 7);
-    require(again.failure == dump.failure, "failures do not depend on pieces", again.failure);
-    require(again.entries == dump.entries, "entries do not depend on pieces");
-  } else if (then > 1 && !dump.entries.empty()) {
-    checkWritten(dump, layout, writtenAs[then - 2]);
+  const std::string text = input.rest();
+  const auto dump = Core::readDump(layout, options, text);
+  if (!succeeds(dump)) return 0;
+  requireWhole(*dump, layout);
+  for (const std::string& note : dump->notes) {
+    require(note == Core::printable(note), "a note is one printable line", note);
   }
+  // A "*" may stand for a whole table: not all of it is written.
+  constexpr size_t most = 64;
+  if (dump->count() != 0 && dump->count() <= most) checkWritten(*dump, layout, way);
   return 0;
 }

@@ -136,5 +136,23 @@ TEST(GoldenSweep, fields) {
   });
 }
 
+TEST(GoldenSweep, families) {
+  Differences differences;
+  forEachClass([&](const ClassProbe& probe, const GoldenClass& golden) {
+    const auto index = static_cast<U32>(&probe - classProbes().data());
+    const Velmar::Catalogue::Table table = Velmar::Catalogue::table(index);
+    for (U32 i = 0; i < table.fieldCount(); ++i) {
+      const std::string accessor = table.field(i).accessor;
+      const GoldenField* expected = golden.find(accessor);
+      if (!differences.areBoth(probe.name + "::" + accessor, expected != nullptr, true)) continue;
+      const Velmar::Catalogue::Family family = table.family(i);
+      differences.compare(probe.name + "::" + accessor + ": prefix of its family",
+                          expected->family.prefixLength, family.prefixLength);
+      differences.compare(probe.name + "::" + accessor + ": number in its family",
+                          expected->family.port, family.number);
+    }
+  });
+}
+
 }  // namespace
 }  // namespace VelmarTest

@@ -85,7 +85,12 @@ void addField(GoldenClass& golden, const Row& row, U32 port) {
                             [&](const GoldenField& each) { return each.accessor == accessor; });
   if (field == golden.fields.end()) {
     const std::string name = nameOf(row.at("hardware_name"), port);
-    golden.fields.push_back({accessor, name, valueOf(row.at("id"), port), row.at("type"), {}});
+    const std::size_t brace = row.at("accessor").find('{');
+    const GoldenField::Family family = brace == std::string::npos
+                                           ? GoldenField::Family{}
+                                           : GoldenField::Family{static_cast<U32>(brace), port};
+    golden.fields.push_back(
+        {accessor, name, valueOf(row.at("id"), port), row.at("type"), family, {}});
     field = golden.fields.end() - 1;
   }
   if (row.at("chip") == nothing) return;

@@ -19,6 +19,10 @@ struct GoldenField {
     U32 offset;
     U32 width;
   };
+  struct Family {
+    U32 prefixLength;  ///< 0: the row stands for this field alone
+    U32 port;
+  } family;
   std::map<U32, Place> places;  ///< by chip; a chip that lacks the field has none
 };
 

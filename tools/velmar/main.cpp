@@ -4,8 +4,7 @@
 #include <new>
 
 #include "cli/CommandLine.h"
-#include "model/Failure.h"
-#include "model/Text.h"
+#include "cli/Failure.h"
 #include "output/Output.h"
 #include "verbs/Verbs.h"
 
@@ -13,12 +12,11 @@ int main(int count, char** words) {
   using namespace Tool;
   installSignalHandlers();
   try {
-    const VerbList verbs = {{"decode", decodeVerb},       {"encode", encodeVerb},
-                            {"diff", diffVerb},           {"identify", identifyVerb},
-                            {"translate", translateVerb}, {"addr", addrVerb},
-                            {"layout", layoutVerb},       {"compare", compareVerb},
-                            {"chips", chipsVerb},         {"tables", tablesVerb},
-                            {"fields", fieldsVerb},       {"export", exportVerb}};
+    const VerbList verbs = {
+        {"decode", decodeVerb},     {"encode", encodeVerb},       {"diff", diffVerb},
+        {"identify", identifyVerb}, {"translate", translateVerb}, {"addr", addrVerb},
+        {"layout", layoutVerb},     {"compare", compareVerb},     {"chips", chipsVerb},
+        {"tables", tablesVerb},     {"fields", fieldsVerb},       {"export", exportVerb}};
     return runCommandLine(verbs, {words + std::min(count, 1), words + count});
   } catch (const std::bad_alloc&) {
     std::fputs("velmar: out of memory; free some and try again\n", stderr);

@@ -21,21 +21,27 @@ With numpy, whole columns are faster and easier to question:
     >>> (stg == 3).nonzero()[0].tolist()
     [200, 201, 202, 203]
 
-chips() and tables() list what there is; layout(...).fields lists the fields. load() reads dumps in
-text, such as those of xxd. All that is refused raises velmar.Error, whose text says what to do.
+load() reads dumps in text, too, such as those of xxd, and only the entries that are asked for:
 
-Numbers, checks and messages are those of the library libvelmar: the environment variable
-VELMAR_LIBRARY names its file, otherwise it is looked for beside the module's own prefix, and then
-where the system has its libraries. load() and compare() run the command velmar.
+    >>> list(velmar.load("samples/vlan-bcm56990.bin", "vlan", "56990_b0", where="stg=3").indexes)
+    [200, 201, 202, 203]
+
+identify() says of which table and chip a dump may be, and translate() moves it to another chip.
+chips() and tables() list what there is; layout(...).fields lists the fields. All that is refused
+raises velmar.Error, whose text says what to do.
+
+All of it is done by the library libvelmar: the environment variable VELMAR_LIBRARY names its file,
+otherwise it is looked for beside the module's own prefix, and then where the system has its
+libraries.
 """
 
 from . import _library
 from ._catalogue import Chip, Table, chips, find, tables
-from ._command import compare, load
+from ._dumps import compare, identify, load, translate
 from ._layout import Dump, Field, Layout, Place, layout, ranges
 from ._library import Error
 
 __version__ = _library.library.velmar_version().decode()
 
-__all__ = ["chips", "tables", "layout", "load", "find", "compare", "ranges",
+__all__ = ["chips", "tables", "layout", "load", "find", "compare", "identify", "translate", "ranges",
            "Layout", "Field", "Chip", "Table", "Dump", "Place", "Error"]

@@ -8,7 +8,7 @@ from typing import List, Optional, Union
 
 from . import _library
 from ._layout import Place, layout
-from ._library import Error, call, find as _index, info, library, text, u32
+from ._library import Error, call, find as _index, info, library, text, unsigned
 
 
 @dataclass(frozen=True)
@@ -52,8 +52,8 @@ def find(address: int, chip: Union[str, int], variant: int = 0) -> List[Place]:
     places: List[Place] = []
     while True:
         try:
-            place = info("velmar_entry_at", _library.velmar_place, of_chip, u32(variant, "variant"),
-                         u32(address, "address"), len(places))
+            place = info("velmar_entry_at", _library.velmar_place, of_chip, unsigned(variant, "variant"),
+                         unsigned(address, "address"), len(places))
         except Error as error:
             if error.code == _library.NO_ENTRY:
                 return places

@@ -7,11 +7,11 @@ import dataclasses
 import functools
 import operator
 from dataclasses import dataclass
-from typing import (TYPE_CHECKING, Any, Dict, Iterable, List, Mapping, Optional, Sequence, Tuple,
-                    Union, cast)
+from typing import (TYPE_CHECKING, Any, ContextManager, Dict, Iterable, List, Mapping, Optional,
+                    Sequence, Tuple, Union, cast)
 
 from . import _library
-from ._library import Error, call, chip_name, find, info, shown, table_name, text, u32
+from ._library import Error, call, chip_name, find, info, shown, table_name, text, unsigned
 
 if TYPE_CHECKING:
     import numpy
@@ -53,16 +53,19 @@ class Field:
 
 @dataclass(frozen=True)
 class Dump:
-    """Entries with their indexes, as load() reads them. decode(), columns() and diff() take it.
+    """Entries with their indexes, as load() reads them. The methods of its layout take it.
 
     layout     of the entries
     indexes    index of each entry in the table, or of each element of a register array
-    data       bytes of the entries, without gaps
+    data       bytes of the entries, without gaps; of a raw dump without a stride all bytes that were
+               read, not copied
+    notes      what was left out of the input, or is worth saying, one sentence each
     """
 
     layout: Layout
     indexes: Sequence[int]
     data: bytes = dataclasses.field(repr=False)
+    notes: Tuple[str, ...] = ()
 
 
 #: Entries without gaps, the first of index 0; or a dump, whose entries have indexes.
@@ -102,7 +105,7 @@ class Layout:
 
     def __init__(self, table: str, chip: Union[str, int], variant: int = 0):
         handle = ctypes.c_void_p()
-        call("velmar_find_layout", text(table), text(str(chip)), u32(variant, "variant"),
+        call("velmar_find_layout", text(table), text(str(chip)), unsigned(variant, "variant"),
              ctypes.byref(handle))
         self._handle = handle
         facts = info("velmar_layout_info", _library.velmar_layout_facts, handle)
@@ -221,27 +224,43 @@ class Layout:
         if such bits differ. For an entry that only one has, "change" is "only in OLD" or "only in
         NEW", and there are no "fields". Entries are matched by index.
         """
-        before, after = self._by_entry(old), self._by_entry(new)
-        changed = [index for index, entry in before.items() if entry != after.get(index, entry)]
-        rows: Dict[int, Dict[str, Any]] = {}
-        olds = self.decode(b"".join(before[index] for index in changed))
-        news = self.decode(b"".join(after[index] for index in changed))
-        for index, was, now in zip(changed, olds, news):
-            fields = {name: {"old": was.get(name, 0), "new": now.get(name, 0)}
-                      for name in {**was, **now} if was.get(name, 0) != now.get(name, 0)}
-            rows[index] = {"index": index, "change": "changed", "fields": fields}
-        for index in before.keys() ^ after.keys():
-            side = "OLD" if index in before else "NEW"
-            rows[index] = {"index": index, "change": f"only in {side}"}
-        return [rows[index] for index in sorted(rows)]
+        with self._as_dump(old) as before, self._as_dump(new) as after:
+            rows: List[Dict[str, Any]] = _library.document("velmar_difference", before,
+                                                           after)["entries"]
+        for row in rows:
+            for value in row.get("fields", {}).values():
+                value.update({side: _plain(value[side]) for side in ("old", "new")})
+        return rows
+
+    def select(self, data: Data, where: Union[str, Iterable[str]] = (), *,
+               indexes: Optional[str] = None, nonzero: bool = False) -> Dump:
+        """The entries of the data that fit, with their indexes.
+
+        where: conditions that must all hold, or one: "stg=3", "fidId>=0x10", "stg!=1,2", for a bitmap
+        "portBitmap~20-22" (it has these ports) and "!~" (none of them), for a family "spTreePort0-3=2".
+        indexes: those that are taken, such as "5,100-199". nonzero: only entries that are not zero.
+        Error: no condition, unknown field, value that the field does not have, and an index that the
+        data do not have.
+        """
+        conditions = [text(each) for each in ([where] if isinstance(where, str) else where)]
+        own, raw = self._entries(data)
+        positions, count = (ctypes.c_uint32 * len(own))(), ctypes.c_size_t()
+        with self._as_dump(data) as handle:
+            call("velmar_select", handle, (ctypes.c_char_p * len(conditions))(*conditions),
+                 len(conditions), None if indexes is None else text(indexes), nonzero, positions,
+                 len(own), ctypes.byref(count))
+        size, found = self.entry_bytes, positions[:count.value]
+        return Dump(self, [own[i] for i in found],
+                    b"".join(raw[size * i:size * (i + 1)] for i in found),
+                    data.notes if isinstance(data, Dump) else ())
 
     def address(self, index: int, identifier: int = 0) -> int:
         """The S-channel address of an entry, or of an element of a register array.
 
         Error: the table does not have the entry, the element or the identifier.
         """
-        return find("velmar_address", self._handle, u32(index, "index"),
-                    u32(identifier, "identifier"))
+        return find("velmar_address", self._handle, unsigned(index, "index"),
+                    unsigned(identifier, "identifier"))
 
     def _own_fields(self, count: int) -> Iterable[Field]:
         for index in range(count):
@@ -282,11 +301,33 @@ class Layout:
             raise Error(f"the dump has the index {wrong[0]!r}; give indexes from 0 to {limit - 1}")
         return indexes, raw
 
-    def _by_entry(self, data: Data) -> Dict[int, bytes]:
+    def _as_dump(self, data: Data) -> ContextManager[ctypes.c_void_p]:
+        """The data as a dump of the library."""
         indexes, raw = self._entries(data)
-        self._numbers(self.fields[0], raw)  # refuses what is not whole entries
-        size = self.entry_bytes
-        return {index: raw[size * i:size * (i + 1)] for i, index in enumerate(indexes)}
+        array = None if indexes == range(len(indexes)) else (
+            ctypes.c_uint32 * len(indexes))(*indexes)
+        return _library.made("velmar_dump_of", self._handle, self.variant, array, len(indexes), raw,
+                             len(raw))
+
+    def _from_dump(self, handle: ctypes.c_void_p, raw: bytes = b"") -> Dump:
+        """A dump of the library as one of the module; it may borrow the bytes that were read."""
+        data, size, note = ctypes.c_void_p(), ctypes.c_size_t(), ctypes.c_char_p()
+        call("velmar_dump_bytes", handle, ctypes.byref(data), ctypes.byref(size))
+        count = size.value // self.entry_bytes
+        notes: List[str] = []
+        call("velmar_dump_note", handle, 0, ctypes.byref(note))
+        while note.value is not None:
+            notes.append(note.value.decode())
+            call("velmar_dump_note", handle, len(notes), ctypes.byref(note))
+        is_borrowed = size.value == len(raw) and data.value == ctypes.cast(raw, ctypes.c_void_p).value
+        known = min(count, 1) if is_borrowed else count  # the entries of a raw dump follow each other
+        array = (ctypes.c_uint32 * known)()
+        call("velmar_dump_index", handle, 0, array, known)
+        follow = range(array[0], array[0] + count) if count else range(0)
+        indexes = follow if is_borrowed or array[:] == list(follow) else array[:]
+        if is_borrowed:
+            return Dump(self, indexes, raw, tuple(notes))
+        return Dump(self, indexes, ctypes.string_at(data.value or 0, size.value), tuple(notes))
 
     def _numbers(self, field: Field, raw: bytes) -> List[int]:
         """A column of numbers of any width."""
@@ -365,7 +406,7 @@ def layout(table: str, chip: Union[str, int], variant: int = 0) -> Layout:
     Names may be in any case, without underscores and without "Entry"; a chip also by its number.
     Error: unknown name, the chip does not have the table, or the table does not have the variant.
     """
-    return _layout(table_name(table), chip_name(chip), u32(variant, "variant"))
+    return _layout(table_name(table), chip_name(chip), unsigned(variant, "variant"))
 
 
 def ranges(ports: Iterable[int]) -> str:
@@ -398,6 +439,11 @@ def _raw(data: Data) -> bytes:
         raise Error(f"the data have items of {items.itemsize} bytes and format {items.format!r}; give "
                     "bytes (numpy: uint8), or little-endian words of 32 bits (numpy: <u4)")
     return items.tobytes()
+
+
+def _plain(value: Mapping[str, Any]) -> Value:
+    """A value of a document as decode() gives it."""
+    return cast(Value, value["ports"]) if "ports" in value else int(value["hex"], 16)
 
 
 def _is_number(field: Field) -> bool:

@@ -2,16 +2,19 @@
 
 from __future__ import annotations
 
+import contextlib
 import ctypes
+import json
 import operator
 import os
 import pathlib
 from ctypes import POINTER, c_char_p, c_int, c_size_t, c_uint32, c_uint64, c_void_p
-from typing import Any, Union
+from typing import Any, Dict, Iterator, Optional, Tuple, Union
 
 # velmar_code
 NOT_ON_CHIP = 6
 NO_ENTRY = 10
+NONE = (1 << 32) - 1  # no entry, chip or table
 # Numbers of velmar_field.type and velmar_table.kind
 TYPES = ("U8", "U16", "U32", "U64", "Raw128", "bitmap")
 KINDS = ("table", "register array")
@@ -20,12 +23,26 @@ KINDS = ("table", "register array")
 class Error(ValueError):
     """What velmar refuses. The text says what is wrong, and what to do about it.
 
-    code: the velmar_code of velmar.h; 0 if the module or the command refuses it, not the library.
+    code         the velmar_code of velmar.h; 0 if the module refuses it, not the library
+    line, entry, field
+                 of what is read: number of the line, from 1; index of the entry; accessor of the field.
+                 None where it is not known
+    choices      the keywords that mend it, with the values that they may have, such as {"hex_order":
+                 ("bytes", "words")}; an empty tuple for any value
     """
 
     def __init__(self, message: str, code: int = 0):
         super().__init__(message)
         self.code = code
+        self.line: Optional[int] = None
+        self.entry: Optional[int] = None
+        self.field: Optional[str] = None
+        self.choices: Dict[str, Tuple[str, ...]] = {}
+
+
+class velmar_fault(ctypes.Structure):
+    _fields_ = [("text", c_char_p), ("remedy", c_char_p), ("options", c_char_p), ("field", c_char_p),
+                ("line", c_uint64), ("column", c_uint64), ("entry", c_uint32), ("code", c_uint32)]
 
 
 class velmar_chip(ctypes.Structure):
@@ -54,11 +71,20 @@ class velmar_place(ctypes.Structure):
     _fields_ = [("layout", c_void_p), ("index", c_uint32), ("identifier", c_uint32)]
 
 
-# Buffers and layouts are void pointers here: an array, bytes and an address all go there.
-_buffer, _layout, _size = c_void_p, c_void_p, c_size_t
+class velmar_read_options(ctypes.Structure):
+    _fields_ = [("input", c_char_p), ("hex_order", c_char_p), ("byte_order", c_char_p),
+                ("origin", c_uint64), ("has_origin", c_uint32), ("has_first", c_uint32),
+                ("first", c_uint32), ("stride", c_uint32), ("beyond_end", c_uint32),
+                ("variant", c_uint32)]
+
+
+# Buffers, layouts and dumps are void pointers here: an array, bytes and an address all go there.
+_buffer, _layout, _dump, _size = c_void_p, c_void_p, c_void_p, c_size_t
 _read = [_layout, c_uint32, _buffer, _size]
+_options = [POINTER(velmar_read_options), _size]
+_made = POINTER(c_void_p)
 FUNCTIONS = {
-    "velmar_message": (c_char_p, []),
+    "velmar_last_fault": (c_int, [POINTER(velmar_fault), _size]),
     "velmar_version": (c_char_p, []),
     "velmar_chip_count": (c_uint32, []),
     "velmar_table_count": (c_uint32, []),
@@ -79,6 +105,19 @@ FUNCTIONS = {
     "velmar_address": (c_int, [_layout, c_uint32, c_uint32, POINTER(c_uint32)]),
     "velmar_entry_at": (c_int, [c_uint32, c_uint32, c_uint32, c_uint32, POINTER(velmar_place),
                                 _size]),
+    "velmar_dump_read": (c_int, [_layout, *_options, _buffer, _size, _made]),
+    "velmar_dump_of": (c_int, [_layout, c_uint32, _buffer, _size, _buffer, _size, _made]),
+    "velmar_dump_free": (None, [_dump]),
+    "velmar_dump_index": (c_int, [_dump, _size, _buffer, _size]),
+    "velmar_dump_bytes": (c_int, [_dump, _made, POINTER(_size)]),
+    "velmar_dump_note": (c_int, [_dump, _size, POINTER(c_char_p)]),
+    "velmar_select": (c_int, [_dump, POINTER(c_char_p), _size, c_char_p, c_uint32, _buffer, _size,
+                              POINTER(_size)]),
+    "velmar_text_free": (None, [c_void_p]),
+    "velmar_difference": (c_int, [_dump, _dump, _made]),
+    "velmar_comparison": (c_int, [c_uint32, c_uint32, c_uint32, c_uint32, _made]),
+    "velmar_identification": (c_int, [_buffer, _size, *_options, c_uint32, c_uint32, _made]),
+    "velmar_translation": (c_int, [_dump, c_uint32, _made, _made]),
 }
 
 
@@ -107,15 +146,45 @@ def _loaded(path: str) -> ctypes.CDLL:
     return library
 
 
-path = _path()
-library = _loaded(path)
+library = _loaded(_path())
 
 
-def call(function: str, *arguments: Any) -> None:
-    """Calls a function that returns a velmar_code. Raises Error with the library's message."""
-    code = getattr(library, function)(*arguments)
-    if code != 0:
-        raise Error(library.velmar_message().decode(), code)
+def call(function: str, *arguments: Any, source: str = "") -> None:
+    """Calls a function that returns a velmar_code. Raises its fault; `source` is what was read."""
+    if getattr(library, function)(*arguments) == 0:
+        return
+    fault = velmar_fault()
+    library.velmar_last_fault(ctypes.byref(fault), ctypes.sizeof(fault))
+    place = f"{source}:" if source else ""
+    if fault.line:
+        place += f"{fault.line}:" if source else f"line {fault.line}:"
+    message = fault.text.decode() + (f"; {fault.remedy.decode()}" if fault.remedy else "")
+    error = Error(f"{place} {message}" if place else message, fault.code)
+    error.line = fault.line or None
+    error.entry = None if fault.entry == NONE else fault.entry
+    error.field = fault.field.decode() or None
+    for option in filter(None, fault.options.decode().split(";")):
+        name, _, choices = option.partition("=")
+        error.choices[name] = tuple(filter(None, choices.split("|")))
+    raise error
+
+
+@contextlib.contextmanager
+def made(function: str, *arguments: Any, free: str = "velmar_dump_free",
+         source: str = "") -> Iterator[c_void_p]:
+    """What a function makes; it is freed at the end."""
+    result = c_void_p()
+    call(function, *arguments, ctypes.byref(result), source=source)
+    try:
+        yield result
+    finally:
+        getattr(library, free)(result)
+
+
+def document(function: str, *arguments: Any, source: str = "") -> Any:
+    """The JSON document that a function makes."""
+    with made(function, *arguments, free="velmar_text_free", source=source) as json_text:
+        return json.loads(ctypes.string_at(json_text.value or 0))
 
 
 def info(function: str, structure: type, *arguments: Any) -> Any:
@@ -134,11 +203,12 @@ def text(name: str) -> bytes:
     return name.encode(errors="backslashreplace")
 
 
-def u32(number: int, what: str) -> int:
+def unsigned(number: int, what: str, bits: int = 32) -> int:
     """A number as C takes it: ctypes would cut off what is too much, without a word."""
     number = operator.index(number)
-    if not 0 <= number < 1 << 32:
-        raise Error(f"{what} {shown(number)} is not a number of 32 bits; give 0 to {(1 << 32) - 1}")
+    if not 0 <= number < 1 << bits:
+        raise Error(f"{what} {shown(number)} is not a number of {bits} bits; give 0 to "
+                    f"{(1 << bits) - 1}")
     return int(number)
 
 

@@ -5,12 +5,10 @@
 
 #include "Velmar/Version.h"
 #include "cli/Completion.h"
+#include "cli/Failure.h"
 #include "cli/Help.h"
 #include "cli/ManPage.h"
 #include "cli/Parser.h"
-#include "model/Failure.h"
-#include "model/Names.h"
-#include "model/Text.h"
 #include "output/Output.h"
 
 namespace Tool {
@@ -55,20 +53,21 @@ int runCommandLine(const VerbList& verbs, const std::vector<std::string>& words)
   }
   const std::string& first = words[0];
   const std::vector<std::string> rest(words.begin() + 1, words.end());
-  const bool asksForHelp = first == "--help" || first == "-h" || first == "help";
+  const bool wantsOverview = first == "--help" || first == "-h" || first == "help";
   const size_t most = first == "help" ? 1 : 0;
   if ((first == "help" || first == "--version") && rest.size() > most) {
     fail("unexpected argument {}; leave it out", inQuotes(rest.back()));
   }
   if (first == "help" && !rest.empty()) return printHelp(findVerb(verbs, rest[0]));
-  if (asksForHelp) return print([&](size_t width) { return overview(verbs, width); });
+  if (wantsOverview) return print([&](size_t width) { return overview(verbs, width); });
   if (first == "--version") return print(formatText("velmar {}\n", Velmar::version()));
   // For the build and for the shell, not for people.
   if (first == "__man") return print(manPage(verbs));
   if (first == "__complete") return print(completion(verbs, rest));
   const Verb verb = findVerb(verbs, first);
-  const Arguments arguments = parseArguments(verb, rest);
-  return arguments.help ? printHelp(verb) : verb.run(arguments);
+  if (asksForHelp(rest)) return printHelp(verb);
+  parse(verb, rest);
+  return verb.run();
 }
 
 }  // namespace Tool

@@ -2,10 +2,7 @@
 
 #include <algorithm>
 
-#include "cli/Verb.h"
-#include "model/Failure.h"
-#include "model/Layout.h"
-#include "model/Text.h"
+#include "cli/Failure.h"
 
 namespace Tool {
 namespace {
@@ -56,17 +53,23 @@ Context contextOf(const Verb& verb, const std::vector<std::string>& words) {
 std::vector<std::string> tableProposals(const Context& context) {
   if (context.chip.empty()) return tableNames();
   std::vector<std::string> names;
-  for (const Catalogue::Table& table : tablesOn(findChip(context.chip)))
+  for (const Catalogue::Table& table : tablesOn(taken(findChip(context.chip)))) {
     names.emplace_back(table.name());
+  }
   return names;
+}
+
+/// The table that is named, on the chip that is.
+Layout layoutOf(const Context& context) {
+  const Catalogue::Table table = taken(findTable(context.positionals.front()));
+  return taken(Layout::of(table, taken(findChip(context.chip)), 0));
 }
 
 std::vector<std::string> fieldProposals(const Context& context) {
   if (context.positionals.empty()) return {};
-  const Catalogue::Table table = findTable(context.positionals.front());
-  if (context.chip.empty()) return fieldNames(table);
-  const Layout layout(table, findChip(context.chip), 0);
+  if (context.chip.empty()) return fieldNames(taken(findTable(context.positionals.front())));
   std::vector<std::string> names;
+  const Layout layout = layoutOf(context);
   for (const FieldPlace& place : layout.fields()) names.emplace_back(place.name());
   return names;
 }
@@ -81,8 +84,8 @@ std::vector<std::string> assignmentProposals(const Context& context, const std::
     return all;
   }
   const std::string name = word.substr(0, word.find_first_of("=!<>+-"));
-  const Layout layout(findTable(context.positionals.front()), findChip(context.chip), 0);
-  const FieldPlace& place = layout.find(name);
+  const Layout layout = layoutOf(context);
+  const FieldPlace& place = *taken(layout.find(name));
   all.clear();
   if (place.isBitmap()) all = {word.substr(0, sign + 1) + "none"};
   for (U32 value = 0; place.width <= fewBits && value < 1U << place.width; ++value) {
@@ -95,7 +98,7 @@ std::vector<std::string> proposals(Proposal kind, const Context& context, const 
   switch (kind) {
     case Proposal::chips:
       if (context.positionals.empty()) return chipNames();
-      return chipsOf(findTable(context.positionals.front()));
+      return chipsOf(taken(findTable(context.positionals.front())));
     case Proposal::tables:
       return tableProposals(context);
     case Proposal::fields:
@@ -115,7 +118,7 @@ std::vector<std::string> optionNames(const Verb& verb) {
   for (const Option& option : verb.options) {
     const std::string name = option.longName();
     names.push_back(name);
-    if (!option.isOfDump || !hasTwoDumps(verb)) continue;
+    if (!option.isOfDump() || !verb.hasTwoDumps()) continue;
     for (const char* side : {"--old-", "--new-"}) names.push_back(side + name.substr(2));
   }
   return names;
@@ -132,7 +135,7 @@ std::vector<std::string> proposalsFor(const Verb& verb, const std::vector<std::s
   }
   if (isOption(word) || word == "-") return optionNames(verb);
   if (verb.positionals.empty()) return {};
-  const bool takesMore = verb.positionals.back().member.list != nullptr;
+  const bool takesMore = verb.positionals.back().isList;
   const size_t place = context.positionals.size();
   if (place >= verb.positionals.size() && !takesMore) return {};
   return proposals(verb.positionals[std::min(place, verb.positionals.size() - 1)].proposal, context,

@@ -2,63 +2,66 @@
 
 #include <algorithm>
 
-#include "model/Failure.h"
-#include "model/Text.h"
+#include "cli/Failure.h"
 
 namespace Tool {
 namespace {
 
-/// Options that change nothing where a condition holds.
+/// Options that change nothing beside another one, or without it.
 struct Rule {
   const char* options;  ///< long names, separated by commas
-  bool (*holds)(const Arguments& arguments);
-  const char* when;  ///< with a remedy
+  const char* other;    ///< the other option
+  const char* values;   ///< of the other one, separated by commas; empty: any
+  bool without;         ///< they need the other option, with one of the values
+  const char* when;     ///< with a remedy
 };
 
-// clang-format off
 constexpr Rule rules[] = {
-    {"--format,--output,--color,--stat,--expand", [](const Arguments& a) { return a.quiet; },
+    {"--format,--output,--color,--stat,--expand", "--quiet", "", false,
      "with --quiet; give one of them"},
-    {"--fields,--color,--plain,--expand", [](const Arguments& a) { return a.check; },
-     "with --check; give one of them"},
-    {"--expand", [](const Arguments& a) { return a.stat; },
-     "with --stat, which counts each field; leave it out"},
-    {"--expand", [](const Arguments& a) { return !a.format.empty() && a.format != "table"; },
+    {"--fields,--color,--plain,--expand", "--check", "", false, "with --check; give one of them"},
+    {"--expand", "--stat", "", false, "with --stat, which counts each field; leave it out"},
+    {"--expand", "--format", "json,jsonl,csv,hex,words,raw", false,
      "with a --format for programs, which has all fields one by one; leave it out"},
-    {"--plain", [](const Arguments& a) { return a.format != "json" && a.format != "jsonl"; },
-     "without --format json or jsonl; give both"},
-    {"--color", [](const Arguments& a) { return !a.format.empty() && a.format != "table"; },
+    {"--plain", "--format", "json,jsonl", true, "without --format json or jsonl; give both"},
+    {"--color", "--format", "json,jsonl,csv,hex,words,raw", false,
      "with a --format for programs; leave it out"},
-    {"--hex-order", [](const Arguments& a) { return a.input == "raw" || a.input == "json"; },
-     "with --input raw or json; give one of them"},
-    {"--stride,--byte-order", [](const Arguments& a) { return a.input == "json"; },
-     "with --input json; give one of them"},
+    {"--hex-order", "--input", "raw,json,csv", false,
+     "with --input raw, json or csv; give one of them"},
+    {"--stride,--byte-order", "--input", "json,csv", false,
+     "with --input json or csv; give one of them"},
+    {"--origin", "--input", "raw,json,csv", false,
+     "with --input raw, json or csv; give one of them"},
+    // A verb with --base reads a dump only there.
+    {"--input,--hex-order,--byte-order,--stride,--first,--origin", "--base", "", true,
+     "without --base; give both"},
 };
 
-/// A verb with --base reads a dump only there.
-constexpr Rule withoutBase = {
-    "--input,--hex-order,--byte-order,--stride,--first", [](const Arguments& a) { return a.base.empty(); },
-    "without --base; give both"};
-// clang-format on
-
-void apply(const Rule& rule, const Verb& verb, const Arguments& arguments) {
-  if (!rule.holds(arguments)) return;
-  const std::vector<std::string> names = split(rule.options, ',');
-  for (const Option& option : verb.options) {
-    const bool isMeant = std::count(names.begin(), names.end(), option.longName()) != 0;
-    if (!isMeant || !option.member.isGiven(arguments)) continue;
-    fail("{} has no effect {}", option.longName(), rule.when);
-  }
+bool holds(const Rule& rule, const Verb& verb, const Typed& typed) {
+  const bool hasOther =
+      std::any_of(verb.options.begin(), verb.options.end(),
+                  [&rule](const Option& option) { return option.longName() == rule.other; });
+  if (!hasOther) return false;
+  const Texts* const given = typed.find(verb, rule.other);
+  const Texts values = split(rule.values, ',');
+  const bool isMet =
+      given != nullptr &&
+      (rule.values[0] == '\0' || std::count(values.begin(), values.end(), given->front()) != 0);
+  return isMet != rule.without;
 }
 
 }  // namespace
 
-void checkEffects(const Verb& verb, const Arguments& arguments) {
-  for (const Rule& rule : rules) apply(rule, verb, arguments);
-  const bool hasBase =
-      std::any_of(verb.options.begin(), verb.options.end(),
-                  [](const Option& option) { return option.longName() == "--base"; });
-  if (hasBase) apply(withoutBase, verb, arguments);
+void checkEffects(const Verb& verb, const Typed& typed) {
+  for (const Rule& rule : rules) {
+    const std::vector<std::string> names = split(rule.options, ',');
+    for (size_t i = 0; i < verb.options.size(); ++i) {
+      if (!typed.options[i]) continue;
+      const std::string name = verb.options[i].longName();
+      const bool isMeant = std::count(names.begin(), names.end(), name) != 0;
+      if (isMeant && holds(rule, verb, typed)) fail("{} has no effect {}", name, rule.when);
+    }
+  }
 }
 
 }  // namespace Tool

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "cli/Verb.h"
+#include "cli/Parser.h"
 
 namespace Tool {
 
 /// Fails for an option that changes nothing beside the others.
-void checkEffects(const Verb& verb, const Arguments& arguments);
+void checkEffects(const Verb& verb, const Typed& typed);
 
 }  // namespace Tool

@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-#include "model/Formatting.h"
-#include "model/Text.h"
+#include "output/Wrapping.h"
 
 namespace Tool {
 namespace {
@@ -60,7 +59,12 @@ const std::vector<Notation> notations = {
      "order"},
     {"other lines",
      "before and after the data, such as a prompt, are skipped, and a note counts them"},
+    {"addresses",
+     "before the data, as debuggers and boot loaders print them, with --origin; an offset such as "
+     "<table+16> needs none"},
+    {"logs", "time stamps, levels and names of processes before each line of data are skipped"},
     {"JSON", "what decode prints with --format json or jsonl"},
+    {"CSV", "what decode prints with --format csv, also from a spreadsheet"},
 };
 
 const std::vector<Notation> outputs = {
@@ -90,13 +94,13 @@ const std::vector<Notation> files = {
     {"share/doc/velmar/docs/schema/", "a JSON Schema for each JSON document"},
 };
 
-std::string headingOf(const Option& option) {
+std::string headingOf(const OptionText& option) {
   std::string heading = join(split(option.names, ','), ", ");
   if (option.value != nullptr) heading += formatText(" {}", option.value);
   return heading;
 }
 
-std::string meaningOf(const Option& option) {
+std::string meaningOf(const OptionText& option) {
   std::string meaning = option.meaning;
   if (option.choices[0] != '\0') {
     meaning += "; one of " + join(split(option.choices, ','), ", ");

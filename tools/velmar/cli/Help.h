@@ -15,9 +15,9 @@ std::string helpOf(const Verb& verb, size_t lineWidth);
 /// The command line of a verb, such as "velmar decode TABLE --chip CHIP [OPTION...] [FILE]".
 std::string usageOf(const Verb& verb);
 /// An option as the help lists it, such as "-o, --output FILE".
-std::string headingOf(const Option& option);
+std::string headingOf(const OptionText& option);
 /// What the help says of an option, with its choices.
-std::string meaningOf(const Option& option);
+std::string meaningOf(const OptionText& option);
 
 extern const char* const purposeText;
 extern const char* const exitCodeText;

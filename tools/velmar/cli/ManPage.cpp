@@ -1,9 +1,6 @@
 #include "cli/ManPage.h"
 
 #include "Velmar/Version.h"
-
-#include "model/Formatting.h"
-
 #include "cli/Help.h"
 
 namespace Tool {
@@ -12,13 +9,13 @@ namespace {
 /// A text in which the formatter of manual pages finds no commands.
 std::string escaped(const std::string& text) {
   std::string safe;
-  for (const char letter : text) {
-    if (letter == '-' || letter == '\\') {
-      safe += {'\\', letter};
-    } else if (letter == '\'') {
+  for (const char character : text) {
+    if (character == '-' || character == '\\') {
+      safe += {'\\', character};
+    } else if (character == '\'') {
       safe += "\\(aq";
     } else {
-      safe += letter;
+      safe += character;
     }
   }
   const bool isRequest = !safe.empty() && safe[0] == '.';

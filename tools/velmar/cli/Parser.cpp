@@ -4,9 +4,7 @@
 #include <cstring>
 
 #include "cli/Effects.h"
-#include "model/Failure.h"
-#include "model/Names.h"
-#include "model/Text.h"
+#include "cli/Failure.h"
 
 namespace Tool {
 namespace {
@@ -15,12 +13,12 @@ namespace {
 /// share a hyphen; after "--" no word is an option.
 class Parser {
  public:
-  Parser(const Verb& verb, const std::vector<std::string>& words)
-      : verb_(verb), options_(verb.options), words_(words) {
-    options_.push_back(Options::help);
+  Parser(const Verb& verb, const std::vector<std::string>& words) : verb_(verb), words_(words) {
+    typed_.positionals.resize(verb.positionals.size());
+    typed_.options.resize(verb.options.size());
   }
 
-  Arguments parse() {
+  Typed parse() {
     bool takesOptions = true;
     while (next_ < words_.size()) {
       const std::string& word = words_[next_++];
@@ -35,8 +33,7 @@ class Parser {
       }
     }
     checkComplete();
-    checkEffects(verb_, arguments_);
-    return arguments_;
+    return std::move(typed_);
   }
 
  private:
@@ -46,42 +43,40 @@ class Parser {
     }
     const Positional& positional = verb_.positionals[positional_];
     if (word.empty()) fail("an empty {} is given; give one, or leave it out", positional.value);
-    const Member& member = positional.member;
-    if (member.list != nullptr) return (arguments_.*member.list).push_back(word);
-    arguments_.*member.text = word;
-    ++positional_;
+    typed_.positionals[positional_].push_back(word);
+    if (!positional.isList) ++positional_;
   }
 
   void takeLong(const std::string& word) {
     const size_t sign = word.find('=');
     const std::string name = word.substr(0, sign);
     const bool isNew = name.rfind("--new-", 0) == 0;
-    if ((isNew || name.rfind("--old-", 0) == 0) && hasTwoDumps(verb_)) {
+    if ((isNew || name.rfind("--old-", 0) == 0) && verb_.hasTwoDumps()) {
       return takeOfSide(isNew, name, word);
     }
     const Option& option = find(name);
     if (sign == std::string::npos) return take(option);
-    if (option.member.flag != nullptr) fail("{} takes no value; give {} alone", name, name);
+    if (option.isSwitch()) fail("{} takes no value; give {} alone", name, name);
     put(option, word.substr(sign + 1));
   }
 
   /// Takes "--old-first" or "--new-first", as --first of one dump.
   void takeOfSide(bool isNew, const std::string& name, const std::string& word) {
     const Option& option = find("--" + name.substr(std::strlen("--old-")));
-    if (!option.isOfDump) fail("{} is for both dumps; give {}", name, option.longName());
-    for (const SideValue& side : arguments_.sides) {
-      if (side.isNew == isNew && side.member == option.member.text) failTwice(name);
+    if (!option.isOfDump()) fail("{} is for both dumps; give {}", name, option.longName());
+    for (const Typed::OfSide& side : typed_.sides) {
+      if (side.isNew == isNew && side.option == &option) failTwice(name);
     }
     const bool hasValue = word.size() > name.size();
     const std::string value = hasValue ? word.substr(name.size() + 1) : nextWord(option);
     checkValue(option, value);
-    arguments_.sides.push_back({isNew, option.member.text, value});
+    typed_.sides.push_back({isNew, &option, value});
   }
 
   void takeShort(const std::string& word) {
     for (size_t i = 1; i < word.size(); ++i) {
       const Option& option = find({'-', word[i]});
-      const bool hasValue = option.member.flag == nullptr && i + 1 < word.size();
+      const bool hasValue = !option.isSwitch() && i + 1 < word.size();
       if (hasValue) return put(option, word.substr(i + 1));
       take(option);
     }
@@ -89,20 +84,25 @@ class Parser {
 
   const Option& find(const std::string& name) const {
     std::vector<std::string> longNames;
-    for (const Option& option : options_) {
+    for (const Option& option : verb_.options) {
       const std::vector<std::string> names = split(option.names, ',');
       if (std::count(names.begin(), names.end(), name) != 0) return option;
       // Too many names resemble a single letter.
       if (name.size() > 2) longNames.push_back(option.longName());
     }
+    if (name.size() > 2) longNames.push_back(Options::help.longName());
     fail("{} has no option {}; {}{}", verb_.name, inQuotes(name), didYouMean(name, longNames),
          seeHelp());
   }
 
+  std::optional<Texts>& textsOf(const Option& option) {
+    return typed_.options[static_cast<size_t>(&option - verb_.options.data())];
+  }
+
   /// A switch, or an option whose value is the next word, whatever that begins with.
   void take(const Option& option) {
-    if (option.member.flag != nullptr) {
-      arguments_.*option.member.flag = true;
+    if (option.isSwitch()) {
+      textsOf(option) = Texts();
     } else {
       put(option, nextWord(option));
     }
@@ -129,10 +129,10 @@ class Parser {
 
   void put(const Option& option, const std::string& value) {
     checkValue(option, value);
-    if (option.member.list != nullptr) return (arguments_.*option.member.list).push_back(value);
-    if (std::count(given_.begin(), given_.end(), &option) != 0) failTwice(option.longName());
-    given_.push_back(&option);
-    arguments_.*option.member.text = value;
+    std::optional<Texts>& texts = textsOf(option);
+    if (texts && option.times == Times::once) failTwice(option.longName());
+    if (!texts) texts.emplace();
+    texts->push_back(value);
   }
 
   [[noreturn]] static void failTwice(const std::string& name) {
@@ -140,36 +140,67 @@ class Parser {
   }
 
   void checkComplete() const {
-    for (const Option& option : options_) check(option.required, option.member, option.longName());
-    for (const Positional& positional : verb_.positionals) {
-      check(positional.required, positional.member, positional.value);
+    for (size_t i = 0; i < verb_.options.size(); ++i) {
+      const Option& option = verb_.options[i];
+      if (option.required && !typed_.options[i]) failMissing(option.longName());
+    }
+    for (size_t i = 0; i < verb_.positionals.size(); ++i) {
+      const Positional& positional = verb_.positionals[i];
+      if (positional.required && typed_.positionals[i].empty()) failMissing(positional.value);
     }
   }
 
-  void check(bool isRequired, const Member& member, const std::string& name) const {
-    if (isRequired && !member.isGiven(arguments_)) fail("{} is missing; {}", name, seeHelp());
+  [[noreturn]] void failMissing(const std::string& name) const {
+    fail("{} is missing; {}", name, seeHelp());
   }
 
   std::string seeHelp() const { return formatText("see \"velmar {} --help\"", verb_.name); }
 
   const Verb& verb_;
-  std::vector<Option> options_;
   const std::vector<std::string>& words_;
-  Arguments arguments_;
+  Typed typed_;
   size_t next_ = 0;
   size_t positional_ = 0;
-  std::vector<const Option*> given_;
 };
+
+/// Hands what is typed to the request of the verb.
+void handOver(const Verb& verb, const Typed& typed) {
+  for (size_t i = 0; i < verb.positionals.size(); ++i) {
+    if (!typed.positionals[i].empty()) verb.positionals[i].take(typed.positionals[i]);
+  }
+  for (size_t i = 0; i < verb.options.size(); ++i) {
+    const Option& option = verb.options[i];
+    if (!typed.options[i]) continue;
+    if (!option.isOfDump()) option.take(*typed.options[i]);
+    if (!option.isOfDump()) continue;
+    for (ReadOptions* dump : verb.dumps) {
+      option.takeForDump(*dump, typed.options[i]->front(), verb.hasTwoDumps());
+    }
+  }
+  for (const Typed::OfSide& side : typed.sides) {
+    side.option->takeForDump(*verb.dumps[side.isNew ? 1 : 0], side.text, false);
+  }
+}
 
 }  // namespace
 
-Arguments parseArguments(const Verb& verb, const std::vector<std::string>& words) {
-  // Whoever asks for the help gets it, whatever else is wrong.
+const Texts* Typed::find(const Verb& verb, const char* longName) const {
+  for (size_t i = 0; i < options.size(); ++i) {
+    if (options[i] && verb.options[i].longName() == longName) return &*options[i];
+  }
+  return nullptr;
+}
+
+bool asksForHelp(const std::vector<std::string>& words) {
   const auto end = std::find(words.begin(), words.end(), "--");
-  const auto isHelp = [](const std::string& word) { return word == "-h" || word == "--help"; };
-  Arguments arguments;
-  arguments.help = std::any_of(words.begin(), end, isHelp);
-  return arguments.help ? arguments : Parser(verb, words).parse();
+  return std::any_of(words.begin(), end,
+                     [](const std::string& word) { return word == "-h" || word == "--help"; });
+}
+
+void parse(const Verb& verb, const std::vector<std::string>& words) {
+  const Typed typed = Parser(verb, words).parse();
+  checkEffects(verb, typed);
+  handOver(verb, typed);
 }
 
 }  // namespace Tool

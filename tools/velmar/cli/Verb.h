@@ -1,7 +1,6 @@
 #pragma once
 
-#include <algorithm>
-#include <vector>
+#include <memory>
 
 #include "cli/Options.h"
 
@@ -15,14 +14,14 @@ struct Verb {
   std::vector<Positional> positionals;
   std::vector<Option> options;
   std::vector<const char*> examples;
-  int (*run)(const Arguments& arguments);
-};
+  /// Answers the request that the options have written.
+  std::function<int()> run;
+  /// Of the dumps that the verb reads: one, or the old and the new one.
+  std::vector<ReadOptions*> dumps = {};
 
-/// Whether a verb takes two dumps, each with its own --old- and --new- options.
-inline bool hasTwoDumps(const Verb& verb) {
-  return std::any_of(verb.positionals.begin(), verb.positionals.end(),
-                     [](const Positional& one) { return one.hasTwoDumps; });
-}
+  /// Whether it takes two dumps, each with its own --old- and --new- options.
+  bool hasTwoDumps() const { return dumps.size() == 2; }
+};
 
 /// A verb that is made only when it is needed.
 struct VerbName {

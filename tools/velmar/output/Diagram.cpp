@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "model/Families.h"
-
 namespace Tool {
 namespace {
 
@@ -44,8 +42,7 @@ std::vector<std::vector<const FieldPlace*>> lanesOf(const Layout& layout) {
 }
 
 bool areNeighbours(const FieldPlace& high, const FieldPlace& low) {
-  return low.offset + low.width == high.offset && low.width == high.width &&
-         areOfOneFamily(low.field, high.field);
+  return low.offset + low.width == high.offset && low.width == high.width && high.isOfFamilyOf(low);
 }
 
 std::vector<Piece> piecesIn(const std::vector<const FieldPlace*>& lane, U32 row, bool asFamilies) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Layout.h"
+#include "core/Families.h"
 #include "output/Output.h"
 
 namespace Tool {

@@ -11,8 +11,8 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "model/Failure.h"
-#include "model/Text.h"
+#include "cli/Failure.h"
+#include "output/Wrapping.h"
 
 namespace Tool {
 namespace {

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "AsicUtils/Types.h"
-#include "model/Formatting.h"
+#include "Tool.h"
+#include "core/Listing.h"
 
 namespace Tool {
 
@@ -13,6 +13,14 @@ enum class Style { plain, strong, faint, removed, added };
 enum class Format { table, json, jsonl, csv, hex, words, raw };
 /// The format of a value of --format; the table if there is none.
 Format formatOf(const std::string& name);
+/// Whether it is one of core's, for programs.
+constexpr bool isRowFormat(Format format) {
+  return format == Format::json || format == Format::jsonl || format == Format::csv;
+}
+constexpr RowFormat rowFormatOf(Format format) {
+  if (format == Format::csv) return RowFormat::csv;
+  return format == Format::jsonl ? RowFormat::jsonLines : RowFormat::json;
+}
 
 /// Where a verb writes its result: standard output, or a file that appears under its name only when
 /// it is complete. Text is collected and written in large pieces.
@@ -26,6 +34,8 @@ class Output {
 
   /// A loop that writes much calls flushIfLarge() between its items.
   void write(std::string_view piece) { text_.append(piece); }
+  /// What is not written yet, for writers that append to it.
+  std::string& text() { return text_; }
   template <class... Arguments>
   void print(fmt::format_string<Arguments...> format, Arguments&&... arguments) {
     appendFormatted(text_, format, fmt::make_format_args(arguments...));
@@ -39,7 +49,6 @@ class Output {
   void flushIfLarge() {
     if (text_.size() >= flushSize) flush();
   }
-  void flush();
   /// Writes what is left and gives the file its name.
   void finish();
 
@@ -51,6 +60,7 @@ class Output {
   static constexpr size_t flushSize = 1U << 16;
 
   void openFile();
+  void flush();
   [[noreturn]] void failOpening() const;
   [[noreturn]] void failWriting() const;
 

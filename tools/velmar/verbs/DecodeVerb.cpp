@@ -1,119 +1,70 @@
-#include <algorithm>
 #include <limits>
 
-#include "model/Condition.h"
-#include "model/Failure.h"
-#include "model/Text.h"
-#include "output/EntryWriter.h"
-#include "output/Listing.h"
-#include "output/Progress.h"
-#include "output/ValueText.h"
-#include "verbs/Target.h"
+#include "core/Condition.h"
+#include "core/Documents.h"
+#include "output/Entries.h"
+#include "output/Listings.h"
+#include "verbs/Inputs.h"
+#include "verbs/Requests.h"
 #include "verbs/Verbs.h"
 
 namespace Tool {
 namespace {
 
-/// The entries to show.
-class Selection {
- public:
-  Selection(const Arguments& arguments, const Layout& layout)
-      : nonzero_(arguments.nonzero), zeros_(layout.entryBytes()), indexes_(indexesOf(arguments)) {
-    if (!indexes_.isAll() && !arguments.check) {
-      checkIndexes(layout, indexes_, "--index", join(arguments.index, ","));
-    }
-    for (const std::string& text : arguments.where) conditions_.emplace_back(layout, text);
-  }
-
-  bool has(const Entry& entry) const {
-    if (!indexes_.has(entry.index)) return false;
-    if (nonzero_ && std::equal(zeros_.begin(), zeros_.end(), entry.bytes)) return false;
-    return std::all_of(
-        conditions_.begin(), conditions_.end(),
-        [&entry](const Condition& condition) { return condition.holdsFor(entry.bytes); });
-  }
-  const IndexSet& indexes() const { return indexes_; }
-  bool mayBeEmpty() const { return !indexes_.isAll() || !conditions_.empty(); }
-
- private:
-  bool nonzero_;
-  std::vector<U8> zeros_;
-  IndexSet indexes_;
-  std::vector<Condition> conditions_;
+struct DecodeRequest {
+  TableRequest table;
+  InputRequest input;
+  OutputRequest output;
+  IndexRequest index;
+  Texts fields, where;
+  std::optional<U64> limit;
+  bool nonzero = false, plain = false, expand = false, check = false;
 };
 
-std::string onlyFile(const Arguments& arguments) {
-  if (arguments.files.size() > 1) {
-    fail("more than one dump: {} and {}; give one", arguments.files[0], arguments.files[1]);
-  }
-  return arguments.files.empty() ? "" : arguments.files.front();
-}
-
-/// Goes through the selected entries of a dump.
-class Walk {
+/// The entries that are asked for, as positions in the dump.
+class Selected {
  public:
-  Walk(const Arguments& arguments, const Layout& layout, Output& output)
-      : selection_(arguments, layout),
-        reader_(openEntries(std::make_unique<ByteStream>(onlyFile(arguments),
-                                                         [this, &output] {
-                                                           if (selected_ != 0) output.flush();
-                                                         }),
-                            layout, inputOptionsOf(arguments))),
-        limit_(numberOf("--limit", arguments.limit, std::numeric_limits<U32>::max(),
-                        std::numeric_limits<U64>::max())),
-        progress_(output, reader_->sizeInBytes()) {
-    if (limit_ == 0) fail("--limit 0 shows nothing; give 1 or more");
+  Selected(const DecodeRequest& request, const Layout& layout)
+      : selection_(taken(Selection::of(layout, request.where), "--where")), limit_(request.limit) {
+    if (!request.check) request.index.check(layout, "--index");
+    selection_.indexes = request.index.set;
+    selection_.nonzero = request.nonzero;
   }
 
-  bool next(Entry& entry) {
-    while (selected_ < limit_ && reader_->next(entry)) {
-      progress_.step(reader_->bytesTaken());
-      if (entry.index > selection_.indexes().last() && reader_->isAscending()) break;
-      if (!selection_.has(entry)) continue;
-      ++selected_;
-      return true;
-    }
-    return false;
+  std::vector<size_t> in(const Dump& dump) {
+    std::vector<size_t> positions = selection_.in(dump);
+    isEmpty_ = positions.empty();
+    if (limit_ && positions.size() > *limit_) positions.resize(*limit_);
+    return positions;
   }
 
   /// Fails for a document without entries: whoever reads it cannot tell why.
   void checkAny() const {
-    if (selected_ == 0 && selection_.mayBeEmpty()) {
-      fail("no entry of the dump is selected; check --index and --where");
-    }
+    if (lacksAll()) fail("{}", nothingSelected);
   }
 
   /// Notes what the result does not show.
-  void report() {
-    progress_.clear();
-    const std::string unmet = selected_ < limit_ ? selection_.indexes().unmet() : "";
-    if (selected_ == 0 && selection_.mayBeEmpty()) {
-      std::fprintf(stderr,
-                   "velmar: note: no entry of the dump is selected; check --index and --where\n");
+  void report() const {
+    const std::string unmet = selection_.indexes.unmet();
+    if (lacksAll()) {
+      std::fprintf(stderr, "velmar: note: %s\n", nothingSelected);
     } else if (!unmet.empty()) {
       std::fprintf(stderr, "velmar: note: the dump has no entry with index %s\n", unmet.c_str());
     }
   }
 
  private:
-  Selection selection_;
-  U64 selected_ = 0;
-  std::unique_ptr<EntryReader> reader_;
-  U64 limit_;
-  Progress progress_;
-};
+  static constexpr const char* nothingSelected =
+      "no entry of the dump is selected; check --index and --where";
 
-int decode(const Arguments& arguments, const Layout& layout, Output& output) {
-  const std::vector<FieldPlace> fields = fieldsOf(arguments, layout);
-  Walk walk(arguments, layout, output);
-  const auto writer = makeEntryWriter(output, layout, fields, styleOf(arguments));
-  for (Entry entry; walk.next(entry); output.flushIfLarge()) writer->write(entry);
-  if (formatOf(arguments.format) == Format::json) walk.checkAny();
-  writer->end();
-  output.finish();
-  walk.report();
-  return exitSuccess;
-}
+  bool lacksAll() const {
+    return isEmpty_ && (!selection_.indexes.isAll() || selection_.hasConditions());
+  }
+
+  Selection selection_;
+  std::optional<U64> limit_;
+  bool isEmpty_ = false;
+};
 
 /// The reserved bits that are set in an entry, as ranges such as "127:96".
 std::vector<std::string> setReservedBits(const Layout& layout, const U8* bytes) {
@@ -131,79 +82,128 @@ std::vector<std::string> setReservedBits(const Layout& layout, const U8* bytes) 
   return ranges;
 }
 
-/// Prints the findings of --check, each as it is found.
-class Findings {
- public:
-  Findings(Output& output, const Layout& layout, Format format)
-      : output_(output),
-        layout_(layout),
-        isTable_(format == Format::table),
-        rows_(output, format, {"index", "beyondEnd", "bits"},
-              frameOf("findings", "findings", sourceJson(layout))) {}
-
-  void examine(const Entry& entry) {
-    const std::vector<std::string> bits = setReservedBits(layout_, entry.bytes);
-    const bool beyond = entry.index >= layout_.indexCount();
-    if (bits.empty() && !beyond) return;
-    any_ = true;
-    if (isTable_) return printLine(entry.index, beyond, bits);
-    rows_.write({entry.index, Cell(beyond).shownAs(beyond ? "true" : "false"), bits});
-  }
-
-  void end() { rows_.end(); }
-  bool any() const { return any_; }
-
- private:
-  void printLine(U64 index, bool beyond, const std::vector<std::string>& bits) {
-    output_.print("{} {}:", layout_.name(), index);
-    if (beyond) output_.write(" beyond the end of the table");
-    if (beyond && !bits.empty()) output_.write(";");
-    if (!bits.empty()) output_.print(" bits outside all fields: {}", join(bits, " "));
-    output_.write("\n");
-  }
-
-  Output& output_;
-  const Layout& layout_;
-  bool isTable_;
-  RowWriter rows_;
-  bool any_ = false;
+/// What --check reports of an entry.
+struct Finding {
+  U32 index;
+  bool isBeyondEnd;
+  std::vector<std::string> bits;  ///< outside all fields
 };
 
-int check(const Arguments& arguments, const Layout& layout, Output& output) {
-  Walk walk(arguments, layout, output);
-  Findings findings(output, layout, formatOf(arguments.format));
-  for (Entry entry; walk.next(entry); output.flushIfLarge()) findings.examine(entry);
-  findings.end();
-  output.finish();
-  walk.report();
-  return findings.any() ? exitFinding : exitSuccess;
+std::vector<Finding> findingsIn(const Layout& layout, const Dump& dump,
+                                const std::vector<size_t>& positions) {
+  std::vector<Finding> findings;
+  for (const size_t i : positions) {
+    const bool isBeyondEnd = dump.index(i) >= layout.indexCount();
+    const bool hasBits = layout.hasReservedBits(dump.bytes(i));
+    if (!hasBits && !isBeyondEnd) continue;
+    findings.push_back({dump.index(i), isBeyondEnd, {}});
+    if (hasBits) findings.back().bits = setReservedBits(layout, dump.bytes(i));
+  }
+  return findings;
 }
 
-int run(const Arguments& arguments) {
-  const Layout layout = layoutOf(arguments);
-  Output output(arguments.output, arguments.color);
-  return arguments.check ? check(arguments, layout, output) : decode(arguments, layout, output);
+/// For people: entries beyond the end that follow each other share a line.
+void writeFindings(Output& output, const Layout& layout, const std::vector<Finding>& findings) {
+  for (size_t i = 0, end; i < findings.size(); i = end) {
+    const Finding& finding = findings[i];
+    end = i + 1;
+    while (finding.bits.empty() && end < findings.size() && findings[end].bits.empty() &&
+           findings[end].index == findings[end - 1].index + 1) {
+      ++end;
+    }
+    output.print("{} {}", layout.name(), finding.index);
+    if (end - i > 1) output.print("-{}", findings[end - 1].index);
+    output.write(":");
+    if (finding.isBeyondEnd) output.write(" beyond the end of the table");
+    if (finding.isBeyondEnd && !finding.bits.empty()) output.write(";");
+    if (!finding.bits.empty()) {
+      output.print(" bits outside all fields: {}", join(finding.bits, " "));
+    }
+    output.write("\n");
+    output.flushIfLarge();
+  }
+}
+
+void writeRows(Output& output, const Layout& layout, Format format,
+               const std::vector<Finding>& findings) {
+  RowWriter rows(output.text(), rowFormatOf(format), {"index", "beyondEnd", "bits"},
+                 frameOf("findings", "findings", sourceJson(layout)));
+  for (const Finding& finding : findings) {
+    rows.write({finding.index,
+                Cell(finding.isBeyondEnd).shownAs(finding.isBeyondEnd ? "true" : "false"),
+                finding.bits});
+    output.flushIfLarge();
+  }
+  rows.end();
+}
+
+int run(DecodeRequest& request) {
+  const Layout layout = request.table.layout();
+  Output output(request.output.file, request.output.color);
+  Selected selected(request, layout);
+  const std::vector<FieldPlace> fields =
+      fieldsOf(layout, request.fields, request.output.isForPeople());
+  request.input.options.beyondEnd = request.check;
+  const DumpInput input(request.input.file, layout, request.input.options);
+  const std::vector<size_t> positions = selected.in(input.dump);
+  const Format format = request.output.format;
+  std::vector<Finding> findings;
+  if (request.check) {
+    findings = findingsIn(layout, input.dump, positions);
+    if (format == Format::table) writeFindings(output, layout, findings);
+    if (format != Format::table) writeRows(output, layout, format, findings);
+  } else {
+    if (format == Format::json) selected.checkAny();
+    writeEntries(output, layout, fields, {format, request.plain, !request.expand}, input.dump,
+                 positions);
+  }
+  output.finish();
+  selected.report();
+  return findings.empty() ? exitSuccess : exitFinding;
 }
 
 }  // namespace
 
 Verb decodeVerb() {
+  const auto request = std::make_shared<DecodeRequest>();
+  DecodeRequest& to = *request;
+  const auto takeLimit = [&to](const Texts& texts) {
+    to.limit = numberOf("--limit", texts.front(), std::numeric_limits<U32>::max());
+    if (to.limit == 0U) fail("--limit 0 shows nothing; give 1 or more");
+  };
   return {"decode",
           "Decodes a dump of a table: address and fields of each entry.",
           "A dump is raw binary (little-endian, entries one after another), hex text (one entry "
-          "per line), the output of xxd, or the JSON of this command; the manual page, velmar(1), "
-          "lists the notations under INPUT. In hex text, groups of two digits are bytes and groups "
-          "of eight are 32-bit words; for anything else give --hex-order. A dump is read as a "
-          "stream and may be of any size; a line of text or a JSON entry may have up to 1 MiB.",
-          {Positionals::table, Positionals::dump},
-          {Options::chip, Options::variant, Options::index, Options::fields, Options::where,
-           Options::nonzero, Options::limit, Options::plain, Options::expand, Options::check,
-           Options::input, Options::hexOrder, Options::byteOrder, Options::stride, Options::first,
-           Options::listFormat, Options::output, Options::color},
+          "per line), the output of xxd, or the JSON or CSV of this command; the manual page, "
+          "velmar(1), lists the notations under INPUT. In hex text, groups of two digits are bytes "
+          "and groups of eight are 32-bit words; for anything else give --hex-order. A dump may "
+          "have up to 64 MiB, with what --stride skips.",
+          {{Positionals::table, into(to.table.table)},
+           {Positionals::dump, intoOnlyFile(to.input.file)}},
+          {{Options::chip, into(to.table.chip)},
+           {Options::variant, intoVariant(to.table.variant)},
+           {Options::index, into(to.index)},
+           {Options::fields, into(to.fields)},
+           {Options::where, into(to.where)},
+           {Options::nonzero, into(to.nonzero)},
+           {Options::limit, takeLimit},
+           {Options::plain, into(to.plain)},
+           {Options::expand, into(to.expand)},
+           {Options::check, into(to.check)},
+           Options::input,
+           Options::hexOrder,
+           Options::byteOrder,
+           Options::stride,
+           Options::first,
+           Options::origin,
+           {Options::listFormat, into(to.output.format)},
+           {Options::output, into(to.output.file)},
+           {Options::color, into(to.output.color)}},
           {"velmar decode VlanEntry --chip BCM56990_B0 samples/vlan-bcm56990.bin --where stg=3,4",
            "velmar encode VlanMpls --chip 56980 --index 7 mplsEnable=1 --whole -f raw | velmar "
            "decode VlanMpls --chip 56980 --nonzero --format jsonl -"},
-          run};
+          [request] { return run(*request); },
+          {&to.input.options}};
 }
 
 }  // namespace Tool

@@ -1,64 +1,30 @@
 #include <algorithm>
-#include <cstring>
-#include <optional>
 
-#include "model/Failure.h"
-#include "model/Families.h"
-#include "model/Text.h"
-#include "model/Value.h"
-#include "output/EntryWriter.h"
-#include "output/Listing.h"
-#include "output/Progress.h"
-#include "output/ValueText.h"
-#include "verbs/Target.h"
+#include "core/Difference.h"
+#include "core/Documents.h"
+#include "output/Entries.h"
+#include "output/Listings.h"
+#include "verbs/Inputs.h"
+#include "verbs/Requests.h"
 #include "verbs/Verbs.h"
 
 namespace Tool {
 namespace {
 
-/// One of the two dumps, at its next entry.
-class Side {
- public:
-  Side(const std::string& path, const Layout& layout, const InputOptions& options)
-      : path_(path),
-        reader_(openEntries(std::make_unique<ByteStream>(path, nullptr), layout, options)) {
-    take();
-  }
-
-  bool hasEntry() const { return hasEntry_; }
-  const Entry& entry() const { return entry_; }
-  U64 sizeInBytes() const { return reader_->sizeInBytes(); }
-  U64 bytesTaken() const { return reader_->bytesTaken(); }
-  void take() {
-    const bool checks = hasEntry_ && !reader_->isAscending();
-    const U64 last = entry_.index;
-    hasEntry_ = reader_->next(entry_);
-    if (checks && hasEntry_ && entry_.index <= last) {
-      fail("{}: entry {} comes after entry {}; sort the dump by index", path_, entry_.index, last);
-    }
-  }
-
- private:
-  std::string path_;
-  std::unique_ptr<EntryReader> reader_;
-  Entry entry_{0, nullptr};
-  bool hasEntry_ = false;
+struct DiffRequest {
+  TableRequest table;
+  InputRequest old, now;
+  OutputRequest output;
+  IndexRequest index;
+  Texts fields;
+  bool common = false, stat = false, expand = false, quiet = false;
 };
 
-/// A value in the forms in which differences are printed.
-struct ValueForms {
-  std::string text;   ///< for people
-  std::string plain;  ///< for spreadsheets
-  std::string json;
-};
-
-/// A field whose values differ; the reserved bits are reported like one.
-struct Change {
-  std::string name;
-  std::string bits;
-  ValueForms old, now;
-  std::string note;       ///< for a bitmap the ports that were removed and added
-  bool isFamily = false;  ///< a member of a family
+/// A field that differs, for people.
+struct ShownChange {
+  const FieldPlace* place;  ///< null: the reserved bits
+  std::string old, now;
+  std::string note;  ///< for a bitmap the ports that were removed and added
 };
 
 std::string valueText(const FieldPlace& place, const Value& value) {
@@ -67,350 +33,195 @@ std::string valueText(const FieldPlace& place, const Value& value) {
   return number ? formatText("{} ({})", value.hex(), *number) : value.hex();
 }
 
-/// The ports of one set that are not in the other.
-std::string portsWithout(const Value& value, const Value& other) {
+/// The ports of one set that are not in the other, after a sign.
+std::string portsWithout(const Value& value, const Value& other, const char* sign) {
   Value rest = value;
   rest.remove(other);
-  return rest.isZero() ? "" : rest.portRanges();
+  return rest.isZero() ? "" : sign + rest.portRanges();
 }
 
-class EntryComparison {
- public:
-  EntryComparison(const Arguments& arguments, const Layout& layout)
-      : layout_(layout),
-        groups_(grouped(fieldsOf(arguments, layout), styleOf(arguments).asFamilies)),
-        comparesAll_(arguments.fields.empty()) {}
-
-  /// What differs between two entries.
-  std::vector<Change> changes(const U8* before, const U8* after) const {
-    std::vector<Change> changes;
-    const U32 size = layout_.entryBytes();
-    for (const FieldGroup& group : groups_) {
-      for (const FieldPlace& place : group.members) {
-        const Value old = Value::read(place, before, size);
-        const Value now = Value::read(place, after, size);
-        if (old == now) continue;
-        const auto forms = [&](const Value& value, const U8* entry) -> ValueForms {
-          return {valueText(place, value), plainText(place, value), valueJson(place, entry, size)};
-        };
-        changes.push_back({place.name(), place.bits(), forms(old, before), forms(now, after),
-                           place.isBitmap() ? portNote(old, now) : "", group.isFamily()});
-      }
-    }
-    if (comparesAll_)
-      addReserved(changes, reservedBits(layout_, before), reservedBits(layout_, after));
-    return changes;
+ShownChange shownChange(const Layout& layout, const FieldPlace* place, const EntryChange& change) {
+  if (place == nullptr) {
+    return {place, reservedBits(layout, change.before), reservedBits(layout, change.after), ""};
   }
-
- private:
-  static std::string portNote(const Value& old, const Value& now) {
-    const std::string gone = portsWithout(old, now);
-    const std::string come = portsWithout(now, old);
-    std::string note;
-    if (!gone.empty()) note += " -" + gone;
-    if (!come.empty()) note += " +" + come;
-    return note;
+  const Value old = Value::read(*place, change.before, layout.entryBytes());
+  const Value now = Value::read(*place, change.after, layout.entryBytes());
+  ShownChange shown{place, valueText(*place, old), valueText(*place, now), ""};
+  if (place->isBitmap()) {
+    shown.note = " " + portsWithout(old, now, " -") + portsWithout(now, old, " +");
   }
-
-  static void addReserved(std::vector<Change>& changes, const std::string& old,
-                          const std::string& now) {
-    if (old == now) return;
-    const auto forms = [](const std::string& hex) -> ValueForms {
-      return {hex, hex, formatText(R"({{"hex":"{}"}})", hex)};
-    };
-    changes.push_back({"outsideFields", "", forms(old), forms(now), ""});
-  }
-
-  const Layout& layout_;
-  std::vector<FieldGroup> groups_;
-  bool comparesAll_;
-};
-
-/// Members of a family that change alike become one change, such as that of "spTreePort0-3".
-std::vector<Change> joined(const std::vector<Change>& changes) {
-  std::vector<Change> result;
-  std::vector<std::vector<U32>> numbers;
-  for (const Change& change : changes) {
-    const auto isAlike = [&change](const Change& other) {
-      return other.isFamily && change.isFamily && other.old.text == change.old.text &&
-             other.now.text == change.now.text &&
-             numberedName(other.name)->prefix == numberedName(change.name)->prefix;
-    };
-    const auto found = std::find_if(result.begin(), result.end(), isAlike);
-    const size_t at = static_cast<size_t>(found - result.begin());
-    if (found == result.end()) {
-      result.push_back(change);
-      numbers.emplace_back();
-    }
-    if (change.isFamily) numbers[at].push_back(numberedName(change.name)->number);
-  }
-  for (size_t i = 0; i < result.size(); ++i) {
-    if (numbers[i].size() < 2) continue;
-    result[i].name = std::string(numberedName(result[i].name)->prefix) + rangesText(numbers[i]);
-    result[i].bits.clear();
-  }
-  return result;
+  return shown;
 }
 
-/// How an entry differs, as JSON and CSV say it.
-constexpr const char *changed = "changed", *onlyInOld = "only in OLD", *onlyInNew = "only in NEW";
-
-/// Prints differences in one of the formats: as CSV a row per field, otherwise per entry. For people
-/// entries that follow each other and are in one dump only share a line.
+/// Writes differences for people. Entries that follow each other and are in one dump only share a line,
+/// and so do members of a family that change alike.
 class Report {
  public:
-  Report(Output& output, const Layout& layout, Format format)
-      : output_(output),
-        layout_(layout),
-        format_(format),
-        rows_(output, format, columns(format), frameOf("diff", "entries", sourceJson(layout))) {}
+  Report(Output& output, const Layout& layout, bool asFamilies)
+      : output_(output), layout_(layout), asFamilies_(asFamilies) {}
 
-  void differs(U64 index, const std::vector<Change>& changes) {
-    if (format_ == Format::table) return writeChanges(index, changes);
-    if (format_ == Format::csv) {
-      for (const Change& change : changes) {
-        rows_.write({index, changed, change.name, change.old.plain, change.now.plain});
+  void write(const std::vector<EntryChange>& changes) {
+    for (size_t i = 0, end; i < changes.size(); i = end) {
+      end = i + 1;
+      if (changes[i].kind == EntryChange::Kind::changed) {
+        writeChanged(changes[i]);
+        continue;
       }
-      return;
+      while (end < changes.size() && changes[end].kind == changes[i].kind &&
+             changes[end].index == changes[end - 1].index + 1) {
+        ++end;
+      }
+      writeMissing(changes[i], changes[end - 1].index);
     }
-    std::string fields;
-    for (const Change& change : changes) {
-      fields += formatText(R"({}"{}":{{"old":{},"new":{}}})", fields.empty() ? '{' : ',',
-                           change.name, change.old.json, change.now.json);
-    }
-    writeObject(index, changed, Cell::ofJson(fields + "}"));
-  }
-
-  /// An entry that one of the dumps does not have.
-  void onlyIn(U64 index, const char* change) {
-    if (format_ == Format::csv) return rows_.write({index, change});
-    if (format_ != Format::table) return writeObject(index, change);
-    if (missing_ != change || index != lastMissing_ + 1) {
-      endMissing();
-      missing_ = change;
-      firstMissing_ = index;
-    }
-    lastMissing_ = index;
-  }
-
-  void end() {
-    endMissing();
-    rows_.end();
   }
 
  private:
-  static std::vector<std::string> columns(Format format) {
-    if (format == Format::csv) return {"index", "change", "field", "old", "new"};
-    if (format == Format::json) return {"index", "change", "fields"};
-    return {"table", "chip", "variant", "index", "change", "fields"};
-  }
-
-  void endMissing() {
-    if (missing_ == nullptr) return;
-    if (firstMissing_ == lastMissing_) {
-      writeEntryHead(output_, layout_, firstMissing_);
-      output_.print("  {}\n", missing_);
-    } else {
-      output_.write(formatText("{} {}-{}", layout_.name(), firstMissing_, lastMissing_),
-                    Style::strong);
-      output_.print("  {} entries {}\n", lastMissing_ - firstMissing_ + 1, missing_);
+  void writeMissing(const EntryChange& first, U32 last) {
+    if (first.index == last) {
+      writeEntryHead(output_, layout_, first.index);
+      return output_.print("  {}\n", nameOf(first.kind));
     }
-    missing_ = nullptr;
+    output_.write(formatText("{} {}-{}", layout_.name(), first.index, last), Style::strong);
+    output_.print("  {} entries {}\n", last - first.index + 1, nameOf(first.kind));
   }
 
-  void writeChanges(U64 index, const std::vector<Change>& changes) {
-    endMissing();
-    writeEntryHead(output_, layout_, index);
-    for (const Change& change : joined(changes)) {
-      output_.print("  {}{}{}  ", change.name, change.bits.empty() ? "" : " ",
-                    change.bits.empty() ? "" : "[" + change.bits + "]");
-      output_.write(change.old.text, Style::removed);
+  void writeChanged(const EntryChange& change) {
+    writeEntryHead(output_, layout_, change.index);
+    std::vector<ShownChange> shown;
+    for (const FieldPlace* place : change.fields) {
+      shown.push_back(shownChange(layout_, place, change));
+    }
+    const auto areAlike = [&](size_t i, size_t j) {
+      const ShownChange& a = shown[i];
+      const ShownChange& b = shown[j];
+      return asFamilies_ && a.place != nullptr && b.place != nullptr &&
+             b.place->isOfFamilyOf(*a.place) && a.old == b.old && a.now == b.now;
+    };
+    for (const std::vector<size_t>& group : joined(shown.size(), areAlike)) {
+      const ShownChange& first = shown[group.front()];
+      output_.print("  {}  ", headOf(shown, group));
+      output_.write(first.old, Style::removed);
       output_.write(" -> ");
-      output_.write(change.now.text, Style::added);
-      output_.print("{}{}\n", change.note.empty() ? "" : " ", change.note);
+      output_.write(first.now, Style::added);
+      output_.print("{}\n", first.note);
     }
+    output_.flushIfLarge();
   }
 
-  template <class... Fields>
-  void writeObject(U64 index, const char* change, Fields... fields) {
-    Row row;
-    if (format_ == Format::jsonl) {
-      row = {layout_.name(), layout_.chip().name, U32{layout_.variant()}};
-    }
-    row.emplace_back(index);
-    row.emplace_back(change);
-    (row.push_back(std::move(fields)), ...);
-    rows_.write(row);
+  static std::string headOf(const std::vector<ShownChange>& shown,
+                            const std::vector<size_t>& group) {
+    const FieldPlace* const first = shown[group.front()].place;
+    if (first == nullptr) return nameOf(first);
+    if (group.size() == 1) return formatText("{} [{}]", first->name(), first->bits());
+    FieldGroup fields;
+    for (const size_t i : group) fields.members.push_back(*shown[i].place);
+    return fields.name();
   }
 
   Output& output_;
   const Layout& layout_;
-  Format format_;
-  RowWriter rows_;
-  const char* missing_ = nullptr;  ///< of a range that is not written yet: in which dump it is
-  U64 firstMissing_ = 0;
-  U64 lastMissing_ = 0;
+  bool asFamilies_;
 };
 
-/// --stat: how many entries differ in each field.
-class Statistics {
- public:
-  void count(const std::vector<Change>& changes) {
-    for (const Change& change : changes) {
-      const auto found = std::find_if(counts_.begin(), counts_.end(), [&change](const auto& one) {
-        return one.first == change.name;
-      });
-      if (found == counts_.end()) {
-        counts_.emplace_back(change.name, 1);
-      } else {
-        ++found->second;
-      }
-    }
+void checkCompared(const DiffRequest& request, const Difference& difference) {
+  if (difference.compared + difference.missing == 0) {
+    fail("nothing was compared: {}; check {}",
+         request.common ? "the dumps have no entry in common"
+                        : "no entry has an index in " + difference.unmet,
+         request.common ? "--old-first and --new-first" : "--index");
   }
-
-  Listing listing() const {
-    Listing listing({"field", "entries"});
-    for (const auto& [name, count] : counts_) listing.add({name, count});
-    return listing;
+  if (!difference.unmet.empty()) {
+    fail("neither dump has an entry with index {}; check --index", difference.unmet);
   }
+}
 
- private:
-  std::vector<std::pair<std::string, U64>> counts_;
-};
-
-class Diff {
- public:
-  Diff(const Arguments& arguments, const Layout& layout)
-      : arguments_(arguments),
-        layout_(layout),
-        format_(formatOf(arguments.format)),
-        selected_(indexesOf(arguments)),
-        old_(arguments.files[0], layout, inputOptionsOf(arguments, false)),
-        new_(arguments.files[1], layout, inputOptionsOf(arguments, true)),
-        comparison_(arguments, layout),
-        output_(arguments.output, arguments.color),
-        progress_(output_, old_.sizeInBytes()) {
-    if (!selected_.isAll()) {
-      checkIndexes(layout, selected_, "--index", join(arguments.index, ","));
-    }
-    const bool reports = !arguments.quiet && !arguments.stat;
-    if (reports) report_.emplace(output_, layout, format_);
+void print(const DiffRequest& request, const Layout& layout, const Difference& difference,
+           Output& output) {
+  const Format format = request.output.format;
+  const U64 differing = difference.differing;
+  const U64 missing = difference.missing;
+  if (request.stat) {
+    write(output, differenceCounts(difference), format,
+          frameOf("diff-stat", "fields", sourceJson(layout)));
+  } else if (format == Format::table) {
+    Report(output, layout, !request.expand).write(difference.entries);
+  } else {
+    output.write(differenceText(layout, difference, rowFormatOf(format)));
   }
-
-  int run() {
-    while ((old_.hasEntry() || new_.hasEntry()) && !(arguments_.quiet && differing_ != 0)) {
-      compareNext();
-      progress_.step(old_.bytesTaken());
-    }
-    const bool isDone = !arguments_.quiet || differing_ == 0;
-    if (isDone && compared_ + missing_ == 0) {
-      fail("nothing was compared: {}; check {}",
-           arguments_.common ? "the dumps have no entry in common"
-                             : "no entry has an index in " + selected_.unmet(),
-           arguments_.common ? "--old-first and --new-first" : "--index");
-    }
-    if (isDone && !selected_.unmet().empty()) {
-      fail("neither dump has an entry with index {}; check --index", selected_.unmet());
-    }
-    if (!arguments_.quiet) finish();
-    return differing_ + missing_ != 0 ? exitFinding : exitSuccess;
+  if (format != Format::table || differing + missing == 0) return;
+  if (difference.compared != 0) {
+    output.print("{} of {} entries differ\n", differing, difference.compared);
   }
-
- private:
-  void finish() {
-    if (report_) {
-      report_->end();
-    } else {
-      statistics_.listing().print(output_, format_,
-                                  frameOf("diff-stat", "fields", sourceJson(layout_)));
-    }
-    if (format_ == Format::table && differing_ + missing_ != 0) {
-      if (compared_ != 0) output_.print("{} of {} entries differ\n", differing_, compared_);
-      if (missing_ != 0) {
-        output_.print("{} {} in one dump only\n", missing_,
-                      missing_ == 1 ? "entry is" : "entries are");
-      }
-    }
-    output_.finish();
+  if (missing != 0) {
+    output.print("{} {} in one dump only\n", missing, missing == 1 ? "entry is" : "entries are");
   }
+}
 
-  void compareNext() {
-    const bool takesOld =
-        old_.hasEntry() && (!new_.hasEntry() || old_.entry().index <= new_.entry().index);
-    const bool takesNew =
-        new_.hasEntry() && (!old_.hasEntry() || new_.entry().index <= old_.entry().index);
-    const U64 index = takesOld ? old_.entry().index : new_.entry().index;
-    if (selected_.has(index)) {
-      if (takesOld && takesNew) {
-        comparePair(index);
-      } else if (!arguments_.common) {
-        ++missing_;
-        if (report_) report_->onlyIn(index, takesOld ? onlyInOld : onlyInNew);
-      }
-      output_.flushIfLarge();
-    }
-    if (takesOld) old_.take();
-    if (takesNew) new_.take();
+int run(const DiffRequest& request) {
+  const Layout layout = request.table.layout();
+  request.index.check(layout, "--index");
+  DifferenceOptions options;
+  options.fields = fieldsOf(layout, request.fields, request.output.isForPeople());
+  options.reservedBits = request.fields.empty();
+  options.indexes = request.index.set;
+  options.common = request.common;
+  options.stopsAtFirst = request.quiet;
+  std::optional<Output> output;
+  if (!request.quiet) output.emplace(request.output.file, request.output.color);
+  const DumpInput old(request.old.file, layout, request.old.options);
+  const DumpInput now(request.now.file, layout, request.now.options);
+  const Difference result = difference(layout, old.dump, now.dump, options);
+  checkCompared(request, result);
+  if (output) {
+    print(request, layout, result, *output);
+    output->finish();
   }
-
-  void comparePair(U64 index) {
-    const U8* before = old_.entry().bytes;
-    const U8* after = new_.entry().bytes;
-    ++compared_;
-    if (std::memcmp(before, after, layout_.entryBytes()) == 0) return;
-    const std::vector<Change> changes = comparison_.changes(before, after);
-    if (changes.empty()) return;
-    ++differing_;
-    if (report_) report_->differs(index, changes);
-    if (arguments_.stat) statistics_.count(changes);
-  }
-
-  const Arguments& arguments_;
-  const Layout& layout_;
-  Format format_;
-  IndexSet selected_;
-  Side old_;
-  Side new_;
-  EntryComparison comparison_;
-  Output output_;
-  std::optional<Report> report_;
-  Statistics statistics_;
-  Progress progress_;
-  U64 compared_ = 0;   ///< entries that both dumps have
-  U64 differing_ = 0;  ///< of them
-  U64 missing_ = 0;    ///< entries that one dump does not have
-};
-
-int run(const Arguments& arguments) {
-  const Layout layout = layoutOf(arguments);
-  if (arguments.files.size() != 2) {
-    fail("{} dump{} given; give two, OLD and NEW", arguments.files.size(),
-         arguments.files.size() == 1 ? "" : "s");
-  }
-  if (arguments.files[0] == "-" && arguments.files[1] == "-") {
-    fail("both dumps are standard input; name a file for one of them");
-  }
-  return Diff(arguments, layout).run();
+  return result.entries.empty() ? exitSuccess : exitFinding;
 }
 
 }  // namespace
 
 Verb diffVerb() {
+  const auto request = std::make_shared<DiffRequest>();
+  DiffRequest& to = *request;
+  const auto takeFiles = [&to](const Texts& files) {
+    if (files.size() != 2) {
+      fail("{} dump{} given; give two, OLD and NEW", files.size(), pluralEnd(files.size()));
+    }
+    if (files[0] == "-" && files[1] == "-") {
+      fail("both dumps are standard input; name a file for one of them");
+    }
+    to.old.file = files[0];
+    to.now.file = files[1];
+  };
   return {"diff",
           "Prints what changed between two dumps of a table, entry by entry and field by field.",
-          "The dumps may be in different formats, with the limits of decode; entries are matched "
-          "by their indexes, which must "
-          "ascend. Bits outside all fields count too, unless --fields is given. Exit code 1 says "
-          "that the dumps differ.",
-          {Positionals::table, Positionals::oldAndNew},
-          {Options::chip, Options::variant, Options::index, Options::fields, Options::common,
-           Options::stat, Options::expand, Options::quiet, Options::input, Options::hexOrder,
-           Options::byteOrder, Options::stride, Options::first, Options::listFormat,
-           Options::output, Options::color},
+          "The dumps may be in different notations; entries are matched by their indexes. Bits "
+          "outside all fields count too, unless --fields is given. Exit code 1 says that the dumps "
+          "differ.",
+          {{Positionals::table, into(to.table.table)}, {Positionals::oldAndNew, takeFiles}},
+          {{Options::chip, into(to.table.chip)},
+           {Options::variant, intoVariant(to.table.variant)},
+           {Options::index, into(to.index)},
+           {Options::fields, into(to.fields)},
+           {Options::common, into(to.common)},
+           {Options::stat, into(to.stat)},
+           {Options::expand, into(to.expand)},
+           {Options::quiet, into(to.quiet)},
+           Options::input,
+           Options::hexOrder,
+           Options::byteOrder,
+           Options::stride,
+           Options::first,
+           Options::origin,
+           {Options::listFormat, into(to.output.format)},
+           {Options::output, into(to.output.file)},
+           {Options::color, into(to.output.color)}},
           {"velmar diff VlanMpls --chip 56980 <(echo 00000000) <(echo 00000001)",
            "velmar diff VlanStg --chip 56980 samples/vlan-stg-bcm56980.bin <(head -c 96 "
            "samples/vlan-stg-bcm56980.bin) --format jsonl"},
-          run};
+          [request] { return run(*request); },
+          {&to.old.options, &to.now.options}};
 }
 
 }  // namespace Tool

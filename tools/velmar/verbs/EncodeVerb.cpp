@@ -1,273 +1,272 @@
-#include <utility>
+#include <cstring>
+#include <unordered_map>
 
-#include "input/JsonInput.h"
-#include "model/EntryBuilder.h"
-#include "model/Failure.h"
-#include "model/Text.h"
-#include "output/EntryWriter.h"
-#include "output/Progress.h"
-#include "verbs/Target.h"
+#include "output/Entries.h"
+#include "verbs/Inputs.h"
+#include "verbs/Requests.h"
 #include "verbs/Verbs.h"
 
 namespace Tool {
 namespace {
 
-/// Adds entries of zero, so that the whole table is written.
-class WholeWriter : public EntryWriter {
- public:
-  WholeWriter(std::unique_ptr<EntryWriter> writer, const Layout& layout)
-      : writer_(std::move(writer)), layout_(layout), zeros_(layout.entryBytes()) {}
+struct EncodeRequest {
+  TableRequest table;
+  Texts assignments;
+  InputRequest base;
+  IndexRequest index;
+  OutputRequest output;
+  bool whole = false, plain = false;
 
-  void write(const Entry& entry) override {
-    if (entry.index < next_) {
-      fail("entry {} comes after entry {}; --whole needs the entries in ascending order",
-           entry.index, next_ - 1);
-    }
-    fillTo(entry.index);
-    writer_->write(entry);
-    next_ = entry.index + 1;
-  }
-  void end() override {
-    fillTo(layout_.indexCount());
-    writer_->end();
-  }
-
- private:
-  void fillTo(U64 index) {
-    for (; next_ < index; ++next_) writer_->write({next_, zeros_.data()});
-  }
-
-  std::unique_ptr<EntryWriter> writer_;
-  const Layout& layout_;
-  std::vector<U8> zeros_;
-  U64 next_ = 0;
+  bool hasBase() const { return !base.file.empty(); }
 };
 
 /// What the command line gives: values for the selected entries, and a document of entries.
 class Values {
  public:
-  Values(const Arguments& arguments, const Layout& layout)
-      : layout_(layout), readsInput_(arguments.base == "-") {
-    for (const std::string& text : arguments.assignments) {
+  Values(const EncodeRequest& request, const Layout& layout)
+      : layout_(layout), readsInput_(request.base.file == "-") {
+    for (const std::string& text : request.assignments) {
       if (text[0] == '@') {
-        if (text.size() == 1)
-          fail("@ is given without a file; give @FILE, or @- for standard input");
         read(text.substr(1));
       } else {
-        for (Assignment& assignment : parseAssignments(layout, text)) {
-          common_.push_back(std::move(assignment));
-        }
+        addCommon(taken(parseAssignments(layout, text)));
       }
     }
   }
 
   const std::vector<Assignment>& common() const { return common_; }
-  bool hasEntries() const { return document_ != nullptr; }
-  /// The next entry of the document; null at its end.
-  const JsonInput::Object* object() const { return hasObject_ ? &object_ : nullptr; }
-  void takeObject() { hasObject_ = document_->next(object_); }
-  std::string place() const { return formatText("{}:{}", document_->name(), document_->line()); }
+  const std::vector<EntryValues>& entries() const { return entries_; }
+  bool hasEntries() const { return !entries_.empty(); }
+  /// The name of the document.
+  const std::string& name() const { return name_; }
+  Value valueOf(const FieldPlace& place, const EntryValues& values) const {
+    return Value::read(place, values.bytes.data(), layout_.entryBytes());
+  }
+  std::string placeOf(const EntryValues& values) const {
+    return formatText("{}:{}", name_, values.line);
+  }
 
  private:
+  void addCommon(const std::vector<Assignment>& assignments) {
+    common_.insert(common_.end(), assignments.begin(), assignments.end());
+  }
+
   void read(const std::string& path) {
+    if (path.empty()) fail("@ is given without a file; give @FILE, or @- for standard input");
     if (path == "-" && std::exchange(readsInput_, true)) {
       fail("standard input is given twice; name a file for one of them");
     }
-    auto input =
-        std::make_unique<JsonInput>(std::make_unique<ByteStream>(path, nullptr), layout_, 0);
-    JsonInput::Object object;
-    if (!input->next(object)) {
-      fail("{}: no entry and no values; give one object of values, or the JSON of decode",
-           input->name());
+    const Input input(path);
+    std::vector<EntryValues> entries = taken(readValues(layout_, input.bytes()), input.name());
+    if (entries.empty()) {
+      fail("{}: no entry and no values; give one object of values, or what decode prints",
+           input.name());
     }
-    if (!object.index) {
-      common_.insert(common_.end(), object.assignments.begin(), object.assignments.end());
-      if (input->next(object)) {
-        fail("{}:{}: a second object; give one object of values, or the JSON of decode",
-             input->name(), input->line());
+    const bool isPlain = !entries.front().index;
+    for (size_t i = 1; i < entries.size(); ++i) {
+      if (!isPlain && entries[i].index) continue;
+      fail("{}:{}: a second object; give one object of values, or what decode prints", input.name(),
+           entries[i].line);
+    }
+    if (isPlain) {
+      for (const U8 position : entries.front().fields) {
+        const FieldPlace& place = layout_.fields()[position];
+        common_.push_back({place, valueOf(place, entries.front())});
       }
       return;
     }
-    if (document_ != nullptr) fail("{}: a second file of entries; give one", input->name());
-    document_ = std::move(input);
-    object_ = std::move(object);
-    hasObject_ = true;
+    if (hasEntries()) fail("{}: a second file of entries; give one", input.name());
+    entries_ = std::move(entries);
+    name_ = input.name();
   }
 
   const Layout& layout_;
   std::vector<Assignment> common_;
-  std::unique_ptr<JsonInput> document_;
-  JsonInput::Object object_;
-  bool hasObject_ = false;
+  std::vector<EntryValues> entries_;
+  std::string name_;
   bool readsInput_;  ///< standard input is taken
 };
 
 class Encoder {
  public:
-  Encoder(const Arguments& arguments, const Layout& layout, Output& output)
-      : arguments_(arguments),
+  Encoder(const EncodeRequest& request, const Layout& layout)
+      : request_(request),
         layout_(layout),
-        output_(output),
-        values_(arguments, layout),
+        values_(request, layout),
         builder_(layout),
-        progress_(output) {
-    if (!arguments.index.empty()) select();
-    const Format format = arguments.format.empty() ? Format::hex : formatOf(arguments.format);
-    const bool isBytes = format == Format::hex || format == Format::words || format == Format::raw;
-    const bool withIndex =
-        values_.hasEntries() || !arguments.base.empty() || !selected_.isAll() || arguments.whole;
-    writer_ = isBytes ? makeBytesWriter(output, layout, format, withIndex)
-                      : makeEntryWriter(output, layout, layout.fields(),
-                                        {format, arguments.plain, false});
-    if (arguments.whole) {
-      writer_ = std::make_unique<WholeWriter>(std::move(writer_), layout);
+        made_(layout.entryBytes()) {
+    const bool choosesChanges = request.hasBase() || values_.hasEntries();
+    if (choosesChanges && hasIndexes() && values_.common().empty()) {
+      fail("--index chooses the entries that FIELD=VALUE changes, and none is given; give both");
     }
+    request.index.check(layout, "--index");
   }
 
-  void run() {
-    if (!arguments_.base.empty()) {
+  Dump make() {
+    if (request_.hasBase()) {
       changeBase();
     } else if (values_.hasEntries()) {
       makeFromDocument();
     } else {
       makeSelected();
     }
-    if (!selected_.unmet().empty()) {
+    const std::string unmet = request_.index.set.unmet();
+    if (!unmet.empty()) {
       fail("{}: no entry has an index in {}; check --index",
-           arguments_.base.empty() ? values_.place() : arguments_.base, selected_.unmet());
+           request_.hasBase() ? request_.base.file : values_.name(), unmet);
     }
-    writer_->end();
-    output_.finish();
+    return std::move(made_);
+  }
+
+  /// Whether entries are written with their indexes.
+  bool withIndex() const {
+    return values_.hasEntries() || request_.hasBase() || hasIndexes() || request_.whole;
   }
 
  private:
-  void select() {
-    selected_ = indexesOf(arguments_);
-    const bool choosesChanges = !arguments_.base.empty() || values_.hasEntries();
-    if (choosesChanges && values_.common().empty()) {
-      fail("--index chooses the entries that FIELD=VALUE changes, and none is given; give both");
-    }
-    checkIndexes(layout_, selected_, "--index", join(arguments_.index, ","));
-  }
+  bool hasIndexes() const { return !request_.index.set.isAll(); }
 
-  void write(U64 index) {
-    writer_->write({index, builder_.bytes().data()});
-    // Nothing is shown before it is known that --index selects what it names.
-    if (selected_.unmet().empty()) output_.flushIfLarge();
-    progress_.step();
-  }
-
-  void setCommon(U64 index) {
-    if (!selected_.has(index)) return;
-    builder_.forget();
-    for (const Assignment& assignment : values_.common()) builder_.set(assignment);
-  }
-
-  void setObject() {
-    try {
+  void add(U32 index) {
+    if (request_.index.set.has(index)) {
       builder_.forget();
-      for (const Assignment& assignment : values_.object()->assignments) builder_.set(assignment);
-    } catch (const Failure& failure) {
-      fail("{}: {}", values_.place(), failure.what());
+      for (const Assignment& assignment : values_.common()) check(builder_.set(assignment));
     }
-    builder_.setReservedBits(values_.object()->reservedBits);
+    made_.add(index, builder_.bytes().data());
   }
 
-  void checkIndex(U64 index) const {
-    if (index < layout_.indexCount()) return;
-    fail("{}: entry {} is beyond the end of {} on {}, which has {}; check table and chip",
-         values_.place(), index, layout_.name(), layout_.chip().name, layout_.indexCount());
+  void setValues(const EntryValues& values) {
+    builder_.forget();
+    for (const U8 position : values.fields) {
+      const FieldPlace& place = layout_.fields()[position];
+      check(builder_.set(place, values_.valueOf(place, values)), values_.placeOf(values));
+    }
+    builder_.setReservedBits(values.reservedBits);
   }
 
   void makeSelected() {
     const std::vector<U64> indexes =
-        selected_.isAll() ? std::vector<U64>{0} : selected_.below(layout_.indexCount());
+        hasIndexes() ? request_.index.set.below(layout_.indexCount()) : std::vector<U64>{0};
     for (const U64 index : indexes) {
       builder_.startFromZero();
-      setCommon(index);
-      write(index);
+      add(static_cast<U32>(index));
     }
   }
 
   void makeFromDocument() {
-    for (; values_.object() != nullptr; values_.takeObject()) {
-      checkIndex(*values_.object()->index);
+    for (const EntryValues& values : values_.entries()) {
+      if (*values.index >= layout_.indexCount()) {
+        fail("{}: entry {} is beyond the end of {}, which has {}; check table and chip",
+             values_.placeOf(values), *values.index, layout_.shown(), layout_.indexCount());
+      }
       builder_.startFromZero();
-      setObject();
-      setCommon(*values_.object()->index);
-      write(*values_.object()->index);
+      setValues(values);
+      add(*values.index);
     }
   }
 
   void changeBase() {
-    const auto reader = openEntries(std::make_unique<ByteStream>(arguments_.base, nullptr), layout_,
-                                    inputOptionsOf(arguments_));
-    Entry entry;
-    bool isFirst = true;
-    for (bool more = reader->next(entry); more; isFirst = false) {
-      const U64 index = entry.index;
-      builder_.start(entry.bytes);
-      more = reader->next(entry);
-      const bool isOpen = isFirst && more && selected_.isAll() && !values_.common().empty();
-      if (isOpen) {
-        fail("{}: more than one entry; give --index to choose which to change", arguments_.base);
-      }
-      setObjectsOf(index);
-      setCommon(index);
-      write(index);
+    const InputRequest& base = request_.base;
+    const DumpInput input(base.file, layout_, base.options);
+    const Dump& dump = input.dump;
+    if (dump.count() > 1 && !hasIndexes() && !values_.common().empty()) {
+      fail("{}: more than one entry; give --index to choose which to change", base.file);
     }
-    if (values_.object() != nullptr) {
-      fail("{}: entry {} is not in {}; give entries of the base only, in ascending order",
-           values_.place(), *values_.object()->index, arguments_.base);
+    std::unordered_map<U32, const EntryValues*> changes;
+    for (const EntryValues& values : values_.entries()) {
+      if (!values.isNumbered) {
+        fail("{}: an entry without index; give the index of the entry to change",
+             values_.placeOf(values));
+      }
+      changes[*values.index] = &values;
+    }
+    for (size_t i = 0; i < dump.count(); ++i) {
+      builder_.start(dump.bytes(i));
+      const auto change = changes.find(dump.index(i));
+      if (change != changes.end()) {
+        setValues(*change->second);
+        changes.erase(change);
+      }
+      add(dump.index(i));
+    }
+    for (const EntryValues& values : values_.entries()) {
+      if (changes.count(*values.index) == 0) continue;
+      fail("{}: entry {} is not in {}; give entries of the base only", values_.placeOf(values),
+           *values.index, base.file);
     }
   }
 
-  void setObjectsOf(U64 index) {
-    while (values_.object() != nullptr && *values_.object()->index == index) {
-      if (!values_.object()->isNumbered) {
-        fail("{}: an entry without index; give the index of the entry to change", values_.place());
-      }
-      setObject();
-      values_.takeObject();
-    }
-  }
-
-  const Arguments& arguments_;
+  const EncodeRequest& request_;
   const Layout& layout_;
-  Output& output_;
   Values values_;
-  IndexSet selected_;
   EntryBuilder builder_;
-  std::unique_ptr<EntryWriter> writer_;
-  Progress progress_;
+  Dump made_;
 };
 
-int run(const Arguments& arguments) {
-  const Layout layout = layoutOf(arguments);
-  Output output(arguments.output, "never");
-  Encoder(arguments, layout, output).run();
+/// The bytes of the whole table: entries that are not given are zero.
+std::vector<U8> wholeTable(const Layout& layout, const Dump& dump) {
+  std::vector<U8> bytes(size_t{layout.indexCount()} * layout.entryBytes());
+  for (size_t i = 0; i < dump.count(); ++i) {
+    std::memcpy(bytes.data() + size_t{dump.index(i)} * layout.entryBytes(), dump.bytes(i),
+                layout.entryBytes());
+  }
+  return bytes;
+}
+
+int run(const EncodeRequest& request) {
+  const Layout layout = request.table.layout();
+  Output output(request.output.file, "never");
+  Encoder encoder(request, layout);
+  Dump dump = encoder.make();
+  std::vector<U8> whole;
+  if (request.whole) {
+    whole = wholeTable(layout, dump);
+    dump = Dump(layout.entryBytes(), 0, whole.data(), layout.indexCount());
+  }
+  const Format format = request.output.format;
+  if (isRowFormat(format)) {
+    writeEntries(output, layout, {format, request.plain, false}, dump);
+  } else {
+    writeBytes(output, format, encoder.withIndex(), dump);
+  }
+  output.finish();
   return exitSuccess;
 }
 
 }  // namespace
 
 Verb encodeVerb() {
+  const auto request = std::make_shared<EncodeRequest>();
+  EncodeRequest& to = *request;
+  to.output.format = Format::hex;
   return {
       "encode",
       "Encodes field values to the bytes of an entry.",
       "A value is a number, decimal or after 0x hexadecimal; for a bitmap a list of ports such "
       "as 0-3,17, or \"none\", or a hexadecimal number after 0x; BITMAP+=PORTS and BITMAP-=PORTS "
       "change it; spTreePort0-3=3,10=2 sets fields of a family. Fields that are not given are "
-      "zero, or with --base as they were. @FILE takes the JSON that decode writes, and "
-      "gives the same bytes, also with --plain. A JSON entry may have up to 1 MiB.",
-      {Positionals::table, Positionals::assignments},
-      {Options::chip, Options::variant, Options::base, Options::changeIndex, Options::whole,
-       Options::input, Options::hexOrder, Options::byteOrder, Options::stride, Options::first,
-       Options::format("hex,words,raw,json,jsonl"), Options::plain, Options::output},
+      "zero, or with --base as they were. @FILE takes the JSON or CSV that decode writes, and "
+      "gives the same bytes, also with --plain.",
+      {{Positionals::table, into(to.table.table)},
+       {Positionals::assignments, into(to.assignments)}},
+      {{Options::chip, into(to.table.chip)},
+       {Options::variant, intoVariant(to.table.variant)},
+       {Options::base, into(to.base.file)},
+       {Options::changeIndex, into(to.index)},
+       {Options::whole, into(to.whole)},
+       Options::input,
+       Options::hexOrder,
+       Options::byteOrder,
+       Options::stride,
+       Options::first,
+       Options::origin,
+       {Options::format("hex,words,raw,json,jsonl"), into(to.output.format)},
+       {Options::plain, into(to.plain)},
+       {Options::output, into(to.output.file)}},
       {"velmar encode VlanEntry --chip BCM56960_A0 valid=1 fidId=100 portBitmap=0-3,17",
        "velmar encode EgrVlan --chip 56980 --base samples/egr-vlan-bcm56980.bin --index 1 "
        "portBitmap+=17"},
-      run};
+      [request] { return run(*request); },
+      {&to.base.options}};
 }
 
 }  // namespace Tool

@@ -1,146 +1,115 @@
-#include <rapidjson/prettywriter.h>
-
-#include "model/Failure.h"
-#include "model/Json.h"
-#include "model/Layout.h"
-#include "output/Output.h"
-#include "verbs/Target.h"
+#include "verbs/Requests.h"
 #include "verbs/Verbs.h"
 
 namespace Tool {
 namespace {
 
-/// A JSON document that is being written.
-class Document {
- public:
-  Document() : json_(text_) { json_.SetIndent(' ', 1); }
-
-  /// Writes {...} around what `members` writes, and [...] around what `elements` writes.
-  template <class Members>
-  void object(const Members& members) {
-    json_.StartObject();
-    members();
-    json_.EndObject();
-  }
-  template <class Elements>
-  void list(const char* name, const Elements& elements) {
-    json_.Key(name);
-    json_.StartArray();
-    elements();
-    json_.EndArray();
-  }
-
-  void name(const std::string& name) { json_.Key(name.c_str()); }
-  void text(const std::string& text) { json_.String(text.c_str()); }
-  void member(const char* key, const std::string& value) { name(key), text(value); }
-  void member(const char* key, U32 value) { name(key), json_.Uint(value); }
-  void flag(const char* key, bool value) { name(key), json_.Bool(value); }
-
-  const char* json() const { return text_.GetString(); }
-
- private:
-  JsonBuffer text_;
-  rapidjson::PrettyWriter<JsonBuffer, rapidjson::UTF8<>, rapidjson::UTF8<>, JsonMemory> json_;
+struct ExportRequest {
+  std::optional<Catalogue::Table> table;
+  std::optional<Catalogue::Chip> chip;
+  U8 variant = 0;
+  OutputRequest output;
 };
 
-void writeField(Document& document, const Catalogue::Field& field) {
-  document.object([&] {
-    document.member("accessor", field.accessor);
-    document.member("hardwareName", field.hardwareName);
-    document.member("id", field.id);
-    document.member("type", Catalogue::valueTypeName(field.type));
-    document.flag("overlaps", field.overlaps);
-    document.member("meaning", field.meaning);
-  });
-}
-
-void writePlace(Document& document, const Layout& layout, const FieldPlace& place) {
-  document.name(place.name());
-  document.object([&] {
-    document.member("offset", place.offset);
-    document.member("width", place.width);
-    const std::vector<std::string> others = layout.overlapsOf(place);
-    if (others.empty()) return;
-    document.list("sharesBitsWith", [&] {
-      for (const std::string& other : others) document.text(other);
-    });
-  });
-}
-
-void writeLayout(Document& document, const Layout& layout) {
-  const Catalogue::Geometry& geometry = layout.geometry();
-  document.object([&] {
-    document.member("chip", layout.chip().name);
-    document.member("variants", geometry.variants == Catalogue::Variants::any ? "any" : "zeroOnly");
-    document.member("entryBytes", 4U * geometry.words);
-    document.member("entries", geometry.entries);
-    document.member("arrayElements", geometry.arrayElements);
-    document.member("addrStride", geometry.addrStride);
-    document.member("identifiers", geometry.identifiers);
-    document.member("identifierTerm", geometry.identifierTerm);
-    document.member("base", addressText(geometry.base));
-    document.member("accessType", geometry.accessType);
-    document.member("block", geometry.block);
-    document.name("fields");
-    document.object([&] {
-      for (const FieldPlace& place : layout.fields()) writePlace(document, layout, place);
-    });
-  });
-}
-
-void writeTable(Document& document, const Catalogue::Table& table,
-                const std::vector<Catalogue::Chip>& chips, U8 variant) {
-  document.object([&] {
-    document.member("name", table.name());
-    document.member("purpose", table.purpose());
-    document.member("kind", table.kind() == Catalogue::Kind::table ? "table" : "registerArray");
-    document.member("rawBytes", table.rawBytes());
-    document.member("allFieldsBytes", table.allFieldsBytes());
-    document.list("fields", [&] {
-      for (U32 i = 0; i < table.fieldCount(); ++i) writeField(document, table.field(i));
-    });
-    document.list("layouts", [&] {
-      for (const Catalogue::Chip& chip : chips) {
-        if (!table.isOn(chip.number, variant)) continue;
-        writeLayout(document, Layout(table, chip, variant));
-      }
-    });
-  });
-}
-
-std::vector<Catalogue::Table> tablesOf(const Arguments& arguments,
-                                       const std::vector<Catalogue::Chip>& chips) {
-  if (!arguments.table.empty()) {
-    const Catalogue::Table table = findTable(arguments.table);
-    // A table that the chip does not have is an error; an empty document would hide it.
-    if (chips.size() == 1) Layout(table, chips.front(), variantOf(arguments));
-    return {table};
+void writeField(JsonWriter& json, const Catalogue::Table& table, U32 index) {
+  const Catalogue::Field field = table.field(index);
+  const Catalogue::Family family = table.family(index);
+  json.openObject();
+  json.key("accessor").text(field.accessor);
+  json.key("hardwareName").text(field.hardwareName);
+  json.key("id").number(field.id);
+  json.key("type").text(Catalogue::valueTypeName(field.type));
+  json.key("overlaps").flag(field.overlaps);
+  json.key("meaning").text(field.meaning);
+  if (family.prefixLength != 0) {
+    json.key("family").openObject();
+    json.key("prefix").text({field.accessor, family.prefixLength});
+    json.key("number").number(family.number).closeObject();
   }
-  return chips.size() > 1 ? allTables() : tablesOn(chips.front(), variantOf(arguments));
+  json.closeObject();
 }
 
-int run(const Arguments& arguments) {
-  const std::vector<Catalogue::Chip> chips = chipsOf(arguments);
-  Document document;
-  document.object([&] {
-    document.member("format", "velmar-catalogue");
-    document.member("version", 1);
-    document.list("chips", [&] {
-      for (const Catalogue::Chip& chip : chips) {
-        document.object([&] {
-          document.member("name", chip.name);
-          document.member("number", chip.number);
-        });
-      }
-    });
-    document.list("tables", [&] {
-      for (const Catalogue::Table& table : tablesOf(arguments, chips)) {
-        writeTable(document, table, chips, variantOf(arguments));
-      }
-    });
-  });
-  Output output(arguments.output, "never");
-  output.print("{}\n", document.json());
+void writePlace(JsonWriter& json, const Layout& layout, const FieldPlace& place) {
+  json.key(place.name()).openObject();
+  json.key("offset").number(place.offset);
+  json.key("width").number(place.width);
+  const std::vector<std::string> others = layout.overlapsOf(place);
+  if (!others.empty()) {
+    json.key("sharesBitsWith").openList();
+    for (const std::string& other : others) json.text(other);
+    json.closeList();
+  }
+  json.closeObject();
+}
+
+void writeLayout(JsonWriter& json, const Layout& layout) {
+  const Catalogue::Geometry& geometry = layout.geometry();
+  const bool takesAny = geometry.variants == Catalogue::Variants::any;
+  json.openObject();
+  json.key("chip").text(layout.chip().name);
+  json.key("variants").text(takesAny ? "any" : "zeroOnly");
+  json.key("entryBytes").number(4U * geometry.words);
+  json.key("entries").number(geometry.entries);
+  json.key("arrayElements").number(geometry.arrayElements);
+  json.key("addrStride").number(geometry.addrStride);
+  json.key("identifiers").number(geometry.identifiers);
+  json.key("identifierTerm").number(geometry.identifierTerm);
+  json.key("base").text(addressText(geometry.base));
+  json.key("accessType").number(geometry.accessType);
+  json.key("block").number(geometry.block);
+  json.key("fields").openObject();
+  for (const FieldPlace& place : layout.fields()) writePlace(json, layout, place);
+  json.closeObject().closeObject();
+}
+
+void writeTable(JsonWriter& json, const Catalogue::Table& table,
+                const std::vector<Catalogue::Chip>& chips, U8 variant) {
+  json.openObject();
+  json.key("name").text(table.name());
+  json.key("purpose").text(table.purpose());
+  json.key("kind").text(table.kind() == Catalogue::Kind::table ? "table" : "registerArray");
+  json.key("rawBytes").number(table.rawBytes());
+  json.key("allFieldsBytes").number(table.allFieldsBytes());
+  json.key("fields").openList();
+  for (U32 i = 0; i < table.fieldCount(); ++i) writeField(json, table, i);
+  json.closeList();
+  json.key("layouts").openList();
+  for (const Catalogue::Chip& chip : chips) {
+    if (table.isOn(chip.number, variant)) {
+      writeLayout(json, taken(Layout::of(table, chip, variant)));
+    }
+  }
+  json.closeList().closeObject();
+}
+
+std::vector<Catalogue::Table> tablesOf(const ExportRequest& request) {
+  if (request.table) {
+    // A table that the chip does not have is an error; an empty document would hide it.
+    if (request.chip) check(checkLayout(*request.table, *request.chip, request.variant));
+    return {*request.table};
+  }
+  return request.chip ? tablesOn(*request.chip, request.variant) : allTables();
+}
+
+int run(const ExportRequest& request) {
+  Output output(request.output.file, "never");
+  JsonWriter json(output.text(), 1);
+  json.openObject();
+  json.key("format").text("velmar-catalogue");
+  json.key("version").number(1);
+  json.key("chips").openList();
+  for (const Catalogue::Chip& chip : meantChips(request.chip)) {
+    json.openObject();
+    json.key("name").text(chip.name);
+    json.key("number").number(chip.number).closeObject();
+  }
+  json.closeList();
+  json.key("tables").openList();
+  for (const Catalogue::Table& table : tablesOf(request)) {
+    writeTable(json, table, meantChips(request.chip), request.variant);
+  }
+  json.closeList().closeObject();
+  output.write("\n");
   output.finish();
   return exitSuccess;
 }
@@ -148,14 +117,18 @@ int run(const Arguments& arguments) {
 }  // namespace
 
 Verb exportVerb() {
+  const auto request = std::make_shared<ExportRequest>();
+  ExportRequest& to = *request;
   return {"export",
           "Prints the catalogue as JSON: chips, tables, fields, layouts, addresses.",
           "The schema of this document, as of all others, is installed in "
           "share/doc/velmar/docs/schema.",
-          {Positionals::tableIfAny},
-          {Options::chipIfAny, Options::variant, Options::output},
+          {{Positionals::tableIfAny, into(to.table)}},
+          {{Options::chipIfAny, into(to.chip)},
+           {Options::variant, intoVariant(to.variant)},
+           {Options::output, into(to.output.file)}},
           {"velmar export VlanEntry --chip BCM56990_B0", "velmar export --chip BCM56470_A0"},
-          run};
+          [request] { return run(*request); }};
 }
 
 }  // namespace Tool

@@ -1,19 +1,26 @@
 #include <algorithm>
 #include <set>
 
-#include "model/Failure.h"
-#include "model/Text.h"
-#include "output/ValueText.h"
-#include "verbs/Target.h"
+#include "output/Entries.h"
+#include "verbs/Requests.h"
 #include "verbs/Verbs.h"
 
 namespace Tool {
 namespace {
 
+struct FieldsRequest {
+  std::string pattern;
+  std::optional<Catalogue::Chip> chip;
+  std::optional<Catalogue::Table> table;
+  bool expand = false;
+  OutputRequest output;
+};
+
 /// What is asked for: an identifier, or a name.
 class FieldPattern {
  public:
-  explicit FieldPattern(const std::string& pattern) : id_(parseNumber(pattern)), name_(pattern) {}
+  explicit FieldPattern(const std::string& pattern)
+      : id_(parseNumber(pattern)), name_(taken(NamePattern::of(pattern))) {}
 
   bool matches(const Catalogue::Field& field) const {
     return id_ ? id_ == field.id : name_.matches(field.accessor);
@@ -34,40 +41,53 @@ struct Match {
   std::vector<std::string> chips;
 };
 
-std::vector<Match> matchesIn(const Arguments& arguments,
+/// Whether one line stands for both: members of a family that the same chips have.
+bool areAlike(const Match& a, const Match& b) {
+  return b.group.front().isOfFamilyOf(a.group.front()) && a.chips == b.chips;
+}
+
+/// The fields of a table; those that are alike as one match.
+std::vector<Match> asFamilies(const std::vector<Match>& matches) {
+  std::vector<Match> families;
+  const auto isAlike = [&](size_t i, size_t j) { return areAlike(matches[i], matches[j]); };
+  for (const std::vector<size_t>& group : joined(matches.size(), isAlike)) {
+    Match family = matches[group.front()];
+    for (size_t i = 1; i < group.size(); ++i) {
+      family.group.members.push_back(matches[group[i]].group.front());
+    }
+    families.push_back(std::move(family));
+  }
+  return families;
+}
+
+std::vector<Match> matchesIn(const FieldsRequest& request,
                              bool (FieldPattern::*matches)(const Catalogue::Field&) const) {
-  const FieldPattern pattern(arguments.pattern);
-  const bool asFamilies = formatOf(arguments.format) == Format::table && !arguments.expand;
+  const FieldPattern pattern(request.pattern);
+  const bool joinsFamilies = request.output.isForPeople() && !request.expand;
   std::vector<Match> found;
   for (const Catalogue::Table& table : allTables()) {
-    if (!isAskedFor(arguments, table)) continue;
+    if (!isMeant(request.table, table)) continue;
     std::vector<Match> ofTable;
     for (U32 i = 0; i < table.fieldCount(); ++i) {
-      const FieldPlace place = {table.field(i), 0, 0};
-      if (!(pattern.*matches)(place.field)) continue;
+      const Catalogue::Field field = table.field(i);
+      if (!(pattern.*matches)(field)) continue;
       std::vector<std::string> chips = chipsOf(table, i);
-      if (!arguments.chips.empty()) {
-        const std::string chip = chipOf(arguments).name;
-        if (std::count(chips.begin(), chips.end(), chip) == 0) continue;
-      }
-      const bool goesOn = asFamilies && !ofTable.empty() && ofTable.back().chips == chips &&
-                          areOfOneFamily(ofTable.back().group.back().field, place.field);
-      if (goesOn) {
-        ofTable.back().group.members.push_back(place);
-      } else {
-        ofTable.push_back({table, {{place}}, std::move(chips)});
-      }
+      const bool isThere =
+          !request.chip || std::count(chips.begin(), chips.end(), request.chip->name) != 0;
+      if (!isThere) continue;
+      ofTable.push_back({table, {{{field, 0, 0, table.family(i)}}}, std::move(chips)});
     }
+    if (joinsFamilies) ofTable = asFamilies(ofTable);
     found.insert(found.end(), ofTable.begin(), ofTable.end());
   }
   return found;
 }
 
 /// An exact name finds the fields of that name only.
-Listing matchingFields(const Arguments& arguments) {
-  std::vector<Match> matches = matchesIn(arguments, &FieldPattern::isExactly);
-  if (matches.empty()) matches = matchesIn(arguments, &FieldPattern::matches);
-  const bool isForPeople = formatOf(arguments.format) == Format::table;
+Listing matchingFields(const FieldsRequest& request) {
+  std::vector<Match> matches = matchesIn(request, &FieldPattern::isExactly);
+  if (matches.empty()) matches = matchesIn(request, &FieldPattern::matches);
+  const bool isForPeople = request.output.isForPeople();
   Listing listing({"field", "hardwareName", "id", "table", "type", "chips"});
   for (const Match& match : matches) {
     const Catalogue::Field& field = match.group.front().field;
@@ -92,36 +112,42 @@ std::vector<std::string> allFieldNames() {
   return {names.begin(), names.end()};
 }
 
-int run(const Arguments& arguments) {
-  const Listing listing = matchingFields(arguments);
-  if (listing.isEmpty() && !(arguments.chips.empty() && arguments.tableOption.empty())) {
-    Arguments everywhere = arguments;
-    everywhere.chips.clear();
-    everywhere.tableOption.clear();
+int run(const FieldsRequest& request) {
+  const Listing listing = matchingFields(request);
+  if (listing.isEmpty() && (request.chip || request.table)) {
+    FieldsRequest everywhere = request;
+    everywhere.chip.reset();
+    everywhere.table.reset();
     if (!matchingFields(everywhere).isEmpty()) {
       fail("{} is not there, but elsewhere; leave out --table and --chip to see it",
-           inQuotes(arguments.pattern));
+           inQuotes(request.pattern));
     }
   }
   if (listing.isEmpty()) {
-    fail("no field matches {}; {}\"velmar fields\" lists the fields", inQuotes(arguments.pattern),
-         didYouMean(arguments.pattern, allFieldNames()));
+    fail("no field matches {}; {}\"velmar fields\" lists the fields", inQuotes(request.pattern),
+         didYouMean(request.pattern, allFieldNames()));
   }
-  print(arguments, listing, frameOf("fields", "fields"));
+  print(request.output, listing, frameOf("fields", "fields"));
   return exitSuccess;
 }
 
 }  // namespace
 
 Verb fieldsVerb() {
+  const auto request = std::make_shared<FieldsRequest>();
+  FieldsRequest& to = *request;
   return {"fields",
           "Lists fields, with the tables and chips that have them.",
           "A pattern that is the whole name of a field finds the fields of that name only.",
-          {Positionals::pattern},
-          {Options::chipIfAny, Options::tableOption, Options::expand, Options::listFormat,
-           Options::output, Options::color},
+          {{Positionals::pattern, into(to.pattern)}},
+          {{Options::chipIfAny, into(to.chip)},
+           {Options::tableOption, into(to.table)},
+           {Options::expand, into(to.expand)},
+           {Options::listFormat, into(to.output.format)},
+           {Options::output, into(to.output.file)},
+           {Options::color, into(to.output.color)}},
           {"velmar fields stg", "velmar fields '*Bitmap*' --chip BCM56980_A0"},
-          run};
+          [request] { return run(*request); }};
 }
 
 }  // namespace Tool

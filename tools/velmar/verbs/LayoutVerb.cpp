@@ -1,22 +1,26 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "model/Failure.h"
-#include "model/Text.h"
 #include "output/Diagram.h"
-#include "output/ValueText.h"
-#include "verbs/Target.h"
+#include "output/Entries.h"
+#include "output/Listings.h"
+#include "verbs/Requests.h"
 #include "verbs/Verbs.h"
 
 namespace Tool {
 namespace {
 
-const char* pluralEnd(U32 count) { return count == 1 ? "" : "s"; }
+struct LayoutRequest {
+  TableRequest table;
+  std::string field;
+  OutputRequest output;
+  bool diagram = false, expand = false;
+};
 
 /// Such as ", N at bit 2 * N + 8", where the places of a family follow such a rule.
 std::string ruleOf(const FieldGroup& group) {
   const auto numberOf = [](const FieldPlace& place) {
-    return static_cast<int>(numberedName(place.name())->number);
+    return static_cast<int>(place.family.number);
   };
   const auto offsetOf = [](const FieldPlace& place) { return static_cast<int>(place.offset); };
   const FieldPlace& first = group.front();
@@ -97,8 +101,7 @@ std::string geometryJson(const Layout& layout) {
 void printHead(Output& output, const Layout& layout) {
   const Catalogue::Geometry& geometry = layout.geometry();
   const auto print = [&output](const std::string& text) { output.writeLine("", text, 14); };
-  output.writeLine(formatText("{} on {}", layout.name(), layout.chip().name),
-                   formatText(": {}", layout.table().purpose()));
+  output.writeLine(layout.shown(), formatText(": {}", layout.table().purpose()));
   print(formatText("  entry     {} bytes ({} word{}), {} field{}", layout.entryBytes(),
                    geometry.words, pluralEnd(geometry.words), geometry.fieldCount,
                    pluralEnd(geometry.fieldCount)));
@@ -115,27 +118,20 @@ void printHead(Output& output, const Layout& layout) {
   output.write("\n");
 }
 
-int run(const Arguments& arguments) {
-  const Layout layout = layoutOf(arguments);
-  const Format format = formatOf(arguments.format);
-  if (arguments.diagram && format != Format::table) {
-    fail("--diagram is drawn as text only; leave out --format {}", arguments.format);
-  }
-  if (arguments.diagram && !arguments.pattern.empty()) {
-    fail("--diagram draws all fields; leave out {}", inQuotes(arguments.pattern));
-  }
+int run(const LayoutRequest& request) {
+  const Layout layout = request.table.layout();
+  const bool isForPeople = request.output.isForPeople();
   const std::vector<FieldPlace> places = inOrderOfBits(
-      arguments.pattern.empty() ? layout.fields() : findFields(layout, arguments.pattern));
-  Output output(arguments.output, arguments.color);
-  if (format == Format::table) printHead(output, layout);
-  if (arguments.diagram) {
-    drawDiagram(output, layout, !arguments.expand);
-  } else if (format == Format::table) {
-    readableFields(layout, grouped(places, !arguments.expand)).print(output, format, {});
+      request.field.empty() ? layout.fields() : taken(findFields(layout, request.field)));
+  Output output(request.output.file, request.output.color);
+  if (isForPeople) printHead(output, layout);
+  if (request.diagram) {
+    drawDiagram(output, layout, !request.expand);
+  } else if (isForPeople) {
+    write(output, readableFields(layout, grouped(places, !request.expand)), Format::table, {});
   } else {
-    const JsonFrame frame =
-        frameOf("layout", "fields", formatText("\"geometry\": {}", geometryJson(layout)));
-    fieldListing(layout, places).print(output, format, frame);
+    write(output, fieldListing(layout, places), request.output.format,
+          frameOf("layout", "fields", formatText("\"geometry\": {}", geometryJson(layout))));
   }
   output.finish();
   return exitSuccess;
@@ -144,15 +140,32 @@ int run(const Arguments& arguments) {
 }  // namespace
 
 Verb layoutVerb() {
+  const auto request = std::make_shared<LayoutRequest>();
+  LayoutRequest& to = *request;
+  const auto takeFormat = [&to](const Texts& texts) {
+    to.output.format = formatOf(texts.front());
+    if (to.diagram && !to.output.isForPeople()) {
+      fail("--diagram is drawn as text only; leave out --format {}", texts.front());
+    }
+  };
+  const auto takeDiagram = [&to](const Texts&) {
+    if (!to.field.empty()) fail("--diagram draws all fields; leave out {}", inQuotes(to.field));
+    to.diagram = true;
+  };
   return {"layout",
           "Prints the layout of a table's entry on a chip: fields, geometry, address rule.",
           "",
-          {Positionals::table, Positionals::fieldOfTable},
-          {Options::chip, Options::variant, Options::diagram, Options::expand, Options::listFormat,
-           Options::output, Options::color},
+          {{Positionals::table, into(to.table.table)}, {Positionals::fieldOfTable, into(to.field)}},
+          {{Options::chip, into(to.table.chip)},
+           {Options::variant, intoVariant(to.table.variant)},
+           {Options::diagram, takeDiagram},
+           {Options::expand, into(to.expand)},
+           {Options::listFormat, takeFormat},
+           {Options::output, into(to.output.file)},
+           {Options::color, into(to.output.color)}},
           {"velmar layout VlanEntry --chip BCM56990_B0",
            "velmar layout IngVpVlanMembership --chip BCM56470_A0 --diagram"},
-          run};
+          [request] { return run(*request); }};
 }
 
 }  // namespace Tool

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <optional>
+
+#include "Detail/CopyBits.h"
+#include "Velmar/Catalogue.h"
+
+// Bits and addresses of entries, for the loops that must be fast: inline, and without checks.
+
+namespace Velmar {
+namespace Core {
+
+/// Reads a range of bits of an entry into the low bits of `value`, whose other bits stay.
+[[gnu::always_inline]] inline void readBits(const U8* entry, U32 entryBytes, U32 offset, U32 width,
+                                            void* value, U32 valueBytes) {
+  Detail::copyBits(static_cast<U8*>(value), static_cast<int>(valueBytes), entry,
+                   static_cast<int>(entryBytes), static_cast<int>(width), 0,
+                   static_cast<int>(offset));
+}
+
+/// Writes the low bits of `value` to a range of bits of an entry.
+[[gnu::always_inline]] inline void writeBits(U8* entry, U32 entryBytes, U32 offset, U32 width,
+                                             const void* value, U32 valueBytes) {
+  Detail::copyBits(entry, static_cast<int>(entryBytes), static_cast<const U8*>(value),
+                   static_cast<int>(valueBytes), static_cast<int>(width), static_cast<int>(offset),
+                   0);
+}
+
+inline void setBit(U8* mask, U32 bit) {
+  mask[bit / 8] = static_cast<U8>(mask[bit / 8] | 1U << bit % 8);
+}
+
+/// Sets the bits of an entry's mask that belong to a field of the chip, and clears the others.
+inline void fieldMask(const Catalogue::Table& table, const Catalogue::Chip& chip, U8* mask) {
+  const U32 bytes = 4U * table.geometry(chip.number).words;
+  for (U32 i = 0; i < bytes; ++i) mask[i] = 0;
+  for (U32 bit = 0; bit < 8 * bytes; ++bit) {
+    if (table.isFieldBit(bit, chip.number)) setBit(mask, bit);
+  }
+}
+
+/// Number of entries of a table, or of elements of a register array: one of the two is 1.
+inline U32 indexCount(const Catalogue::Geometry& geometry) {
+  return geometry.entries * geometry.arrayElements;
+}
+
+/// Address of an entry of a table, or of an element of a register array.
+inline U32 addressOf(const Catalogue::Geometry& geometry, U32 index, U32 identifier) {
+  return geometry.addrStride == 0 ? geometry.addressOf(index, 0, identifier)
+                                  : geometry.addressOf(0, index, identifier);
+}
+
+/// The entry or element that has an address with an identifier.
+inline std::optional<U32> indexAt(const Catalogue::Geometry& geometry, U32 address,
+                                  U32 identifier) {
+  const U32 step = geometry.addrStride == 0 ? 1 : geometry.addrStride;
+  const U32 first = addressOf(geometry, 0, identifier);
+  if (address < first || (address - first) % step != 0) return std::nullopt;
+  const U32 index = (address - first) / step;
+  return index < indexCount(geometry) ? std::optional<U32>(index) : std::nullopt;
+}
+
+}  // namespace Core
+}  // namespace Velmar

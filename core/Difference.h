@@ -1,0 +1,55 @@
+#pragma once
+
+#include "core/Dump.h"
+#include "core/IndexSet.h"
+#include "core/Listing.h"
+
+namespace Velmar {
+namespace Core {
+
+/// How an entry differs. It borrows the bytes of the dumps.
+struct EntryChange {
+  enum class Kind : U8 { changed, onlyInOld, onlyInNew };
+
+  U32 index;
+  Kind kind;
+  const U8* before;  ///< null: the dump has no such entry
+  const U8* after;
+  std::vector<const FieldPlace*> fields;  ///< that differ; null: the reserved bits
+};
+/// As JSON and CSV say it: "changed", "only in OLD", "only in NEW".
+const char* nameOf(EntryChange::Kind kind);
+/// Such as "stg"; the reserved bits are the field "outsideFields".
+inline const char* nameOf(const FieldPlace* changed) {
+  return changed == nullptr ? "outsideFields" : changed->name();
+}
+
+struct DifferenceOptions {
+  std::vector<FieldPlace> fields;  ///< compared; empty: all, and the reserved bits
+  bool reservedBits = false;       ///< compared too
+  IndexSet indexes;
+  bool common = false;        ///< only entries that both dumps have
+  bool stopsAtFirst = false;  ///< the first difference is enough
+};
+
+/// What changed between two dumps of a table.
+struct Difference {
+  std::vector<EntryChange> entries;  ///< ascending
+  U64 compared = 0;                  ///< entries that both dumps have
+  U64 differing = 0;                 ///< of them
+  U64 missing = 0;                   ///< entries that one dump does not have
+  std::string unmet;                 ///< parts of the indexes that neither dump has
+};
+
+/// Compares two dumps, whose entries are matched by their indexes, in any order. Layout, dumps and
+/// options outlive the result.
+Difference difference(const Layout& layout, const Dump& before, const Dump& after,
+                      const DifferenceOptions& options);
+
+/// As rows: for CSV a row for each field, otherwise for each entry; in JSON lines with table and chip.
+std::string differenceText(const Layout& layout, const Difference& difference, RowFormat format);
+/// How many entries differ in each field.
+Listing differenceCounts(const Difference& difference);
+
+}  // namespace Core
+}  // namespace Velmar

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "core/Condition.h"
+#include "core/Dump.h"
+#include "core/Listing.h"
+
+// Entries and values as JSON and CSV.
+
+namespace Velmar {
+namespace Core {
+
+/// Writes entries as JSON, JSON lines or CSV at the end of a text.
+class EntryDocument {
+ public:
+  struct Style {
+    RowFormat format = RowFormat::json;
+    bool isPlain = false;  ///< JSON with values alone: numbers, lists of ports, hexadecimal text
+  };
+
+  EntryDocument(std::string& to, const Layout& layout, std::vector<FieldPlace> fields, Style style);
+
+  void write(U64 index, const U8* bytes);
+  void end() { rows_.end(); }
+
+ private:
+  struct Column {
+    FieldPlace place;
+    std::string key;  ///< all JSON before the value
+  };
+
+  static std::vector<std::string> columnNames(const Layout& layout,
+                                              const std::vector<FieldPlace>& fields);
+  static JsonFrame frame(const Layout& layout, const std::vector<FieldPlace>& fields);
+  void writeObject(U64 index, const U8* bytes);
+  void writeCsv(U64 index, const U8* bytes);
+
+  std::string& to_;
+  const Layout& layout_;
+  Style style_;
+  bool showsReservedBits_;
+  RowWriter rows_;
+  std::string head_;  ///< JSON before the index of an entry
+  std::string tail_;  ///< JSON between the address and the fields
+  std::vector<Column> columns_;
+  std::string entry_;
+};
+
+/// The value of a field as a JSON object: {"hex": ..., "decimal": ..., "ports": [...]}.
+std::string valueJson(const FieldPlace& place, const Value& value);
+/// The value alone: a number if it is exact, a list of ports, or hexadecimal text.
+std::string plainJson(const FieldPlace& place, const Value& value);
+/// The members that say of which table a document is: "table", "chip" and "variant".
+std::string sourceJson(const Layout& layout);
+
+}  // namespace Core
+}  // namespace Velmar

@@ -1,0 +1,96 @@
+#include "verbs/Requests.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "output/Listings.h"
+
+namespace Tool {
+
+void IndexRequest::check(const Layout& layout, const char* option) const {
+  const U64 largest = set.isAll() ? 0 : set.largestNamed();
+  if (largest < layout.indexCount()) return;
+  fail("{} {}: {} has the {} {} to {}; give one of them", option, numberLike(typed, largest),
+       layout.shown(), layout.isRegisterArray() ? "elements" : "entries", numberLike(typed, 0),
+       numberLike(typed, layout.indexCount() - 1));
+}
+
+Taker into(std::string& to) {
+  return [&to](const Texts& texts) { to = texts.front(); };
+}
+
+Taker into(Texts& to) {
+  return [&to](const Texts& texts) { to = texts; };
+}
+
+Taker into(bool& to) {
+  return [&to](const Texts&) { to = true; };
+}
+
+Taker into(Format& to) {
+  return [&to](const Texts& texts) { to = formatOf(texts.front()); };
+}
+
+Taker into(IndexRequest& to) {
+  return [&to](const Texts& texts) {
+    to.typed = join(texts, ",");
+    to.set = taken(IndexSet::of(to.typed));
+  };
+}
+
+Taker into(std::optional<Catalogue::Table>& to) {
+  return [&to](const Texts& texts) { to = taken(findTable(texts.front())); };
+}
+
+Taker into(std::optional<Catalogue::Chip>& to) {
+  return [&to](const Texts& texts) {
+    if (texts.size() != 1) fail("--chip is given {} times; give it once", texts.size());
+    to = taken(findChip(texts.front()));
+  };
+}
+
+Taker intoVariant(U8& to) {
+  return [&to](const Texts& texts) {
+    to = static_cast<U8>(numberOf("--variant", texts.front(), std::numeric_limits<U8>::max()));
+  };
+}
+
+Taker intoOnlyFile(std::string& to) {
+  return [&to](const Texts& texts) {
+    if (texts.size() > 1) fail("more than one dump: {} and {}; give one", texts[0], texts[1]);
+    to = texts.front();
+  };
+}
+
+std::vector<FieldPlace> inOrderOfBits(std::vector<FieldPlace> places) {
+  std::stable_sort(places.begin(), places.end(),
+                   [](const FieldPlace& a, const FieldPlace& b) { return a.offset < b.offset; });
+  return places;
+}
+
+std::vector<FieldPlace> fieldsOf(const Layout& layout, const Texts& names, bool isForPeople) {
+  if (names.empty()) return isForPeople ? inOrderOfBits(layout.fields()) : layout.fields();
+  std::vector<FieldPlace> places;
+  for (const std::string& name : split(join(names, ","), ',')) {
+    for (const FieldPlace& place : taken(findFields(layout, name))) {
+      const auto isSame = [&place](const FieldPlace& other) {
+        return other.field.id == place.field.id;
+      };
+      if (std::none_of(places.begin(), places.end(), isSame)) places.push_back(place);
+    }
+  }
+  return places;
+}
+
+void print(const OutputRequest& request, const Listing& listing, const JsonFrame& frame) {
+  Output output(request.file, request.color);
+  write(output, listing, request.format, frame);
+  output.finish();
+}
+
+void printIfAny(const OutputRequest& request, const Listing& listing, const JsonFrame& frame) {
+  if (!listing.isEmpty() || !request.isForPeople()) return print(request, listing, frame);
+  Output(request.file, request.color).finish();
+}
+
+}  // namespace Tool
