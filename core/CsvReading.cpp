@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <unordered_set>
 
 #include "core/ValuesReading.h"
 
@@ -164,7 +163,7 @@ Done readCsv(const Layout& layout, std::string_view text, const EntrySink& sink)
   const Expected<Columns> columns = columnsOf(layout, cells);
   if (!columns) return failed(columns);
   EntryMaker maker(layout);
-  std::unordered_set<U32> seen;
+  SeenIndexes seen;
   while (csv.next(cells)) {
     if (cells.size() != columns->count) {
       return failed(Fault(Code::input,
@@ -174,7 +173,7 @@ Done readCsv(const Layout& layout, std::string_view text, const EntrySink& sink)
     }
     Expected<EntryValues> entry = entryOf(layout, *columns, cells, maker);
     if (!entry) return failed(entry.error().onLine(csv.line()));
-    if (!seen.insert(*entry->index).second) {
+    if (!seen.insert(*entry->index)) {
       return failed(Fault(Code::input, "entry {} is given twice; give it once", *entry->index)
                         .ofEntry(*entry->index)
                         .onLine(csv.line()));
@@ -185,7 +184,7 @@ Done readCsv(const Layout& layout, std::string_view text, const EntrySink& sink)
   if (csv.isOpen()) {
     return failed(Fault(Code::input, "quotes are not closed; check the row").onLine(csv.line()));
   }
-  if (seen.empty()) return failed(Fault(Code::input, "no entry; check the file"));
+  if (seen.isEmpty()) return failed(Fault(Code::input, "no entry; check the file"));
   return {};
 }
 

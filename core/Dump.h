@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "core/Layout.h"
@@ -48,6 +49,26 @@ class Dump {
   const U8* borrowed_ = nullptr;
   std::vector<U8> owned_;
   std::vector<U32> indexes_;  ///< empty: they follow each other from first_ on
+};
+
+/// The indexes that an input has given.
+class SeenIndexes {
+ public:
+  /// False if it was inserted before.
+  bool insert(U64 index) {
+    constexpr U64 few = U64{1} << 20;
+    if (index >= few) return others_.insert(index).second;
+    const auto at = static_cast<size_t>(index);
+    if (at >= few_.size()) few_.resize(at + 1);
+    const bool isNew = !few_[at];
+    few_[at] = true;
+    return isNew;
+  }
+  bool isEmpty() const { return few_.empty() && others_.empty(); }
+
+ private:
+  std::vector<bool> few_;
+  std::unordered_set<U64> others_;
 };
 
 }  // namespace Core

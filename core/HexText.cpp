@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <unordered_set>
 
 #include "core/TextReading.h"
 
@@ -105,7 +104,7 @@ class HexReader : public TextReader {
 
   /// A padded number of seven or more digits is an offset, unless the notation was chosen.
   bool isOffset(std::string_view line) const {
-    const size_t digits = std::min(line.find_first_not_of("0123456789abcdefABCDEF"), line.size());
+    const size_t digits = hexDigitsOf(line);
     return options_.notation == Notation::automatic && digits >= 7 && line[0] == '0' &&
            line.substr(digits, 1) == ":";
   }
@@ -137,7 +136,7 @@ class HexReader : public TextReader {
   }
 
   bool takeNumber(std::string_view line, U64 index) {
-    if (!seen_.insert(index).second) {
+    if (!seen_.insert(index)) {
       fail("entry {} is given twice; give it once", index).ofEntry(index);
       return false;
     }
@@ -153,8 +152,7 @@ class HexReader : public TextReader {
   bool checkOffset(std::string_view line) {
     const bool isHex = line[0] == '0' && line.size() > 1 && (line[1] | 0x20) == 'x';
     const std::string_view number = line.substr(isHex ? 2 : 0);
-    const size_t digits =
-        std::min(number.find_first_not_of("0123456789abcdefABCDEF"), number.size());
+    const size_t digits = hexDigitsOf(number);
     U64 offset = 0;
     for (const char character : number.substr(0, digits)) {
       offset = 16 * offset + static_cast<U64>(hexDigit(character));
@@ -283,6 +281,7 @@ class HexReader : public TextReader {
   void note(bool hasIndex) {
     hasNumbers_ = hasNumbers_ || groups_.front().prefix == 'x';
     mayFillWords_ = mayFillWords_ || fill(4);
+    if (isPaddedByte_ && hasHexDigit_ && haveDigits(groups_, 2)) return;  // nothing new
     for (const Group& group : groups_) {
       const size_t digits = group.digits.size();
       const bool isPadded = digits > 1 && group.digits[0] == '0';
@@ -293,9 +292,8 @@ class HexReader : public TextReader {
       hasLostDigits_ = (isPadded && digits != 8 && digits != 2) || (isPaddedWord_ && hasShortWord_);
       if (hasLostDigits_) lostDigits_ = digits;
       if (hasLostDigits_) break;
-      const bool isHex = isPadded || group.prefix != 0 ||
-                         group.digits.find_first_not_of("0123456789") != group.digits.npos;
-      hasHexDigit_ = hasHexDigit_ || isHex;
+      hasHexDigit_ = hasHexDigit_ || isPadded || group.prefix != 0 ||
+                     group.digits.find_first_not_of("0123456789") != group.digits.npos;
       needsHexDigit_ = needsHexDigit_ || (!hasIndex && digits > 1 && digits < 8);
     }
   }
@@ -463,7 +461,7 @@ class HexReader : public TextReader {
   }
 
   U64 index_;
-  std::unordered_set<U64> seen_;
+  SeenIndexes seen_;
   Shape shape_ = Shape::unknown;
   U64 lines_ = 0;      ///< that were taken
   U64 firstLine_ = 0;  ///< of data

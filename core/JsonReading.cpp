@@ -1,11 +1,10 @@
 #include <rapidjson/document.h>
-#include <rapidjson/writer.h>
 
 #include <algorithm>
 #include <cstring>
 #include <new>
-#include <unordered_set>
 
+#include "core/Json.h"
 #include "core/ValuesReading.h"
 
 // Entries are read one by one, so that a document of any size takes little memory beside its text.
@@ -30,18 +29,18 @@ struct JsonMemory {
 using JsonPool = rapidjson::MemoryPoolAllocator<JsonMemory>;
 using JsonValue = rapidjson::GenericValue<rapidjson::UTF8<>, JsonPool>;
 using JsonDocument = rapidjson::GenericDocument<rapidjson::UTF8<>, JsonPool, JsonMemory>;
-using JsonBuffer = rapidjson::GenericStringBuffer<rapidjson::UTF8<>, JsonMemory>;
 
 std::string_view textOf(const JsonValue& text) {
   return {text.GetString(), text.GetStringLength()};
 }
 
-/// JSON as messages quote it.
+/// A value as messages quote it.
 std::string shown(const JsonValue& value) {
-  JsonBuffer text;
-  rapidjson::Writer<JsonBuffer, rapidjson::UTF8<>, rapidjson::ASCII<>, JsonMemory> writer(text);
-  value.Accept(writer);
-  return printable(text.GetString()).substr(0, 60);
+  if (value.IsString()) return printable(jsonText(textOf(value))).substr(0, 60);
+  if (value.IsUint64()) return std::to_string(value.GetUint64());
+  if (value.IsBool()) return value.GetBool() ? "true" : "false";
+  if (value.IsNull()) return "null";
+  return value.IsObject() ? "an object" : value.IsArray() ? "a list" : "another number";
 }
 
 // Values.
@@ -247,6 +246,23 @@ const char* expectedAt(rapidjson::ParseErrorCode code) {
   }
 }
 
+/// A name that an object has twice; empty if there is none.
+std::string_view nameGivenTwice(const JsonValue& object) {
+  constexpr size_t few = 4;
+  std::vector<std::string_view> names;
+  for (const auto& [name, member] : object.GetObject()) {
+    if (object.MemberCount() > few) {
+      names.push_back(textOf(name));
+    } else if (&object.FindMember(name)->name != &name) {
+      return textOf(name);
+    }
+  }
+  // In order, equal names are neighbours.
+  std::sort(names.begin(), names.end());
+  const auto twice = std::adjacent_find(names.begin(), names.end());
+  return twice == names.end() ? std::string_view() : *twice;
+}
+
 /// What is wrong with the objects in a value: a name twice, or too many in one another. Empty if nothing
 /// is.
 std::string faultIn(const JsonValue& value, U32 depth = 1) {
@@ -258,17 +274,13 @@ std::string faultIn(const JsonValue& value, U32 depth = 1) {
       fault = faultIn(*member, depth + 1);
     }
   } else if (value.IsObject()) {
-    // In order of the names, those that are given twice are neighbours.
-    std::vector<std::string_view> names;
+    const std::string_view twice = nameGivenTwice(value);
+    if (!twice.empty()) {
+      return formatText("the name {} is given twice; give it once", quoted(twice).view());
+    }
     for (auto member = value.MemberBegin(); fault.empty() && member != value.MemberEnd();
          ++member) {
-      names.push_back(textOf(member->name));
       fault = faultIn(member->value, depth + 1);
-    }
-    std::sort(names.begin(), names.end());
-    const auto twice = std::adjacent_find(names.begin(), names.end());
-    if (fault.empty() && twice != names.end()) {
-      fault = formatText("the name {} is given twice; give it once", quoted(*twice).view());
     }
   }
   return fault;
@@ -440,7 +452,7 @@ class JsonReader {
     Expected<EntryValues> entry = entryOf(layout_, value, index_, maker_);
     if (!entry) return fail(entry.error());
     if (entry->index) {
-      if (!seen_.insert(*entry->index).second) {
+      if (!seen_.insert(*entry->index)) {
         return fail(Fault(Code::input, "entry {} is given twice; give it once", *entry->index)
                         .ofEntry(*entry->index));
       }
@@ -457,7 +469,7 @@ class JsonReader {
   Source source_;
   JsonPool pool_;  ///< memory for an entry
   U32 index_;      ///< of the next entry without one
-  std::unordered_set<U32> seen_;
+  SeenIndexes seen_;
   std::optional<Fault> fault_;
   bool isStarted_ = false;
   U64 line_ = 1;        ///< on which the part begins

@@ -10,8 +10,6 @@ namespace Velmar {
 namespace Core {
 namespace {
 
-constexpr const char* hexDigits = "0123456789abcdefABCDEF";
-
 class OffsetReader : public TextReader {
  public:
   OffsetReader(const Layout& layout, const ReadOptions& options, const TextReading& reading)
@@ -77,7 +75,7 @@ class OffsetReader : public TextReader {
   bool takeOffset(std::string_view& rest) {
     const bool isHex = rest.size() > 2 && rest[0] == '0' && (rest[1] | 0x20) == 'x';
     if (isHex) rest.remove_prefix(2);
-    const size_t digits = std::min(rest.find_first_not_of(hexDigits), rest.size());
+    const size_t digits = hexDigitsOf(rest);
     row_.digits = rest.substr(0, digits);
     rest.remove_prefix(digits);
     row_.isSymbol = false;
@@ -175,17 +173,17 @@ class OffsetReader : public TextReader {
   }
 
   bool takeColonColumns(std::string_view rest) {
+    const char* const begin = rest.data();
     rest.remove_prefix(std::min(rest.find_first_not_of(" \t"), rest.size()));
     const size_t end = std::min(rest.find("  "), rest.size());
     const std::string_view text = trim(rest.substr(end));
-    const std::string columns = " " + std::string(rest.substr(0, end));
     if (end == 0) {
       fail("no digits after the offset; check the line for lost digits");
       return false;
     }
-    if (!splitColumns(columns, row_.groups, 1)) return false;
-    columns_ = columns;
-    splitColumns(columns_, row_.groups, 1);
+    // Before each group, also the first, there is one blank.
+    if (rest.data() == begin || !splitColumns({rest.data() - 1, end + 1}, row_.groups, 1))
+      return false;
     if (!text.empty()) row_.text = text;
     if (!isBinary(text)) return true;
     fail("binary digits; print the dump again with xxd without -b");
@@ -232,13 +230,13 @@ class OffsetReader : public TextReader {
   bool checkText() {
     isXxd_ = isXxd_ && row_.text;
     if (!row_.text) return true;
-    std::string expected;
+    expected_.clear();
     for (const U8 byte : row_.bytes) {
       const bool isPrintable = byte >= ' ' && byte <= '~';
       hasPrintable_ = hasPrintable_ || (isPrintable && byte != '.');
-      expected += isPrintable ? static_cast<char>(byte) : '.';
+      expected_ += isPrintable ? static_cast<char>(byte) : '.';
     }
-    if (trim(*row_.text) == trim(expected)) return true;
+    if (trim(*row_.text) == trim(expected_)) return true;
     Fault& fault = fail("digits and text column disagree");
     if (isTold() || haveDigits(row_.groups, 2)) {
       fault.advise("check the line, and $1").offer("hex-order");
@@ -313,7 +311,7 @@ class OffsetReader : public TextReader {
   }
 
   Row row_;
-  std::string columns_;
+  std::string expected_;  ///< the text column, as the bytes have it
   std::string_view symbol_;
   bool isBare_ = false;  ///< an address after 0x that may also be an index
   bool started_ = false;

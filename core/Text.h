@@ -67,6 +67,12 @@ constexpr int hexDigit(char character) {
   if (character >= 'A' && character <= 'F') return character - 'A' + 10;
   return -1;
 }
+/// How many hexadecimal digits a text begins with.
+constexpr std::size_t hexDigitsOf(std::string_view text) {
+  std::size_t digits = 0;
+  while (digits < text.size() && hexDigit(text[digits]) >= 0) ++digits;
+  return digits;
+}
 constexpr bool isHexDigit(char character) { return hexDigit(character) >= 0; }
 
 std::string_view trim(std::string_view text);

@@ -24,8 +24,17 @@ constexpr std::array<U8, 256> kinds = [] {
 
 Kind kindOf(char character) { return static_cast<Kind>(kinds[static_cast<U8>(character)]); }
 
-U8 byteAt(std::string_view digits, size_t at) {
-  return static_cast<U8>(hexDigit(digits[at]) << 4 | hexDigit(digits[at + 1]));
+constexpr std::array<U8, 256> digitValues = [] {
+  std::array<U8, 256> all{};
+  for (const char character : std::string_view("0123456789abcdefABCDEF")) {
+    all[static_cast<U8>(character)] = static_cast<U8>(hexDigit(character));
+  }
+  return all;
+}();
+
+U8 valueOf(char digit) { return digitValues[static_cast<U8>(digit)]; }
+U8 byteAt(const char* digits) {
+  return static_cast<U8>(valueOf(digits[0]) << 4 | valueOf(digits[1]));
 }
 
 bool isLetter(char character) {
@@ -193,16 +202,18 @@ bool haveDigits(const std::vector<Group>& groups, size_t digits) {
 }
 
 void appendBytes(std::string_view digits, std::vector<U8>& bytes) {
-  for (size_t at = 0; at + 1 < digits.size(); at += 2) bytes.push_back(byteAt(digits, at));
+  const size_t count = digits.size() / 2;
+  bytes.resize(bytes.size() + count);
+  U8* to = bytes.data() + bytes.size() - count;
+  for (size_t i = 0; i < count; ++i) *to++ = byteAt(digits.data() + 2 * i);
 }
 
 void appendNumber(std::string_view digits, size_t count, std::vector<U8>& bytes) {
-  const size_t end = bytes.size() + count;
-  for (; digits.size() >= 2; digits.remove_suffix(2)) {
-    bytes.push_back(byteAt(digits, digits.size() - 2));
-  }
-  if (!digits.empty()) bytes.push_back(static_cast<U8>(hexDigit(digits[0])));
-  bytes.resize(end);
+  bytes.resize(bytes.size() + count);
+  U8* to = bytes.data() + bytes.size() - count;
+  const char* at = digits.data() + digits.size();
+  for (; at - digits.data() >= 2; at -= 2) *to++ = byteAt(at - 2);
+  if (at != digits.data()) *to = valueOf(*digits.data());
 }
 
 std::string cleaned(std::string_view text) {
@@ -303,7 +314,9 @@ size_t logPrefix(std::string_view line, std::string& shape) {
 }
 
 Lines::Lines(std::string_view text) : text_(text) {
-  if (text.find_first_of("\xef\xc2\x1b") != text.npos) {
+  // Three searches for one character are much faster than one for any of three.
+  if (text.find('\xef') != text.npos || text.find('\xc2') != text.npos ||
+      text.find('\x1b') != text.npos) {
     clean_ = cleaned(text);
     text_ = clean_;
   }

@@ -9,8 +9,8 @@ namespace {
 
 // Of several readings with the same result the first is taken.
 constexpr TextReading readings[] = {
-    {Notation::hex, Lead::index, 10, HexOrder::bytes},
     {Notation::hex, Lead::index, 10, HexOrder::words},
+    {Notation::hex, Lead::index, 10, HexOrder::bytes},
     {Notation::hex, Lead::index, 10, HexOrder::integer},
     {Notation::xxd, Lead::colon, 16, HexOrder::bytes},
     {Notation::xxd, Lead::colon, 16, HexOrder::words},
@@ -27,7 +27,7 @@ constexpr TextReading readings[] = {
 
 /// The notation that the first line of data has the form of.
 Notation notationOfLine(std::string_view line) {
-  const size_t digits = std::min(line.find_first_not_of("0123456789abcdefABCDEF"), line.size());
+  const size_t digits = hexDigitsOf(line);
   const std::string_view rest = line.substr(digits);
   const bool isPadded = digits >= 7 && digits <= 16 && line[0] == '0';
   if (rest.substr(0, 1) == ":" && (isPadded || digits == 8)) return Notation::xxd;
@@ -116,7 +116,8 @@ Expected<Dump> judged(std::vector<Attempt>& attempts, Notation expected) {
       const bool asks = attempt.fault->code == Code::ambiguous;
       const bool otherAsks = other.fault->code == Code::ambiguous;
       if (asks != otherAsks) return asks;
-      return attempt.reading.notation == expected && other.reading.notation != expected;
+      if (attempt.reading.notation != expected) return false;
+      return other.reading.notation != expected || attempt.reading.order < other.reading.order;
     };
     if (best == nullptr || isFurther(*best)) best = &attempt;
   }
@@ -135,8 +136,9 @@ Expected<Dump> tried(const Layout& layout, const ReadOptions& options, Lines& li
   const Notation expected = options.notation != Notation::automatic ? options.notation
                             : first.empty()                         ? Notation::hex
                                                                     : notationOfLine(first);
-  const size_t digits = std::min(first.find_first_not_of("0123456789abcdefABCDEF"), first.size());
+  const size_t digits = hexDigitsOf(first);
   std::vector<Attempt> attempts;
+  Rank best = Rank::unlikely;
   for (const TextReading& reading : readings) {
     if (!isMeant(reading, options, expected)) continue;
     // od writes offsets of 6 hexadecimal digits, or of 7 octal or decimal ones; hexdump writes 7.
@@ -145,7 +147,8 @@ Expected<Dump> tried(const Layout& layout, const ReadOptions& options, Lines& li
     Attempt attempt{reading, nullptr, std::nullopt};
     attempt.reader = reading.lead == Lead::index ? makeHexReader(layout, options, reading)
                                                  : makeOffsetReader(layout, options, reading);
-    attempt.fault = attempt.reader->read(lines);
+    attempt.fault = attempt.reader->read(lines, best);
+    if (!attempt.fault) best = std::min(best, attempt.reader->rank());
     reached = std::max(reached, attempt.reader->progress());
     attempts.push_back(std::move(attempt));
   }
@@ -159,7 +162,7 @@ Expected<Dump> tried(const Layout& layout, const ReadOptions& options, Lines& li
 
 }  // namespace
 
-std::optional<Fault> TextReader::read(Lines& lines) {
+std::optional<Fault> TextReader::read(Lines& lines, Rank worst) {
   U64 foreign = 0, foreignAfter = 0;
   std::string lastForeign;
   lines.restart();
@@ -167,6 +170,7 @@ std::optional<Fault> TextReader::read(Lines& lines) {
     const std::string_view text = line_.text;
     reach(0);
     const Taken taken = line_.hasPrefix && foreignAfter == 0 ? take(text) : Taken::no;
+    if (rank_ > worst) return fail("another reading is likelier; take that one");
     if (taken == Taken::yes || text[0] == '#') continue;
     if (taken == Taken::fault) return fault_;
     if (line_.hasPrefix && takeMark(text)) continue;

@@ -42,8 +42,9 @@ class TextReader {
         stride_(options.stride != 0 ? options.stride : layout.entryBytes()) {}
   virtual ~TextReader() = default;
 
-  /// Reads all lines. The dump is in `dump` if there is no fault.
-  std::optional<Fault> read(Lines& lines);
+  /// Reads all lines, as long as the rank is not worse than `worst`. The dump is in `dump` if there is no
+  /// fault.
+  std::optional<Fault> read(Lines& lines, Rank worst);
   /// How far it got: the line, and the step in it.
   U64 progress() const { return steps * line_.number + step_; }
   Rank rank() const { return rank_; }

@@ -269,24 +269,25 @@ def is_as(result, expected):
     return any(parts(result) <= parts(choice) for choice in expected.split("|"))
 
 
-rows = []
-for name, (expectation, notation) in notations.items():
-    for table in targets:
-        for kind, dump in dumps(table.entry_bytes).items():
-            text = notation(dump, table)
-            if text is None:
-                continue
-            expected = expectation(text) if callable(expectation) else expectation
-            where = f"{name}, {table.name} on {table.chip} ({table.entry_bytes} bytes), {kind}"
-            result = outcome(table, dump, text, expected)
-            rows.append((where, expected, result))
-            check(not result.startswith("WRONG"), f"{where}: {result}")
-            # Characters of ASCII may be decimal numbers, zeros after a "*" may have an offset of any base.
-            # Zeros are the same in any order.
-            is_open = kind in ("ASCII", "zero") and (result != "refused" or "hexdump" in name)
-            check(result.startswith("WRONG") or is_as(result, expected) or is_open,
-                  f"{where}: {result}, expected {expected}")
-if "--table" in sys.argv:
-    for row in rows:
-        print("\t".join(cell.strip() for cell in row))
-finish()
+if __name__ == "__main__":
+    rows = []
+    for name, (expectation, notation) in notations.items():
+        for table in targets:
+            for kind, dump in dumps(table.entry_bytes).items():
+                text = notation(dump, table)
+                if text is None:
+                    continue
+                expected = expectation(text) if callable(expectation) else expectation
+                where = f"{name}, {table.name} on {table.chip} ({table.entry_bytes} bytes), {kind}"
+                result = outcome(table, dump, text, expected)
+                rows.append((where, expected, result))
+                check(not result.startswith("WRONG"), f"{where}: {result}")
+                # Characters of ASCII may be decimal numbers, zeros after a "*" may have an offset of any base.
+                # Zeros are the same in any order.
+                is_open = kind in ("ASCII", "zero") and (result != "refused" or "hexdump" in name)
+                check(result.startswith("WRONG") or is_as(result, expected) or is_open,
+                      f"{where}: {result}, expected {expected}")
+    if "--table" in sys.argv:
+        for row in rows:
+            print("\t".join(cell.strip() for cell in row))
+    finish()

@@ -138,7 +138,8 @@ class Encoder {
     builder_.forget();
     for (const U8 position : values.fields) {
       const FieldPlace& place = layout_.fields()[position];
-      check(builder_.set(place, values_.valueOf(place, values)), values_.placeOf(values));
+      const Done done = builder_.set(place, values_.valueOf(place, values));
+      if (!done) check(done, values_.placeOf(values));
     }
     builder_.setReservedBits(values.reservedBits);
   }
@@ -158,8 +159,8 @@ class Encoder {
         fail("{}: entry {} is beyond the end of {}, which has {}; check table and chip",
              values_.placeOf(values), *values.index, layout_.shown(), layout_.indexCount());
       }
-      builder_.startFromZero();
-      setValues(values);
+      builder_.start(values.bytes.data());
+      builder_.setReservedBits(values.reservedBits);
       add(*values.index);
     }
   }
