@@ -13,7 +13,7 @@
 ///
 /// A call that can fail returns a code, and writes nothing but the fault when it fails. Nothing
 /// prints, aborts or throws. Dumps and documents are allocated, and freed by the caller with
-/// velmar_dump_free() and velmar_text_free(); a call that makes one says VELMAR_MEMORY where there is
+/// velmar_dump_free() and velmar_text_free(); a call that makes one returns VELMAR_MEMORY if there is
 /// no memory. Other calls allocate nothing; only the C library may allocate the place of a thread's
 /// fault, once. All calls may run in several threads at once, on different entries; a dump may be
 /// used in several threads at once. Other texts and layouts live as long as the library.
@@ -35,7 +35,7 @@ typedef enum velmar_code {
   VELMAR_SIZE = 2,         ///< a buffer is too short or too long
   VELMAR_INDEX = 3,        ///< no chip, table, field, entry, element or identifier has the number
   VELMAR_UNKNOWN = 4,      ///< no chip, table or field has the name or identifier
-  VELMAR_AMBIGUOUS = 5,    ///< several chips, or a family of fields, have the name
+  VELMAR_AMBIGUOUS = 5,    ///< several chips or fields have the name, or several readings fit a text
   VELMAR_NOT_ON_CHIP = 6,  ///< the chip does not have the table or the field
   VELMAR_VARIANT = 7,      ///< the table on the chip does not have the variant
   VELMAR_VALUE = 8,        ///< the value has more bits than the field
@@ -47,8 +47,9 @@ typedef enum velmar_code {
 } velmar_code;
 
 /// What went wrong in the last call of this thread that failed, where in the input if it has lines,
-/// and what to do about it, such as "unknown table "VlanEntri"; did you mean VlanEntry? "velmar tables" lists the tables". Empty
-/// before the first failure. The text is good until the next call of this thread that fails.
+/// and what to do about it, such as "unknown table "VlanEntri"; did you mean VlanEntry? "velmar
+/// tables" lists the tables". Empty before the first failure. The text is good until the next call of
+/// this thread that fails.
 VELMAR_API const char* velmar_message(void);
 
 /// The version of the library, such as "0.2.0".
@@ -273,8 +274,8 @@ typedef struct velmar_dump velmar_dump;
 
 /// Reads the `size` bytes of a file or text, at most 64 MiB. `options` may be NULL; `options_size` is
 /// sizeof *options. A raw dump without a stride borrows `bytes`, which must outlive it; others copy.
-/// VELMAR_INPUT: it is no dump of the table. VELMAR_OPTION: an option is wrong or has no effect, or
-/// one must say which of several readings is meant: velmar_last_fault() gives its choices.
+/// VELMAR_INPUT: it is not a dump of the table. VELMAR_OPTION: an option is wrong or has no effect.
+/// VELMAR_AMBIGUOUS: several readings fit; velmar_last_fault() gives the options that part them.
 /// VELMAR_INDEX, VELMAR_SIZE: it has an entry that the table does not have, or no whole entries.
 VELMAR_API velmar_code velmar_dump_read(const velmar_layout* layout,
                                         const velmar_read_options* options, size_t options_size,
@@ -312,7 +313,7 @@ VELMAR_API velmar_code velmar_select(const velmar_dump* dump, const char* const*
 // velmar_text_free().
 
 VELMAR_API void velmar_text_free(char* text);
-/// The values of all fields, as "velmar-entries": of the entries at `count` positions, or of all where
+/// The values of all fields, as "velmar-entries": of the entries at `count` positions, or of all if
 /// `positions` is NULL and `count` 0. `plain` not 0: numbers, lists of ports and hexadecimal text alone.
 VELMAR_API velmar_code velmar_entries_json(const velmar_dump* dump, const uint32_t* positions,
                                            size_t count, uint32_t plain, char** text);

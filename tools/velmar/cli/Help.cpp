@@ -44,19 +44,23 @@ const std::vector<Notation> notations = {
      "hex text, an entry on each line, in groups of two digits, the first byte first; blanks, "
      "commas, "
      "semicolons, colons, brackets and \\x may stand between them"},
-    {"words", "hex text, an entry on each line, in groups of eight digits, the first word first"},
+    {"words",
+     "hex text, an entry on each line, in groups of eight digits, the first word first; without "
+     "zeros "
+     "before them if a line has the words of an entry"},
     {"0x", "may stand before each group of hex text"},
     {"index:", "before an entry of hex text, such as 100: or 0x64:, gives its index"},
     {"#", "begins a comment in hex text; blank lines are skipped"},
     {"other groups",
      "give --hex-order, which says what the digits are; without it they are refused"},
     {"one line, one value",
-     "one word on each line, or after 0x all digits of an entry, the highest first; lines of one "
-     "length that is not an entry's are read as a stream, as of xxd -p"},
+     "one word on each line, or after 0x all digits of an entry, the highest first; lines without "
+     "blanks that are no entries are read as a stream if they have the 60 digits of xxd -p"},
     {"xxd, hexdump -C, od -t x1",
-     "their output, with offsets that must follow one another; for their words, as of xxd -e, "
-     "hexdump or od -t x4, give --hex-order, and --byte-order big for words of the other byte "
-     "order"},
+     "their output, with offsets that must follow one another; what may be bytes or words, as of "
+     "xxd "
+     "-e, hexdump or od -t x4, needs --hex-order, and words of the other byte order need "
+     "--byte-order big"},
     {"other lines",
      "before and after the data, such as a prompt, are skipped, and a note counts them"},
     {"addresses",
