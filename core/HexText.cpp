@@ -181,7 +181,6 @@ class HexReader : public TextReader {
     if (isFirst) {
       shape_ = isEntry || index ? Shape::entries : Shape::stream;
       hasIndex_ = index.has_value();
-      firstLine_ = line_.number;
       lineBytes_ = bytes_.size();
       isRun_ = isRun();
       if (shape_ == Shape::stream && line.back() != ',' && !checkStream(line)) return false;
@@ -463,8 +462,7 @@ class HexReader : public TextReader {
   U64 index_;
   SeenIndexes seen_;
   Shape shape_ = Shape::unknown;
-  U64 lines_ = 0;      ///< that were taken
-  U64 firstLine_ = 0;  ///< of data
+  U64 lines_ = 0;  ///< that were taken
   bool hasIndex_ = false;
   bool hasOffset_ = false;  ///< the last index may be an offset
   U64 offset_ = 0;

@@ -19,6 +19,7 @@ Expected<Layout> Layout::of(const Catalogue::Table& table, const Catalogue::Chip
 
 Layout::Layout(const Catalogue::Table& table, const Catalogue::Chip& chip, U8 variant)
     : table_(table), chip_(chip), variant_(variant), geometry_(table.geometry(chip.number)) {
+  fields_.reserve(geometry_.fieldCount);
   for (U32 i = 0; i < table.fieldCount(); ++i) {
     const Catalogue::BitRange range = table.range(i, chip.number);
     if (range.width == 0) continue;

@@ -1,5 +1,7 @@
 #include "core/Listing.h"
 
+#include <algorithm>
+
 namespace Velmar {
 namespace Core {
 
@@ -18,7 +20,10 @@ JsonFrame frameOf(const char* name, const char* rows, const std::string& members
 }
 
 void appendCsv(std::string& to, std::string_view text) {
-  if (text.find_first_of(",\"\r\n") == text.npos) {
+  const bool isPlain = std::none_of(text.begin(), text.end(), [](char character) {
+    return character == ',' || character == '"' || character == '\r' || character == '\n';
+  });
+  if (isPlain) {
     to += text;
     return;
   }
@@ -34,7 +39,12 @@ RowWriter::RowWriter(std::string& to, RowFormat format, std::vector<std::string>
                      JsonFrame frame)
     : to_(to), format_(format), columns_(std::move(columns)), frame_(std::move(frame)) {
   if (format == RowFormat::json) to_ += frame_.head;
-  if (format == RowFormat::csv) write(Row(columns_.begin(), columns_.end()));
+  if (format != RowFormat::csv) return;
+  for (const std::string& column : columns_) {
+    if (&column != &columns_.front()) to_ += ',';
+    appendCsv(to_, column);
+  }
+  to_ += '\n';
 }
 
 void RowWriter::write(const Row& row) {

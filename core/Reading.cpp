@@ -68,9 +68,11 @@ std::optional<Fault> refusal(std::string_view input, std::string_view head) {
 /// lines.
 bool isRaw(std::string_view head) {
   if (head.empty()) return true;
-  const std::string clean = cleaned(head);
-  const auto texts = std::count_if(clean.begin(), clean.end(), isTextByte);
-  if (8 * static_cast<size_t>(texts) < 7 * clean.size()) return true;
+  std::string clean;
+  std::string_view text = head;
+  if (needsCleaning(head)) text = clean = cleaned(head);
+  const auto texts = std::count_if(text.begin(), text.end(), isTextByte);
+  if (8 * static_cast<size_t>(texts) < 7 * text.size()) return true;
   return head.find('\0') != head.npos && head.find('\n') == head.npos;
 }
 

@@ -31,6 +31,8 @@ void appendNumber(std::string_view digits, size_t count, std::vector<U8>& bytes)
 
 /// The text without UTF-8 marks and colour sequences, and with blanks for no-break spaces.
 std::string cleaned(std::string_view text);
+/// Whether that may be another text.
+bool needsCleaning(std::string_view text);
 
 /// Whether a line is a prompt, a command or a sentence. Mistyped data still counts as data.
 bool isForeign(std::string_view line);

@@ -103,7 +103,7 @@ Expected<Dump> judged(std::vector<Attempt>& attempts, Notation expected) {
     for (const Attempt& other : attempts) {
       const bool competes = !other.fault && other.reader->rank() == best->reader->rank();
       if (!competes || isSame(other.reader->dump, best->reader->dump)) continue;
-      return failed(ambiguity(best->reading, other.reading, 1));
+      return failed(ambiguity(best->reading, other.reading, best->reader->firstLine()));
     }
     best->reader->dump.notation = best->reading.notation;
     return std::move(best->reader->dump);
@@ -170,6 +170,7 @@ std::optional<Fault> TextReader::read(Lines& lines, Rank worst) {
     const std::string_view text = line_.text;
     reach(0);
     const Taken taken = line_.hasPrefix && foreignAfter == 0 ? take(text) : Taken::no;
+    if (taken == Taken::yes && hasData() && firstLine_ == 0) firstLine_ = line_.number;
     if (rank_ > worst) return fail("another reading is likelier; take that one");
     if (taken == Taken::yes || text[0] == '#') continue;
     if (taken == Taken::fault) return fault_;

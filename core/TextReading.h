@@ -48,6 +48,8 @@ class TextReader {
   /// How far it got: the line, and the step in it.
   U64 progress() const { return steps * line_.number + step_; }
   Rank rank() const { return rank_; }
+  /// The first line of data.
+  U64 firstLine() const { return firstLine_; }
   Dump dump;
 
  protected:
@@ -85,6 +87,7 @@ class TextReader {
   U64 step_ = 0;
   std::optional<Fault> fault_;
   Rank rank_ = Rank::convention;
+  U64 firstLine_ = 0;
 };
 
 std::unique_ptr<TextReader> makeHexReader(const Layout& layout, const ReadOptions& options,
