@@ -80,8 +80,7 @@ velmar_code give(const Facts& facts, Facts* into, size_t size, size_t first = si
 }
 
 /// What a caller asks of a dump; `variant` is that of its layout.
-velmar_code takeOptions(const velmar_read_options* options, size_t size, Core::ReadOptions& into,
-                        U32& variant);
+velmar_code takeOptions(const velmar_read_options* options, Core::ReadOptions& into, U32& variant);
 
 /// Runs what allocates: the one fault that the core does not give as a value is that there is no
 /// memory.

@@ -79,7 +79,7 @@ velmar_code velmar_entries_json(const velmar_dump* dump, const uint32_t* positio
   });
 }
 
-velmar_code velmar_difference(const velmar_dump* before, const velmar_dump* after, char** text) {
+velmar_code velmar_diff(const velmar_dump* before, const velmar_dump* after, char** text) {
   if (const auto code =
           checkPointers({{before, "the dump"}, {after, "the other dump"}, {text, "the text"}}))
     return code;
@@ -92,8 +92,8 @@ velmar_code velmar_difference(const velmar_dump* before, const velmar_dump* afte
   });
 }
 
-velmar_code velmar_comparison(uint32_t before, uint32_t after, uint32_t table, uint32_t variant,
-                              char** text) {
+velmar_code velmar_compare(uint32_t before, uint32_t after, uint32_t table, uint32_t variant,
+                           char** text) {
   if (const auto code = checkChip(before)) return code;
   if (const auto code = checkChip(after)) return code;
   if (const auto code = checkPointer(text, "the text")) return code;
@@ -111,9 +111,8 @@ velmar_code velmar_comparison(uint32_t before, uint32_t after, uint32_t table, u
   });
 }
 
-velmar_code velmar_identification(const void* bytes, size_t size,
-                                  const velmar_read_options* options, size_t options_size,
-                                  uint32_t table, uint32_t chip, char** text) {
+velmar_code velmar_identify(const void* bytes, size_t size, const velmar_read_options* options,
+                            uint32_t table, uint32_t chip, char** text) {
   if (const auto code = checkPointers({{bytes, "the input"}, {text, "the text"}})) return code;
   std::optional<Catalogue::Table> ofTable;
   std::optional<Catalogue::Chip> ofChip;
@@ -122,7 +121,7 @@ velmar_code velmar_identification(const void* bytes, size_t size,
   return allocating([&] {
     Core::ReadOptions own;
     U32 variant = 0;
-    if (const auto code = takeOptions(options, options_size, own, variant)) return code;
+    if (const auto code = takeOptions(options, own, variant)) return code;
     if (variant != 0) {
       return fail(Fault(Code::option, "variant {} has no effect on identification", variant)
                       .advise("give variant 0"));
@@ -133,8 +132,8 @@ velmar_code velmar_identification(const void* bytes, size_t size,
   });
 }
 
-velmar_code velmar_translation(const velmar_dump* dump, uint32_t chip, velmar_dump** translated,
-                               char** losses) {
+velmar_code velmar_translate(const velmar_dump* dump, uint32_t chip, velmar_dump** translated,
+                             char** losses) {
   if (const auto code = checkPointer(dump, "the dump")) return code;
   if (const auto code = checkChip(chip)) return code;
   if (const auto code =

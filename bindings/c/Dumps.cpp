@@ -78,12 +78,13 @@ velmar_code selectIn(const velmar_dump& dump, const std::vector<std::string>& co
 
 }  // namespace
 
-velmar_code Velmar::Binding::takeOptions(const velmar_read_options* options, size_t size,
+velmar_code Velmar::Binding::takeOptions(const velmar_read_options* options,
                                          Core::ReadOptions& into, U32& variant) {
   velmar_read_options own{};
   if (options == nullptr) return VELMAR_OK;
+  const size_t size = options->size;
   if (size < sizeof own) {
-    return fail(Fault(Code::size, "the options have {} bytes", size)
+    return fail(Fault(Code::size, "the options have a size of {} bytes", size)
                     .advise("give sizeof, at least {}", sizeof own));
   }
   const U8* const bytes = reinterpret_cast<const U8*>(options);
@@ -102,15 +103,14 @@ velmar_code Velmar::Binding::takeOptions(const velmar_read_options* options, siz
 }
 
 velmar_code velmar_dump_read(const velmar_layout* layout, const velmar_read_options* options,
-                             size_t options_size, const void* bytes, size_t size,
-                             velmar_dump** dump) {
+                             const void* bytes, size_t size, velmar_dump** dump) {
   if (const auto code =
           checkPointers({{layout, "the layout"}, {bytes, "the input"}, {dump, "the dump"}}))
     return code;
   return allocating([&] {
     Core::ReadOptions own;
     U32 variant = 0;
-    if (const auto code = takeOptions(options, options_size, own, variant)) return code;
+    if (const auto code = takeOptions(options, own, variant)) return code;
     std::optional<Core::Layout> of;
     if (const auto code = coreLayoutOf(layout, variant, of)) return code;
     auto entries = Core::readDump(*of, own, {static_cast<const char*>(bytes), size});

@@ -250,8 +250,10 @@ VELMAR_API velmar_code velmar_entry_at(uint32_t chip, uint32_t variant, uint32_t
 
 // Dumps: entries of one table on one chip, each with its index, from bytes or text in any notation.
 
-/// How to read a dump. Options that are all zero are the default.
+/// How to read a dump. All but `size` may be zero, which is the default. Later releases add members at
+/// the end.
 typedef struct velmar_read_options {
+  size_t size;        ///< sizeof(velmar_read_options)
   const char* input;  ///< notation: "raw", "hex", "xxd", "hexdump", "od", "json" or "csv"; NULL or
                       ///< "auto": recognized
   const char*
@@ -272,14 +274,13 @@ typedef struct velmar_read_options {
 /// Entries with their indexes. It does not change.
 typedef struct velmar_dump velmar_dump;
 
-/// Reads the `size` bytes of a file or text, at most 64 MiB. `options` may be NULL; `options_size` is
-/// sizeof *options. A raw dump without a stride borrows `bytes`, which must outlive it; others copy.
+/// Reads the `size` bytes of a file or text, at most 64 MiB. `options` may be NULL. A raw dump without a stride borrows `bytes`, which must outlive it; others copy.
 /// VELMAR_INPUT: it is not a dump of the table. VELMAR_OPTION: an option is wrong or has no effect.
 /// VELMAR_AMBIGUOUS: several readings fit; velmar_last_fault() gives the options that part them.
 /// VELMAR_INDEX, VELMAR_SIZE: it has an entry that the table does not have, or no whole entries.
 VELMAR_API velmar_code velmar_dump_read(const velmar_layout* layout,
-                                        const velmar_read_options* options, size_t options_size,
-                                        const void* bytes, size_t size, velmar_dump** dump);
+                                        const velmar_read_options* options, const void* bytes,
+                                        size_t size, velmar_dump** dump);
 /// A dump of `count` entries without gaps, `size` bytes. `indexes`: their indexes in any order, each
 /// once; NULL: from 0 on, and the dump borrows `bytes`, which must outlive it.
 VELMAR_API velmar_code velmar_dump_of(const velmar_layout* layout, uint32_t variant,
@@ -319,23 +320,22 @@ VELMAR_API velmar_code velmar_entries_json(const velmar_dump* dump, const uint32
                                            size_t count, uint32_t plain, char** text);
 /// What changed between two dumps of one layout and variant, as "velmar-diff". Entries are matched by
 /// their indexes. VELMAR_INPUT: the dumps are of different tables, chips or variants.
-VELMAR_API velmar_code velmar_difference(const velmar_dump* before, const velmar_dump* after,
+VELMAR_API velmar_code velmar_diff(const velmar_dump* before, const velmar_dump* after,
                                          char** text);
 /// What changes from one chip to another, as "velmar-comparison": in one table, or in all for
 /// VELMAR_NONE.
-VELMAR_API velmar_code velmar_comparison(uint32_t before, uint32_t after, uint32_t table,
+VELMAR_API velmar_code velmar_compare(uint32_t before, uint32_t after, uint32_t table,
                                          uint32_t variant, char** text);
 /// The tables and chips that a dump fits, the likeliest first, as "velmar-identification". `table` and
 /// `chip` are the only ones that are tried, or VELMAR_NONE. The variant is 0. VELMAR_INPUT: there is
 /// nothing to read, or too much.
-VELMAR_API velmar_code velmar_identification(const void* bytes, size_t size,
-                                             const velmar_read_options* options,
-                                             size_t options_size, uint32_t table, uint32_t chip,
+VELMAR_API velmar_code velmar_identify(const void* bytes, size_t size,
+                                             const velmar_read_options* options, uint32_t table, uint32_t chip,
                                              char** text);
 /// Moves the entries of a dump to another chip, each field to its place there. Fields that only that
 /// chip has are zero. `translated` is a dump like any other, or has no entry if none can be moved.
 /// `losses` is what it does not hold, as "velmar-translation"; its list is empty if nothing is lost.
-VELMAR_API velmar_code velmar_translation(const velmar_dump* dump, uint32_t chip,
+VELMAR_API velmar_code velmar_translate(const velmar_dump* dump, uint32_t chip,
                                           velmar_dump** translated, char** losses);
 
 #ifdef __cplusplus

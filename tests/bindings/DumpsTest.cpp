@@ -40,7 +40,11 @@ void operator delete[](void* memory, std::size_t) noexcept { operator delete(mem
 
 namespace {
 
-constexpr velmar_read_options noOptions{};
+constexpr velmar_read_options noOptions = [] {
+  velmar_read_options options{};
+  options.size = sizeof options;
+  return options;
+}();
 
 struct FreeDump {
   void operator()(velmar_dump* dump) const { velmar_dump_free(dump); }
@@ -63,8 +67,7 @@ velmar_read_options optionsOf(const char* input, const char* hexOrder = nullptr)
 velmar_code read(const velmar_layout* layout, const velmar_read_options& options,
                  const std::string& bytes, DumpPointer& into) {
   velmar_dump* dump = nullptr;
-  const velmar_code code =
-      velmar_dump_read(layout, &options, sizeof options, bytes.data(), bytes.size(), &dump);
+  const velmar_code code = velmar_dump_read(layout, &options, bytes.data(), bytes.size(), &dump);
   EXPECT_EQ(code == VELMAR_OK, dump != nullptr);
   into.reset(dump);
   return code;
@@ -147,14 +150,14 @@ TEST(Dumps, documentsHoldWhatWasAsked) {
   EXPECT_NE(json.find("\"velmar-entries\""), std::string::npos) << json;
   EXPECT_NE(json.find("\"index\":7"), std::string::npos) << json;
   EXPECT_EQ(json.find("\"index\":5"), std::string::npos) << json;
-  ASSERT_EQ(velmar_difference(before.get(), after.get(), &text), VELMAR_OK);
+  ASSERT_EQ(velmar_diff(before.get(), after.get(), &text), VELMAR_OK);
   json = taken(text);
   EXPECT_NE(json.find("\"change\":\"changed\""), std::string::npos) << json;
   EXPECT_NE(json.find("\"change\":\"only in OLD\""), std::string::npos) << json;
   velmar_dump* moved = nullptr;
   U32 chip = 0;
   ASSERT_EQ(velmar_find_chip("BCM56980_A0", &chip), VELMAR_OK);
-  ASSERT_EQ(velmar_translation(before.get(), chip, &moved, &text), VELMAR_OK);
+  ASSERT_EQ(velmar_translate(before.get(), chip, &moved, &text), VELMAR_OK);
   const DumpPointer translated(moved);
   EXPECT_NE(taken(text).find("\"velmar-translation\""), std::string::npos);
   EXPECT_EQ(selected(translated.get(), {"mplsEnable=1"}, "5", 0), (std::vector<U32>{0}));
@@ -231,14 +234,16 @@ TEST(Faults, wrongArgumentsAreRefused) {
   const char* note = nullptr;
   char* text = nullptr;
   velmar_dump* made = nullptr;
-  const std::size_t size = sizeof(velmar_read_options);
+  longer.known.size = sizeof longer;
+  velmar_read_options shorter = noOptions;
+  --shorter.size;
   const std::pair<velmar_code, velmar_code> cases[] = {
       {VELMAR_NULL, velmar_last_fault(nullptr, sizeof(velmar_fault))},
-      {VELMAR_NULL, velmar_dump_read(nullptr, nullptr, 0, bytes, 8, &made)},
-      {VELMAR_NULL, velmar_dump_read(layout, nullptr, 0, nullptr, 8, &made)},
-      {VELMAR_NULL, velmar_dump_read(layout, nullptr, 0, bytes, 8, nullptr)},
-      {VELMAR_SIZE, velmar_dump_read(layout, &longer.known, size - 1, bytes, 8, &made)},
-      {VELMAR_OPTION, velmar_dump_read(layout, &longer.known, sizeof longer, bytes, 8, &made)},
+      {VELMAR_NULL, velmar_dump_read(nullptr, nullptr, bytes, 8, &made)},
+      {VELMAR_NULL, velmar_dump_read(layout, nullptr, nullptr, 8, &made)},
+      {VELMAR_NULL, velmar_dump_read(layout, nullptr, bytes, 8, nullptr)},
+      {VELMAR_SIZE, velmar_dump_read(layout, &shorter, bytes, 8, &made)},
+      {VELMAR_OPTION, velmar_dump_read(layout, &longer.known, bytes, 8, &made)},
       {VELMAR_NULL, velmar_dump_of(nullptr, 0, nullptr, 2, bytes, 8, &made)},
       {VELMAR_NULL, velmar_dump_of(layout, 0, nullptr, 2, nullptr, 8, &made)},
       {VELMAR_NULL, velmar_dump_of(layout, 0, nullptr, 2, bytes, 8, nullptr)},
@@ -267,20 +272,20 @@ TEST(Faults, wrongArgumentsAreRefused) {
       {VELMAR_NULL, velmar_entries_json(dump, nullptr, 1, 0, &text)},
       {VELMAR_NULL, velmar_entries_json(dump, nullptr, 0, 0, nullptr)},
       {VELMAR_INDEX, velmar_entries_json(dump, late, 2, 0, &text)},
-      {VELMAR_NULL, velmar_difference(dump, nullptr, &text)},
-      {VELMAR_NULL, velmar_difference(dump, dump, nullptr)},
-      {VELMAR_INPUT, velmar_difference(dump, other.get(), &text)},
-      {VELMAR_INDEX, velmar_comparison(0, VELMAR_NONE, VELMAR_NONE, 0, &text)},
-      {VELMAR_INDEX, velmar_comparison(0, 1, 1000, 0, &text)},
-      {VELMAR_VARIANT, velmar_comparison(0, 1, VELMAR_NONE, 256, &text)},
-      {VELMAR_NULL, velmar_comparison(0, 1, VELMAR_NONE, 0, nullptr)},
-      {VELMAR_NULL, velmar_identification(nullptr, 8, nullptr, 0, VELMAR_NONE, VELMAR_NONE, &text)},
-      {VELMAR_INPUT, velmar_identification(bytes, 0, nullptr, 0, VELMAR_NONE, VELMAR_NONE, &text)},
-      {VELMAR_INDEX, velmar_identification(bytes, 8, nullptr, 0, 1000, VELMAR_NONE, &text)},
-      {VELMAR_NULL, velmar_translation(nullptr, 0, &made, &text)},
-      {VELMAR_NULL, velmar_translation(dump, 0, nullptr, &text)},
-      {VELMAR_NULL, velmar_translation(dump, 0, &made, nullptr)},
-      {VELMAR_INDEX, velmar_translation(dump, VELMAR_NONE, &made, &text)},
+      {VELMAR_NULL, velmar_diff(dump, nullptr, &text)},
+      {VELMAR_NULL, velmar_diff(dump, dump, nullptr)},
+      {VELMAR_INPUT, velmar_diff(dump, other.get(), &text)},
+      {VELMAR_INDEX, velmar_compare(0, VELMAR_NONE, VELMAR_NONE, 0, &text)},
+      {VELMAR_INDEX, velmar_compare(0, 1, 1000, 0, &text)},
+      {VELMAR_VARIANT, velmar_compare(0, 1, VELMAR_NONE, 256, &text)},
+      {VELMAR_NULL, velmar_compare(0, 1, VELMAR_NONE, 0, nullptr)},
+      {VELMAR_NULL, velmar_identify(nullptr, 8, nullptr, VELMAR_NONE, VELMAR_NONE, &text)},
+      {VELMAR_INPUT, velmar_identify(bytes, 0, nullptr, VELMAR_NONE, VELMAR_NONE, &text)},
+      {VELMAR_INDEX, velmar_identify(bytes, 8, nullptr, 1000, VELMAR_NONE, &text)},
+      {VELMAR_NULL, velmar_translate(nullptr, 0, &made, &text)},
+      {VELMAR_NULL, velmar_translate(dump, 0, nullptr, &text)},
+      {VELMAR_NULL, velmar_translate(dump, 0, &made, nullptr)},
+      {VELMAR_INDEX, velmar_translate(dump, VELMAR_NONE, &made, &text)},
   };
   for (std::size_t i = 0; i < std::size(cases); ++i)
     EXPECT_EQ(cases[i].second, cases[i].first) << i;
@@ -323,7 +328,7 @@ TEST(Faults, changedInputIsRefusedOrWhole) {
     char* text = nullptr;
     ASSERT_EQ(velmar_entries_json(dump.get(), nullptr, 0, 0, &text), VELMAR_OK);
     const DumpPointer again = dumpOf(layout, taken(text));
-    ASSERT_EQ(velmar_difference(dump.get(), again.get(), &text), VELMAR_OK);
+    ASSERT_EQ(velmar_diff(dump.get(), again.get(), &text), VELMAR_OK);
     const std::string json = taken(text);
     EXPECT_NE(json.find("\"entries\": []"), std::string::npos) << input << json;
   }
@@ -384,8 +389,7 @@ TEST(Faults, memoryMayRunOutAnywhere) {
   const auto reading = [&](const std::string& text) {
     return [layout, &text] {
       velmar_dump* made = nullptr;
-      const velmar_code code =
-          velmar_dump_read(layout, nullptr, 0, text.data(), text.size(), &made);
+      const velmar_code code = velmar_dump_read(layout, nullptr, text.data(), text.size(), &made);
       velmar_dump_free(made);
       return code;
     };
@@ -409,10 +413,10 @@ TEST(Faults, memoryMayRunOutAnywhere) {
                        return velmar_entries_json(dump, nullptr, 0, 0, text);
                      }));
   expectMemoryFaults("difference",
-                     writing([&](char** text) { return velmar_difference(dump, dump, text); }));
+                     writing([&](char** text) { return velmar_diff(dump, dump, text); }));
   expectMemoryFaults("translation", writing([&](char** text) {
                        velmar_dump* made = nullptr;
-                       const velmar_code code = velmar_translation(dump, 0, &made, text);
+                       const velmar_code code = velmar_translate(dump, 0, &made, text);
                        velmar_dump_free(made);
                        return code;
                      }));

@@ -39,7 +39,7 @@ def load(path: Path, table: str, chip: Union[str, int], variant: int = 0, *,
     options = _options(input, hex_order, byte_order, stride, first, origin)
     options.variant = of.variant
     name, raw = _contents(path)
-    with _library.made("velmar_dump_read", of._handle, options, ctypes.sizeof(options), raw, len(raw),
+    with _library.made("velmar_dump_read", of._handle, options, raw, len(raw),
                        source=name) as handle:
         dump = of._from_dump(handle, raw)
     conditions = [where] if isinstance(where, str) else list(where)
@@ -61,7 +61,7 @@ def identify(data: Union[Path, bytes, bytearray, memoryview], table: Optional[st
     of_chip = _library.NONE if chip is None else find("velmar_find_chip", text(str(chip)))
     name, raw = _contents(data) if isinstance(data, (str, os.PathLike)) else ("", bytes(data))
     fits: List[Dict[str, Any]] = _library.document(
-        "velmar_identification", raw, len(raw), own, ctypes.sizeof(own), of_table, of_chip,
+        "velmar_identify", raw, len(raw), own, of_table, of_chip,
         source=name)["fits"]
     return fits
 
@@ -78,7 +78,7 @@ def compare(a: Union[str, int], b: Union[str, int], table: Optional[str] = None,
     """
     of_table = _library.NONE if table is None else find("velmar_find_table", text(table))
     chips = [find("velmar_find_chip", text(str(chip))) for chip in (a, b)]
-    rows: List[Dict[str, Any]] = _library.document("velmar_comparison", *chips, of_table,
+    rows: List[Dict[str, Any]] = _library.document("velmar_compare", *chips, of_table,
                                                    unsigned(variant, "variant"))["differences"]
     return rows
 
@@ -94,7 +94,7 @@ def translate(dump: Dump, chip: Union[str, int]) -> Tuple[Dump, List[Dict[str, A
     to = layout(dump.layout.table, chip, dump.layout.variant)
     moved = ctypes.c_void_p()
     with dump.layout._as_dump(dump) as handle:
-        document = _library.document("velmar_translation", handle,
+        document = _library.document("velmar_translate", handle,
                                      find("velmar_find_chip", text(str(chip))), ctypes.byref(moved))
     try:
         return to._from_dump(moved), document["losses"]
@@ -105,7 +105,8 @@ def translate(dump: Dump, chip: Union[str, int]) -> Tuple[Dump, List[Dict[str, A
 def _options(input: str = "auto", hex_order: Optional[str] = None, byte_order: Optional[str] = None,
              stride: Optional[int] = None, first: Optional[int] = None,
              origin: Optional[int] = None) -> _library.velmar_read_options:
-    options = _library.velmar_read_options(text(input), *(
+    size = ctypes.sizeof(_library.velmar_read_options)
+    options = _library.velmar_read_options(size, text(input), *(
         None if name is None else text(name) for name in (hex_order, byte_order)))
     if stride is not None:
         options.stride = unsigned(stride, "stride")

@@ -225,7 +225,7 @@ class Layout:
         NEW", and there are no "fields". Entries are matched by index.
         """
         with self._as_dump(old) as before, self._as_dump(new) as after:
-            rows: List[Dict[str, Any]] = _library.document("velmar_difference", before,
+            rows: List[Dict[str, Any]] = _library.document("velmar_diff", before,
                                                            after)["entries"]
         for row in rows:
             for value in row.get("fields", {}).values():

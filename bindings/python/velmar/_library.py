@@ -72,7 +72,7 @@ class velmar_place(ctypes.Structure):
 
 
 class velmar_read_options(ctypes.Structure):
-    _fields_ = [("input", c_char_p), ("hex_order", c_char_p), ("byte_order", c_char_p),
+    _fields_ = [("size", c_size_t), ("input", c_char_p), ("hex_order", c_char_p), ("byte_order", c_char_p),
                 ("origin", c_uint64), ("has_origin", c_uint32), ("has_first", c_uint32),
                 ("first", c_uint32), ("stride", c_uint32), ("beyond_end", c_uint32),
                 ("variant", c_uint32)]
@@ -81,7 +81,7 @@ class velmar_read_options(ctypes.Structure):
 # Buffers, layouts and dumps are void pointers here: an array, bytes and an address all go there.
 _buffer, _layout, _dump, _size = c_void_p, c_void_p, c_void_p, c_size_t
 _read = [_layout, c_uint32, _buffer, _size]
-_options = [POINTER(velmar_read_options), _size]
+_options = POINTER(velmar_read_options)
 _made = POINTER(c_void_p)
 FUNCTIONS = {
     "velmar_last_fault": (c_int, [POINTER(velmar_fault), _size]),
@@ -105,7 +105,7 @@ FUNCTIONS = {
     "velmar_address": (c_int, [_layout, c_uint32, c_uint32, POINTER(c_uint32)]),
     "velmar_entry_at": (c_int, [c_uint32, c_uint32, c_uint32, c_uint32, POINTER(velmar_place),
                                 _size]),
-    "velmar_dump_read": (c_int, [_layout, *_options, _buffer, _size, _made]),
+    "velmar_dump_read": (c_int, [_layout, _options, _buffer, _size, _made]),
     "velmar_dump_of": (c_int, [_layout, c_uint32, _buffer, _size, _buffer, _size, _made]),
     "velmar_dump_free": (None, [_dump]),
     "velmar_dump_index": (c_int, [_dump, _size, _buffer, _size]),
@@ -114,10 +114,10 @@ FUNCTIONS = {
     "velmar_select": (c_int, [_dump, POINTER(c_char_p), _size, c_char_p, c_uint32, _buffer, _size,
                               POINTER(_size)]),
     "velmar_text_free": (None, [c_void_p]),
-    "velmar_difference": (c_int, [_dump, _dump, _made]),
-    "velmar_comparison": (c_int, [c_uint32, c_uint32, c_uint32, c_uint32, _made]),
-    "velmar_identification": (c_int, [_buffer, _size, *_options, c_uint32, c_uint32, _made]),
-    "velmar_translation": (c_int, [_dump, c_uint32, _made, _made]),
+    "velmar_diff": (c_int, [_dump, _dump, _made]),
+    "velmar_compare": (c_int, [c_uint32, c_uint32, c_uint32, c_uint32, _made]),
+    "velmar_identify": (c_int, [_buffer, _size, _options, c_uint32, c_uint32, _made]),
+    "velmar_translate": (c_int, [_dump, c_uint32, _made, _made]),
 }
 
 
