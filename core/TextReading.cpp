@@ -50,10 +50,11 @@ std::string_view firstLine(Lines& lines) {
 }
 
 bool isMeant(const TextReading& reading, const ReadOptions& options, Notation expected) {
-  if (options.hexOrder != HexOrder::byGroups && reading.order != options.hexOrder) {
-    // Groups of hexdump -C are bytes in any order.
-    return false;
-  }
+  // Groups of hexdump -C are bytes in any order.
+  const bool isOrdered =
+      reading.notation != Notation::hexdump || options.hexOrder == HexOrder::integer;
+  const bool isTold = options.hexOrder != HexOrder::byGroups;
+  if (isTold && isOrdered && reading.order != options.hexOrder) return false;
   if (options.origin) return reading.lead != Lead::index && reading.base == 16;
   if (options.notation != Notation::automatic) return reading.notation == options.notation;
   // 6 digits are hexadecimal; what has no offset of od is not tried as od.

@@ -100,6 +100,9 @@ rows = {
                          remedy="--hex-order bytes", gives=indexed(0, 1, 2)),
     "xxd, text": right(dump(offsets, 2, "big", "  ", printable), indexed(0, 1, 2, first=printable)),
     "xxd -e -g2, text": right(dump(offsets, 2, "little", "  ", printable), indexed(0, 1, 2, first=printable)),
+    "hexdump -C has bytes in any order": right(
+        "".join(f"{16 * n:08x}  {groups(entry(n))}  |{16 * '.'}|\n" for n in range(3)), indexed(0, 1, 2),
+        "--hex-order", "words"),
     "xxd, equal bytes": right(f"00000000: {' '.join(['8181'] * 8)}  {16 * '.'}\n", {0: b"\x81" * 16}),
     "md.w, dots": refused(dump(boot, 2, gap=4 * " "), "--hex-order bytes or words", "--origin", "0x80001000",
                           remedy="--hex-order words", gives=indexed(0, 1, 2)),
