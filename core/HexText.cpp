@@ -72,7 +72,13 @@ class HexReader : public TextReader {
     }
     if (isPaddedByte_ && !hasShortByte_ && reading_.order == HexOrder::words) lower(Rank::unlikely);
     const bool isPlainBytes = !hasShortByte_ && (isPaddedByte_ || !mayFillWords_);
-    if (hasNumbers_ && reading_.order == HexOrder::bytes && !isPlainBytes) lower(Rank::possible);
+    if (reading_.order == HexOrder::bytes && !hasNumbers_ && isPaddedByte_ && hasShortByte_) {
+      return Fault(Code::input, "one digit among bytes that have two; check for lost digits");
+    }
+    if (hasNumbers_ && reading_.order == HexOrder::bytes && !isPlainBytes) {
+      lower(Rank::possible);
+      if (entryBytes_ == 4 && !isTold()) return orderQuestion().onLine(firstLine_);
+    }
     if (shape_ == Shape::stream) return addEntries(stream_, options_.first.value_or(0));
     return std::nullopt;
   }
@@ -265,7 +271,7 @@ class HexReader : public TextReader {
   }
 
   bool takeDigits(bool hasIndex) {
-    if (!isTold()) note(hasIndex);
+    note(hasIndex);
     switch (reading_.order) {
       case HexOrder::bytes:
         return (isTold() || mayBeBytes()) && appendAsBytes();
@@ -303,9 +309,13 @@ class HexReader : public TextReader {
     return false;
   }
 
+  static Fault orderQuestion() {
+    return Fault(Code::ambiguous, "these numbers may be bytes or words; give $1")
+        .offer("hex-order", {"bytes", "words"});
+  }
+
   bool askOrder() {
-    fail("these numbers may be bytes or words; give $1").offer("hex-order", {"bytes", "words"});
-    fault_->code = Code::ambiguous;
+    fault_ = orderQuestion().onLine(line_.number);
     return false;
   }
 
@@ -346,7 +356,6 @@ class HexReader : public TextReader {
       return true;
     }
     lower(Rank::possible);
-    if (digits <= 2 && fill(1) && !hasLostDigits_) return true;
     const bool isEven = digits == 4 || digits == 8 || digits == 16;
     return (isEven && haveDigits(groups_, digits)) || refuseDigits();
   }
@@ -358,14 +367,12 @@ class HexReader : public TextReader {
       needsHexDigit_ = false;
       return checkPadding();
     }
-    const bool isWhole = groups_.size() * 4 % stride_ == 0 || groups_.size() == 1;
     const bool isSmall = digits <= 2 && groups_.size() > 1 && !fill(4);
     if (prefix == 'x') {
       if (!checkPadding()) return false;
       if (digits > 8) return refuseWide(digits, "up to 8");
-      if (isSmall && !fill(1)) return haveDigits(groups_, 2) ? refuseDigits() : askOrder();
-      if (digits <= 2 && groups_.size() > 1) lower(isWhole ? Rank::possible : Rank::unlikely);
-      return digits <= 2 || isWhole || askOrder();
+      if (digits <= 2 && groups_.size() > 1) lower(Rank::possible);
+      return fill(4) || groups_.size() == 1 || askOrder();
     }
     const bool isEven = digits == 4 || digits == 16;
     if (isEven && prefix == 0 && haveDigits(groups_, digits)) {
@@ -377,11 +384,13 @@ class HexReader : public TextReader {
       return group.digits.size() > 1 && group.digits.size() < 8 && group.digits[0] == '0';
     });
     const bool isTable = groups_.size() * 4 == stride_ * layout_.indexCount();
-    const bool isCounted = fill(4) || isTable || groups_.size() == 1 || (isSmall && fill(1));
+    const bool isCounted = fill(4) || isTable || groups_.size() == 1;
+    // On one word for each entry, four small numbers are the bytes of one or the words of four.
+    const bool isOpen = prefix == 0 && isSmall && fill(1) && entryBytes_ == 4;
+    if (isOpen && hasHexDigit_ && !isPadded && !haveDigits(groups_, 2)) return askOrder();
     if (prefix != 0 || digits > 8 || !isCounted || isPadded || haveDigits(groups_, 2)) {
       return checkPadding() && refuseDigits();
     }
-    if (isSmall && !fill(1)) return refuseDigits();
     if (digits <= 2) lower(Rank::possible);
     if (groups_.size() == 1) lower(Rank::unlikely);
     return checkPadding();

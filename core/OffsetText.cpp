@@ -33,8 +33,8 @@ class OffsetReader : public TextReader {
   Taken take(std::string_view line) override {
     std::string_view rest = line;
     if (!takeOffset(rest) || !takeColumns(rest)) return fault_ ? Taken::fault : Taken::no;
-    // Before a text column there is no index.
-    if (isBare_ && !row_.text) return Taken::no;
+    // Before a text column there is no index. An offset alone ends a dump.
+    if ((isBare_ && !row_.text) || (!started_ && row_.groups.empty())) return Taken::no;
     reach(1);
     row_.bytes.clear();
     const bool isTaken = takeDigits() && checkText() && takeRow();

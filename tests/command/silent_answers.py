@@ -239,6 +239,19 @@ for name, row in rows.items():
         check((code, entries) == (0, row.entries),
               f"{name}, {row.remedy}: {code} {error or str(entries)[:200]}")
 
+# One digit that is lost anywhere is never an entry of other values. Bytes of letters have no zeros before
+# them, which would show their width.
+letters = [bytes(65 + (7 * at + number) % 26 for at in range(16)) for number in range(3)]
+for name, form in (("bytes", lambda data: groups(data)), ("bytes,", lambda data: data.hex(",")),
+                   ("index", lambda data: f"[{data[0] - 65}] {groups(data)}"),
+                   ("xxd", lambda data: f"{16 * (data[0] - 65):08x}: {data.hex(' ', 2)}  {data.decode()}"),
+                   ("hexdump -C", lambda data: f"{16 * (data[0] - 65):08x}  {groups(data)}  |{data.decode()}|")):
+    text = "\n".join(map(form, letters)) + "\n"
+    places = [found.start() for found in re.finditer(r"(?<![0x\[])[0-9a-f](?=[0-9a-f]*[ ,\n])", text)]
+    for at in places[1::5]:
+        code, entries, _ = read(Row(medium, text[:at] + text[at + 1:], (), None, None, ""))
+        check(code == 2 and entries == b"", f"{name} without the digit at {at}: {code} {entries}")
+
 # CSV is a dump wherever one is taken.
 with tempfile.TemporaryDirectory() as directory:
     path = os.path.join(directory, "v.csv")
