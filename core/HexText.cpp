@@ -70,6 +70,7 @@ class HexReader : public TextReader {
           .onLine(firstLine_)
           .offer("hex-order", {reading_.order == HexOrder::bytes ? "bytes" : "words"});
     }
+    if (asksOrder_) return orderQuestion().onLine(firstLine_);
     if (isPaddedByte_ && !hasShortByte_ && reading_.order == HexOrder::words) lower(Rank::unlikely);
     const bool isPlainBytes = !hasShortByte_ && (isPaddedByte_ || !mayFillWords_);
     if (reading_.order == HexOrder::bytes && !hasNumbers_ && isPaddedByte_ && hasShortByte_) {
@@ -387,7 +388,7 @@ class HexReader : public TextReader {
     const bool isCounted = fill(4) || isTable || groups_.size() == 1;
     // On one word for each entry, four small numbers are the bytes of one or the words of four.
     const bool isOpen = prefix == 0 && isSmall && fill(1) && entryBytes_ == 4;
-    if (isOpen && hasHexDigit_ && !isPadded && !haveDigits(groups_, 2)) return askOrder();
+    if (isOpen && !isPadded && !haveDigits(groups_, 2)) return asksOrder_ = true;
     if (prefix != 0 || digits > 8 || !isCounted || isPadded || haveDigits(groups_, 2)) {
       return checkPadding() && refuseDigits();
     }
@@ -490,6 +491,7 @@ class HexReader : public TextReader {
   bool hasShortWord_ = false;   ///< fewer digits than a word, and not those of a byte
   bool hasLostDigits_ = false;  ///< both in one dump
   size_t lostDigits_ = 0;
+  bool asksOrder_ = false;      ///< small numbers that may be bytes or words
   bool needsHexDigit_ = false;  ///< the groups may be decimal numbers
   bool hasHexDigit_ = false;
 };

@@ -182,7 +182,7 @@ TEST(Faults, haveAPlaceAndChoices) {
   stride.stride = 3;
   const Case cases[] = {
       {"VlanMpls", noOptions, "1 2 3 4\n", VELMAR_AMBIGUOUS,
-       "line 1: these groups of digits may be bytes or words; give hex_order=\"bytes\" or "
+       "line 1: these numbers may be bytes or words; give hex_order=\"bytes\" or "
        "\"words\"",
        "hex_order=bytes|words", 1},
       {"VlanMpls", optionsOf("raw", "words"), "abcd", VELMAR_OPTION, "leave out hex_order",
