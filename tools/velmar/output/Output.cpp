@@ -10,6 +10,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
+#include <vector>
 
 #include "cli/Failure.h"
 #include "output/Wrapping.h"
@@ -33,10 +34,43 @@ U32 terminalColumns(int descriptor) {
   return usual;
 }
 
-/// A name beside the file that fits however long the name of the file is.
-std::string temporaryName(const std::string& file) {
-  return file.substr(0, file.rfind('/') + 1) + ".velmar-XXXXXX";
+/// The folder of a file, with a slash; empty for the working one.
+std::string folderOf(const std::string& file) { return file.substr(0, file.rfind('/') + 1); }
+
+/// Where links lead from a name: to a file that need not exist.
+std::string targetOf(std::string file) {
+  constexpr int mostLinks = 40;
+  std::vector<char> target(4096);
+  for (int links = 0; links < mostLinks; ++links) {
+    const ssize_t size = readlink(file.c_str(), target.data(), target.size());
+    if (size <= 0) break;
+    const std::string name(target.data(), static_cast<size_t>(size));
+    file = name.front() == '/' ? name : folderOf(file) + name;
+  }
+  return file;
 }
+
+bool isStandardOutput(const struct stat& status) {
+  struct stat output;
+  return fstat(STDOUT_FILENO, &output) == 0 && output.st_dev == status.st_dev &&
+         output.st_ino == status.st_ino;
+}
+
+/// No signal comes while it lives.
+class SignalsBlocked {
+ public:
+  SignalsBlocked() {
+    sigset_t all;
+    sigfillset(&all);
+    sigprocmask(SIG_BLOCK, &all, &before_);
+  }
+  ~SignalsBlocked() { sigprocmask(SIG_SETMASK, &before_, nullptr); }
+  SignalsBlocked(const SignalsBlocked&) = delete;
+  SignalsBlocked& operator=(const SignalsBlocked&) = delete;
+
+ private:
+  sigset_t before_;
+};
 
 bool wantsColor(const std::string& color, bool terminal) {
   if (color == "always") return true;
@@ -82,33 +116,61 @@ void Output::openFile() {
   struct stat status;
   const bool exists = stat(file_.c_str(), &status) == 0;
   if (!exists && errno != ENOENT) failOpening();
-  if (exists) {
-    // A link stays a link: the file that it points to is replaced.
-    char* target = realpath(file_.c_str(), nullptr);
-    if (target == nullptr) failOpening();
-    file_ = target;
-    std::free(target);
+  if (exists && isStandardOutput(status)) {
+    // To replace it would lose what was appended to.
+    file_.clear();
+    return;
   }
   if (exists && !S_ISREG(status.st_mode)) {
     // A device or pipe cannot be replaced: the text is written to it directly.
     descriptor_ = open(file_.c_str(), O_WRONLY | O_CLOEXEC);
-  } else {
-    std::string name = temporaryName(file_);
-    descriptor_ = mkostemp(name.data(), O_CLOEXEC);
-    if (descriptor_ >= 0) {
-      partial_ = name;
-      // A path that the system takes fits.
-      std::strcpy(partialFile, name.c_str());
-      const mode_t mask = umask(0);
-      umask(mask);
-      fchmod(descriptor_, exists ? status.st_mode & 07777 : 0666 & ~mask);
-    }
+    if (descriptor_ < 0) failOpening();
+    return;
   }
+  // A link stays a link: the file that it leads to is written.
+  file_ = targetOf(file_);
+  makePartial(exists);
+  if (exists) return takeOver(status);
+  const mode_t mask = umask(0);
+  umask(mask);
+  fchmod(descriptor_, 0666 & ~mask);
+}
+
+void Output::makePartial(bool exists) {
+  // The name fits however long that of the file is.
+  std::string name = folderOf(file_) + ".velmar-XXXXXX";
+  // A signal finds the whole name, or no file.
+  const SignalsBlocked blocked;
+  descriptor_ = mkostemp(name.data(), O_CLOEXEC);
+  if (descriptor_ < 0 && exists && access(file_.c_str(), W_OK) == 0) failReplacing();
   if (descriptor_ < 0) failOpening();
+  partial_ = name;
+  // A path that the system takes fits.
+  std::strcpy(partialFile, name.c_str());
+}
+
+void Output::takeOver(const struct stat& status) const {
+  const bool keepsOwner = fchown(descriptor_, status.st_uid, status.st_gid) == 0;
+  const bool keepsGroup =
+      keepsOwner || fchown(descriptor_, static_cast<uid_t>(-1), status.st_gid) == 0;
+  // Nobody may gain the rights of another owner or group.
+  mode_t mode = status.st_mode & 07777;
+  if (!keepsOwner) mode &= ~static_cast<mode_t>(S_ISUID);
+  if (!keepsGroup) mode &= ~static_cast<mode_t>(S_ISGID);
+  fchmod(descriptor_, mode);
 }
 
 void Output::failOpening() const {
   fail("{}: cannot write: {}; choose another file with -o", file_, std::strerror(errno));
+}
+
+void Output::failReplacing() const {
+  const std::string folder = folderOf(file_);
+  fail(
+      "{}: cannot write: {} takes no new file: {}; choose a file elsewhere with -o, or leave out "
+      "-o "
+      "and redirect the result with >",
+      file_, folder.empty() ? "its folder" : folder, std::strerror(errno));
 }
 
 void Output::failWriting() const {
@@ -165,13 +227,13 @@ void Output::writeLine(const std::string& heading, const std::string& rest, size
 }
 
 void installSignalHandlers() {
-  for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT}) {
     // A signal that the caller ignores, as nohup does, stays ignored.
     if (std::signal(signal, endQuietly) == SIG_IGN) std::signal(signal, SIG_IGN);
   }
   std::signal(SIGXFSZ, SIG_IGN);
   // Whoever started the command may have switched this off.
-  std::signal(SIGPIPE, SIG_DFL);
+  std::signal(SIGPIPE, endQuietly);
 }
 
 }  // namespace Tool

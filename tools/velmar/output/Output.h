@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sys/stat.h>
+
 #include <string>
 #include <string_view>
 
@@ -60,8 +62,13 @@ class Output {
   static constexpr size_t flushSize = 1U << 16;
 
   void openFile();
+  /// Makes the file that becomes the result when it is complete.
+  void makePartial(bool exists);
+  /// Gives it the owner and mode of the file that it replaces, as far as the system allows.
+  void takeOver(const struct stat& status) const;
   void flush();
   [[noreturn]] void failOpening() const;
+  [[noreturn]] void failReplacing() const;
   [[noreturn]] void failWriting() const;
 
   std::string file_;
@@ -73,7 +80,7 @@ class Output {
   std::string text_;
 };
 
-/// Ctrl-C, a hang-up or a closed pipe ends the command at once, without a message, and removes an
+/// Ctrl-C, Ctrl-\, a hang-up or a closed pipe ends the command at once, without a message, and removes an
 /// incomplete file. A file that grows too large is an error like a full disk.
 void installSignalHandlers();
 
