@@ -64,88 +64,49 @@ class CsvText {
   bool isOpen_ = false;
 };
 
-/// What the columns of a document are.
-struct Columns {
-  std::optional<size_t> index, address, accessType, block, outsideFields;
-  std::vector<std::pair<size_t, const FieldPlace*>> fields;
-  size_t count = 0;
+/// What a column of a document has: a field, or a member of entries.
+struct Column {
+  std::string name;
+  const FieldPlace* place = nullptr;
 };
 
-Expected<Columns> columnsOf(const Layout& layout, const std::vector<std::string>& head) {
-  Columns columns;
-  columns.count = head.size();
-  const std::pair<std::string_view, std::optional<size_t> Columns::*> known[] = {
-      {"index", &Columns::index},
-      {"address", &Columns::address},
-      {"accessType", &Columns::accessType},
-      {"block", &Columns::block},
-      {"outsideFields", &Columns::outsideFields}};
-  for (size_t i = 0; i < head.size(); ++i) {
-    const auto of = std::find_if(std::begin(known), std::end(known),
-                                 [&](const auto& one) { return one.first == head[i]; });
-    if (std::find(head.begin(), head.begin() + static_cast<long>(i), head[i]) !=
-        head.begin() + static_cast<long>(i)) {
+Expected<std::vector<Column>> columnsOf(EntryReader& reader, const std::vector<std::string>& head) {
+  std::vector<Column> columns;
+  for (const std::string& name : head) {
+    const auto isSame = [&name](const Column& column) { return column.name == name; };
+    if (std::any_of(columns.begin(), columns.end(), isSame)) {
       return failed(
-          Fault(Code::input, "column {} is given twice; give it once", quoted(head[i]).view())
-              .onLine(1));
+          Fault(Code::input, "column {} is given twice; give it once", quoted(name).view()));
     }
-    if (of != std::end(known)) {
-      columns.*of->second = i;
+    columns.push_back({name});
+    if (reader.isMember(name)) continue;
+    const auto place = reader.find(name);
+    if (!place) return failed(place);
+    columns.back().place = *place;
+  }
+  if (std::find(head.begin(), head.end(), "index") != head.end()) return columns;
+  return failed(
+      Fault(Code::input, "column \"index\" is missing; give CSV as decode --format csv prints it"));
+}
+
+Done readRow(const std::vector<Column>& columns, const std::vector<std::string>& cells,
+             EntryReader& reader) {
+  if (cells.size() != columns.size()) {
+    return failed(Fault(Code::input,
+                        "{} cells, not {}; check the row, and quotes around texts with commas",
+                        cells.size(), columns.size()));
+  }
+  for (size_t i = 0; i < cells.size(); ++i) {
+    const FieldPlace* const place = columns[i].place;
+    if (place == nullptr) {
+      if (const Done done = reader.takeMember(columns[i].name, cells[i]); !done) return done;
       continue;
     }
-    auto place = layout.find(head[i]);
-    if (!place) return failed(place.error().onLine(1));
-    columns.fields.emplace_back(i, *place);
-  }
-  if (!columns.index) {
-    return failed(
-        Fault(Code::input, "column \"index\" is missing; give CSV as decode --format csv prints it")
-            .onLine(1));
-  }
-  return columns;
-}
-
-/// A cell that is the same in every row.
-Done checkFact(const std::optional<size_t>& column, const std::vector<std::string>& cells,
-               const char* name, U32 expected) {
-  if (!column || parseNumber(cells[*column]) == expected) return {};
-  return failed(Fault(Code::input, "{}: {}, not {}; check the file, and table and chip", name,
-                      quoted(cells[*column]).view(), expected));
-}
-
-Expected<EntryValues> entryOf(const Layout& layout, const Columns& columns,
-                              const std::vector<std::string>& cells, EntryMaker& maker) {
-  EntryValues entry;
-  const std::string& typed = cells[*columns.index];
-  const std::optional<U64> index = parseNumber(typed);
-  if (!index || *index > 0xffffffff) {
-    return failed(Fault(Code::input, "index: {} is not a number; give the index of the entry",
-                        quoted(typed).view()));
-  }
-  entry.index = static_cast<U32>(*index);
-  entry.isNumbered = true;
-  if (columns.address && *index < layout.indexCount()) {
-    const Done done = checkAddress(layout, *index, cells[*columns.address]);
-    if (!done) return failed(done);
-  }
-  const Catalogue::Geometry& geometry = layout.geometry();
-  Done done = checkFact(columns.accessType, cells, "accessType", geometry.accessType);
-  if (done) done = checkFact(columns.block, cells, "block", geometry.block);
-  if (!done) return failed(done);
-  maker.start();
-  for (const auto& [column, place] : columns.fields) {
-    const Expected<Value> value = parseValue(*place, cells[column]);
+    const Expected<Value> value = parseValue(*place, cells[i]);
     if (!value) return failed(value);
-    if (const Done set = maker.set(*place, *value, entry); !set) return failed(set);
+    if (const Done done = reader.take(*place, *value); !done) return done;
   }
-  maker.finish(entry);
-  const std::string outside = columns.outsideFields ? cells[*columns.outsideFields] : "";
-  if (columns.outsideFields) {
-    const auto bits = parseReservedBits(layout, outside.empty() ? "0x0" : outside);
-    if (!bits) return failed(bits);
-    entry.reservedBits = *bits;
-  }
-  return entry;
+  return reader.finish();
 }
 
 }  // namespace
@@ -156,35 +117,22 @@ bool isCsv(std::string_view text) {
          std::find(cells.begin(), cells.end(), "index") != cells.end();
 }
 
-Done readCsv(const Layout& layout, std::string_view text, const EntrySink& sink) {
+Done readCsv(std::string_view text, EntryReader& reader) {
   CsvText csv(text);
   std::vector<std::string> cells;
   if (!csv.next(cells)) return failed(Fault(Code::input, "no row; check the file"));
-  const Expected<Columns> columns = columnsOf(layout, cells);
-  if (!columns) return failed(columns);
-  EntryMaker maker(layout);
-  SeenIndexes seen;
-  while (csv.next(cells)) {
-    if (cells.size() != columns->count) {
-      return failed(Fault(Code::input,
-                          "{} cells, not {}; check the row, and quotes around texts with commas",
-                          cells.size(), columns->count)
-                        .onLine(csv.line()));
-    }
-    Expected<EntryValues> entry = entryOf(layout, *columns, cells, maker);
-    if (!entry) return failed(entry.error().onLine(csv.line()));
-    if (!seen.insert(*entry->index)) {
-      return failed(Fault(Code::input, "entry {} is given twice; give it once", *entry->index)
-                        .ofEntry(*entry->index)
-                        .onLine(csv.line()));
-    }
-    entry->line = csv.line();
-    if (Done done = sink(*entry); !done) return failed(done.error().onLine(csv.line()));
+  auto columns = columnsOf(reader, cells);
+  if (!columns) return failed(columns.error().onLine(1));
+  bool isEmpty = true;
+  for (; csv.next(cells); isEmpty = false) {
+    reader.start(true);
+    Done done = readRow(*columns, cells, reader);
+    if (!done) return failed(done.error().onLine(csv.line()));
   }
   if (csv.isOpen()) {
     return failed(Fault(Code::input, "quotes are not closed; check the row").onLine(csv.line()));
   }
-  if (seen.isEmpty()) return failed(Fault(Code::input, "no entry; check the file"));
+  if (isEmpty) return failed(Fault(Code::input, "no entry; check the file"));
   return {};
 }
 

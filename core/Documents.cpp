@@ -1,5 +1,7 @@
 #include "core/Documents.h"
 
+#include <algorithm>
+
 #include "core/TextBuffer.h"
 
 namespace Velmar {
@@ -54,6 +56,17 @@ void addPlain(TextBuffer& to, const FieldPlace& place, const Value& value) {
   }
 }
 
+/// {"0":"4-159","3":"0-3"}: the values, and the numbers of the fields that have them.
+void addFamily(TextBuffer& to, const FieldGroup& family, const U8* entry, U32 entryBytes) {
+  auto values = family.numbersByValue(entry, entryBytes);
+  std::sort(values.begin(), values.end());
+  for (const auto& each : values) {
+    to.add(&each == &values.front() ? "{\"" : ",\"").addDecimal(each.first);
+    to.add("\":\"").add(rangesText(each.second)).add('"');
+  }
+  to.add('}');
+}
+
 bool isExactScalar(const FieldPlace& place) { return place.isScalar() && place.width <= exactBits; }
 
 }  // namespace
@@ -100,10 +113,26 @@ EntryDocument::EntryDocument(std::string& to, const Layout& layout, std::vector<
   if (style.format == RowFormat::csv) {
     tail_ = formatText(",{},{}", layout.geometry().accessType, layout.geometry().block);
   }
+  addColumns(fields);
+}
+
+void EntryDocument::addColumns(const std::vector<FieldPlace>& fields) {
   for (const FieldPlace& place : fields) {
-    const std::string key = formatText(R"({}"{}":{})", columns_.empty() ? "" : ",", place.name(),
-                                       style.isPlain ? std::string_view() : valueHead);
-    columns_.push_back({place, key});
+    const char* const separator = columns_.empty() ? "" : ",";
+    if (!style_.isCompact || !place.isOfFamily()) {
+      const std::string_view head = style_.isPlain ? std::string_view() : valueHead;
+      columns_.push_back({place, formatText(R"({}"{}":{})", separator, place.name(), head)});
+      continue;
+    }
+    const auto family = std::find_if(columns_.begin(), columns_.end(), [&](const Column& column) {
+      return place.isOfFamilyOf(column.place);
+    });
+    if (family != columns_.end()) {
+      family->family.members.push_back(place);
+    } else {
+      columns_.push_back(
+          {place, formatText(R"({}"{}":)", separator, place.prefix()), true, {{place}}});
+    }
   }
 }
 
@@ -147,7 +176,9 @@ void EntryDocument::writeObject(U64 index, const U8* bytes) {
   for (const Column& column : columns_) {
     const FieldPlace& place = column.place;
     to.add(column.key);
-    if (style_.isPlain && isExactScalar(place)) {
+    if (column.isFamily) {
+      addFamily(to, column.family, bytes, size);
+    } else if (style_.isPlain && isExactScalar(place)) {
       to.addDecimal(readScalar(place, bytes, size));
     } else if (style_.isPlain) {
       addPlain(to, place, Value::read(place, bytes, size));

@@ -2,6 +2,7 @@
 
 #include "core/Condition.h"
 #include "core/Dump.h"
+#include "core/Families.h"
 #include "core/Listing.h"
 
 // Entries and values as JSON and CSV.
@@ -14,7 +15,8 @@ class EntryDocument {
  public:
   struct Style {
     RowFormat format = RowFormat::json;
-    bool isPlain = false;  ///< JSON with values alone: numbers, lists of ports, hexadecimal text
+    bool isPlain = false;    ///< JSON with values alone: numbers, lists of ports, hexadecimal text
+    bool isCompact = false;  ///< JSON with a member for each family of fields
   };
 
   EntryDocument(std::string& to, const Layout& layout, std::vector<FieldPlace> fields, Style style);
@@ -26,11 +28,14 @@ class EntryDocument {
   struct Column {
     FieldPlace place;
     std::string key;  ///< all JSON before the value
+    bool isFamily = false;
+    FieldGroup family{};  ///< if it is one
   };
 
   static std::vector<std::string> columnNames(const Layout& layout,
                                               const std::vector<FieldPlace>& fields);
   static JsonFrame frame(const Layout& layout, const std::vector<FieldPlace>& fields);
+  void addColumns(const std::vector<FieldPlace>& fields);
   void writeObject(U64 index, const U8* bytes);
   void writeCsv(U64 index, const U8* bytes);
 

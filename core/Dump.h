@@ -15,6 +15,13 @@ enum class Notation : U8 { automatic, raw, hex, xxd, hexdump, od, json, csv };
 const char* nameOf(Notation notation);
 std::optional<Notation> notationNamed(std::string_view name);
 
+/// How JSON has entries.
+struct JsonForm {
+  bool isLines = false;    ///< each is a document of its own
+  bool isPlain = false;    ///< values alone, without their forms
+  bool isCompact = false;  ///< a family is one member
+};
+
 /// The entries of one table: a value. Each has an index and entryBytes() bytes.
 class Dump {
  public:
@@ -41,6 +48,7 @@ class Dump {
   std::vector<std::string> notes;
   /// In which notation the input was.
   Notation notation = Notation::raw;
+  JsonForm jsonForm;  ///< if it was JSON
 
  private:
   U32 entryBytes_ = 0;

@@ -18,6 +18,9 @@ void EntryBuilder::startFromZero() {
 Done EntryBuilder::set(const Assignment& assignment) {
   const FieldPlace& place = assignment.place;
   if (assignment.kind == Assignment::Kind::set) return set(place, assignment.value);
+  if (assignment.kind == Assignment::Kind::setIfOther) {
+    return had(place, assignment.value) ? Done() : set(place, assignment.value);
+  }
   Value value = Value::read(place, bytes_.data(), layout_.entryBytes());
   if (assignment.kind == Assignment::Kind::add) value.add(assignment.value);
   if (assignment.kind == Assignment::Kind::remove) value.remove(assignment.value);
@@ -39,7 +42,7 @@ Done EntryBuilder::set(const FieldPlace& place, const Value& value) {
   }
   value.write(place, bytes_.data(), layout_.entryBytes());
   given_[place.index] = true;
-  return {};
+  return succeeded();
 }
 
 Done EntryBuilder::checkAgainst(const FieldPlace& earlier, const FieldPlace& place,
@@ -47,7 +50,7 @@ Done EntryBuilder::checkAgainst(const FieldPlace& earlier, const FieldPlace& pla
   std::vector<U8> changed = bytes_;
   value.write(place, changed.data(), layout_.entryBytes());
   const Value before = Value::read(earlier, bytes_.data(), layout_.entryBytes());
-  if (before == Value::read(earlier, changed.data(), layout_.entryBytes())) return {};
+  if (before == Value::read(earlier, changed.data(), layout_.entryBytes())) return succeeded();
   if (earlier.index == place.index) {
     return failed(
         Fault(Code::value, "{} is given twice, with two values; give it once", earlier.name())

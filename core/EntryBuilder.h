@@ -11,7 +11,12 @@ namespace Core {
 
 /// A field and the value that it is to have, or ports that a bitmap is to gain or lose.
 struct Assignment {
-  enum class Kind : U8 { set, add, remove };
+  enum class Kind : U8 {
+    set,
+    setIfOther,  ///< not given where the entry has the value
+    add,
+    remove
+  };
 
   FieldPlace place;
   Value value;
@@ -22,7 +27,8 @@ struct Assignment {
 class EntryBuilder {
  public:
   /// All zero.
-  explicit EntryBuilder(const Layout& layout) : layout_(layout), bytes_(layout.entryBytes()) {}
+  explicit EntryBuilder(const Layout& layout)
+      : layout_(layout), bytes_(layout.entryBytes()), start_(bytes_) {}
 
   /// Starts from an existing entry, or from zero.
   void start(const U8* bytes);
@@ -31,11 +37,15 @@ class EntryBuilder {
   void forget() {
     given_.reset();
     overlapping_.clear();
+    start_ = bytes_;
+  }
+  /// Whether the field had the value before any was set.
+  bool had(const FieldPlace& place, const Value& value) const {
+    return value == Value::read(place, start_.data(), layout_.entryBytes());
   }
   /// Sets a field; a fault if it changes bits of a field that was set before.
   Done set(const Assignment& assignment);
   Done set(const FieldPlace& place, const Value& value);
-  bool isGiven(const FieldPlace& place) const { return given_[place.index]; }
   /// Sets the bits outside all fields; `bits` has no others, and may be empty.
   void setReservedBits(const std::vector<U8>& bits);
 
@@ -46,6 +56,7 @@ class EntryBuilder {
 
   const Layout& layout_;
   std::vector<U8> bytes_;
+  std::vector<U8> start_;                ///< the entry before any field was set
   std::bitset<256> given_;               ///< fields that were set
   std::vector<FieldPlace> overlapping_;  ///< those of them that share bits with others
 };

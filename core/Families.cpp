@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/Value.h"
+
 namespace Velmar {
 namespace Core {
 
@@ -37,6 +39,19 @@ std::string FieldGroup::bits() const {
     all.width = end - all.offset;
   }
   return all.bits();
+}
+
+std::vector<std::pair<U64, std::vector<U32>>> FieldGroup::numbersByValue(const U8* entry,
+                                                                         U32 entryBytes) const {
+  std::vector<std::pair<U64, std::vector<U32>>> values;
+  for (const FieldPlace& place : members) {
+    const U64 value = readScalar(place, entry, entryBytes);
+    auto found = std::find_if(values.begin(), values.end(),
+                              [value](const auto& one) { return one.first == value; });
+    if (found == values.end()) found = values.insert(values.end(), {value, {}});
+    found->second.push_back(place.family.number);
+  }
+  return values;
 }
 
 std::vector<FieldGroup> grouped(const std::vector<FieldPlace>& fields, bool asFamilies) {

@@ -26,6 +26,9 @@ struct FieldGroup {
   std::vector<U32> ids() const;
   /// The bits from the first to the last member's, as FieldPlace::bits() has them.
   std::string bits() const;
+  /// The values in an entry, each with the numbers of its fields, in the order of the first ones.
+  std::vector<std::pair<U64, std::vector<U32>>> numbersByValue(const U8* entry,
+                                                               U32 entryBytes) const;
 };
 
 /// Fields as groups, in the order given: those of one family and width that follow each other share

@@ -90,6 +90,11 @@ using Expected = tl::expected<Result, Fault>;
 /// The result of what gives nothing.
 using Done = Expected<void>;
 
+/// Nothing is wrong. In what runs for each value: "return {}" clears the memory of a fault first.
+inline Done succeeded() {
+  Done done;
+  return done;
+}
 inline tl::unexpected<Fault> failed(const Fault& fault) { return tl::make_unexpected(fault); }
 template <class Result>
 tl::unexpected<Fault> failed(const Expected<Result>& result) {

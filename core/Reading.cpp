@@ -153,59 +153,12 @@ Expected<Dump> readRaw(const Layout& layout, const ReadOptions& options, std::st
   return dump;
 }
 
-/// Makes a dump of the entries of a document, which have all fields: none may count as zero because it was
-/// not printed.
-class EntryCollector {
- public:
-  EntryCollector(const Layout& layout, const ReadOptions& options)
-      : layout_(layout), options_(options), dump_(layout.entryBytes()) {}
-
-  Done add(EntryValues& entry) {
-    if (!entry.index) {
-      return failed(
-          Fault(Code::input,
-                "an object without \"fields\" is not an entry of a dump; give JSON such as "
-                "decode --format json prints"));
-    }
-    if (entry.isNumbered && options_.first && !options_.shared.first) {
-      return failed(
-          Fault(Code::option, "$1 has no effect if the entries have their indexes; leave out $1")
-              .offer("first"));
-    }
-    for (const FieldPlace& place : layout_.fields()) {
-      if (entry.fields.size() == layout_.fields().size()) break;
-      const auto isPlace = [&](U8 position) { return &layout_.fields()[position] == &place; };
-      if (std::any_of(entry.fields.begin(), entry.fields.end(), isPlace)) continue;
-      return failed(
-          Fault(Code::input,
-                "entry {} lacks the field \"{}\"; decode all fields, or change a dump with "
-                "encode --base",
-                *entry.index, place.name())
-              .ofEntry(*entry.index)
-              .ofField(place.name()));
-    }
-    for (size_t i = 0; i < entry.reservedBits.size(); ++i) entry.bytes[i] |= entry.reservedBits[i];
-    const auto fault = addEntry(dump_, layout_, options_, *entry.index, entry.bytes.data());
-    return fault ? Done(failed(*fault)) : Done();
-  }
-
-  Dump& dump() { return dump_; }
-
- private:
-  const Layout& layout_;
-  const ReadOptions& options_;
-  Dump dump_;
-};
-
 Expected<Dump> readDocument(const Layout& layout, const ReadOptions& options, Notation notation,
                             std::string_view input) {
-  EntryCollector collector(layout, options);
-  const EntrySink sink = [&collector](EntryValues& entry) { return collector.add(entry); };
-  const Done done = notation == Notation::json
-                        ? readJson(layout, input, options.first.value_or(0), sink)
-                        : readCsv(layout, input, sink);
+  EntryReader reader(layout, {true, nullptr, options});
+  const Done done = notation == Notation::json ? readJson(input, reader) : readCsv(input, reader);
   if (!done) return failed(done);
-  return std::move(collector.dump());
+  return std::move(reader.result.entries);
 }
 
 /// Reverses the bytes of each 32-bit word.
@@ -291,31 +244,6 @@ std::optional<Fault> addEntry(Dump& dump, const Layout& layout, const ReadOption
   return std::nullopt;
 }
 
-Expected<std::vector<U8>> parseReservedBits(const Layout& layout, std::string_view text) {
-  FieldPlace whole = layout.wholeEntry();
-  whole.field.accessor = "outsideFields";
-  const Expected<Value> value = parseValue(whole, text);
-  if (!value) return failed(value);
-  std::vector<U8> bits(layout.entryBytes());
-  value->write(whole, bits.data(), layout.entryBytes());
-  for (size_t i = 0; i < bits.size(); ++i) {
-    if ((bits[i] & ~layout.reservedMask()[i]) == 0) continue;
-    return failed(Fault(Code::value,
-                        "outsideFields: {} has bits inside fields; set the fields instead", text));
-  }
-  return bits;
-}
-
-Done checkAddress(const Layout& layout, U64 index, std::string_view address) {
-  if (index >= layout.indexCount()) return {};
-  const std::string expected = addressText(layout.addressOf(static_cast<U32>(index)).address);
-  if (address == expected) return {};
-  return failed(Fault(Code::input,
-                      "address: {}, but entry {} has {}; check the index, or leave out the address",
-                      quoted(address).view(), index, expected)
-                    .ofEntry(index));
-}
-
 Expected<Dump> readDump(const Layout& layout, const ReadOptions& options, std::string_view input) {
   if (const Done done = checkStride(layout, options); !done) return failed(done);
   if (input.size() > longestInput) {
@@ -345,19 +273,21 @@ Expected<Dump> readDump(const Layout& layout, const ReadOptions& options, std::s
   return dump;
 }
 
-Expected<std::vector<EntryValues>> readValues(const Layout& layout, std::string_view input) {
+Expected<DocumentValues> readValues(const Layout& layout, std::string_view input,
+                                    const Dump* base) {
   if (input.size() > longestInput) {
     return failed(Fault(Code::input, "{} bytes are more than {} MiB; give the entries of one table",
                         input.size(), longestInput >> 20));
   }
-  std::vector<EntryValues> entries;
-  const EntrySink sink = [&entries](EntryValues& entry) {
-    entries.push_back(std::move(entry));
-    return Done();
-  };
-  const Done done = isCsv(input) ? readCsv(layout, input, sink) : readJson(layout, input, 0, sink);
+  const ReadOptions options;
+  EntryReader reader(layout, {false, base, options});
+  const Done done = isCsv(input) ? readCsv(input, reader) : readJson(input, reader);
   if (!done) return failed(done);
-  return entries;
+  if (reader.result.entries.count() == 0 && reader.result.common.empty()) {
+    return failed(Fault(
+        Code::input, "no entry and no values; give one object of values, or what decode prints"));
+  }
+  return std::move(reader.result);
 }
 
 }  // namespace Core

@@ -34,19 +34,15 @@ struct ReadOptions {
 /// Reads a dump in any notation. A raw dump borrows `input`, which must outlive it.
 Expected<Dump> readDump(const Layout& layout, const ReadOptions& options, std::string_view input);
 
-/// What a document says of one entry.
-struct EntryValues {
-  std::optional<U32> index;  ///< absent for a plain object of values
-  bool isNumbered = false;   ///< the document has the index
-  U64 line = 0;
-  std::vector<U8> bytes;         ///< of the entry; what is not given is zero
-  std::vector<U8> fields;        ///< those that are given, as positions in Layout::fields()
-  std::vector<U8> reservedBits;  ///< empty if they are not given
+/// What a document gives to encode.
+struct DocumentValues {
+  Dump entries;                    ///< whole ones
+  std::vector<Assignment> common;  ///< of an object of values alone
 };
 
-/// Reads values for entries, which may lack fields: JSON or CSV as decode writes them, or one JSON object
-/// of values.
-Expected<std::vector<EntryValues>> readValues(const Layout& layout, std::string_view input);
+/// Reads JSON or CSV as decode writes them, or one JSON object of values. Entries have all fields, or
+/// change those of the base, which may be null.
+Expected<DocumentValues> readValues(const Layout& layout, std::string_view input, const Dump* base);
 
 }  // namespace Core
 }  // namespace Velmar

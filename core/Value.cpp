@@ -15,6 +15,21 @@ Fault badValue(const FieldPlace& place, const Text& what, const char* advice) {
   return Fault(Code::value, "{}: {}; {}", place.name(), what.view(), advice).ofField(place.name());
 }
 
+/// Whether a text is what a spreadsheet makes of "1-3": 1-Mar, Jan 3, 01.03.2026, 3/1/26, 2026-03-01.
+bool isDate(std::string_view text) {
+  constexpr std::string_view months =
+      "jan feb mar apr may jun jul aug sep oct nov dec mrz mai okt dez";
+  const std::string simple = simplified(text);
+  const size_t word = simple.find_first_not_of("0123456789 .,/:");
+  const bool hasNumber = simple.find_first_of("0123456789") != simple.npos;
+  if (word != simple.npos) {
+    const std::string_view month = std::string_view(simple).substr(word, 3);
+    return hasNumber && month.size() == 3 && months.find(month) != months.npos;
+  }
+  const bool hasYear = std::count(text.begin(), text.end(), '-') == 2;
+  return hasNumber && (simple.find_first_of("./") != simple.npos || hasYear);
+}
+
 Expected<U64> parsePort(const FieldPlace& place, std::string_view text) {
   // Alone it would set bits: nobody can tell what is meant.
   if (isHexNumber(text)) {
@@ -41,7 +56,12 @@ Expected<Value> parsePorts(const FieldPlace& place, std::string_view text) {
     const Expected<U64> last =
         dash == std::string::npos ? first
                                   : parsePort(place, trim(std::string_view(part).substr(dash + 1)));
-    if (!first || !last) return failed(first ? last : first);
+    if (!first || !last) {
+      if (!isDate(text)) return failed(first ? last : first);
+      Text what = quoted(text);
+      what.append(" is not a port, but may be a date that a spreadsheet made of ports");
+      return failed(badValue(place, what, "give ports such as 1-3, in a column formatted as text"));
+    }
     if (*last < *first) {
       Text what;
       what.append("port range {} runs backwards", quoted(part).view());

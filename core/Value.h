@@ -15,6 +15,13 @@ class Value {
  public:
   /// Zero.
   explicit Value(U32 width);
+  Value(const Value& other) : width_(other.width_) { *this = other; }
+  /// Copies the words of the width alone: most values have one.
+  Value& operator=(const Value& other) {
+    width_ = other.width_;
+    for (U32 i = 0; i < wordCount(); ++i) words_[i] = other.words_[i];
+    return *this;
+  }
   static Value read(const FieldPlace& place, const U8* entry, U32 entryBytes);
   /// Writes the value into an entry. The field must have the width of the value.
   void write(const FieldPlace& place, U8* entry, U32 entryBytes) const;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <functional>
+#include <unordered_map>
 
 #include "core/Reading.h"
 
@@ -9,38 +9,77 @@
 namespace Velmar {
 namespace Core {
 
-/// Takes an entry as soon as it is read: a document of any size needs little memory.
-using EntrySink = std::function<Done(EntryValues& entry)>;
+/// What the entries of a document are for.
+struct DocumentUse {
+  bool isDump;       ///< a dump of entries; otherwise values to encode
+  const Dump* base;  ///< whose entries the document changes; may be null
+  const ReadOptions& options;
+};
 
-Done readJson(const Layout& layout, std::string_view text, U32 first, const EntrySink& sink);
-Done readCsv(const Layout& layout, std::string_view text, const EntrySink& sink);
-
-/// Makes the bytes of entries from the values of their fields.
-class EntryMaker {
+/// Takes what a document says of its entries, whatever its notation: checks it, and makes the entries.
+class EntryReader {
  public:
-  explicit EntryMaker(const Layout& layout) : layout_(layout), builder_(layout) {}
+  EntryReader(const Layout& layout, const DocumentUse& use);
 
-  void start() { builder_.startFromZero(); }
-  Done set(const FieldPlace& place, const Value& value, EntryValues& entry) {
-    if (!builder_.isGiven(place)) {
-      entry.fields.push_back(static_cast<U8>(layout_.positionOf(place)));
-    }
-    return builder_.set(place, value);
-  }
-  void finish(EntryValues& entry) { entry.bytes = builder_.bytes(); }
+  /// Begins an entry, or an object of values alone.
+  void start(bool isEntry);
+  /// The field of a name. It is found at once where fields come in their order.
+  Expected<const FieldPlace*> find(std::string_view name);
+  /// The first field of the family that has this name; null if none has.
+  const FieldPlace* familyNamed(std::string_view name) const;
+  /// The value of a field.
+  Done take(const FieldPlace& place, const Value& value);
+  /// The value of the fields of a family that have these numbers.
+  Done takeFamily(const FieldPlace& first, std::string_view value, std::string_view numbers);
+  /// What an entry has beside its fields, or a document says of the table. `isMember` tells the names.
+  bool isMember(std::string_view name) const;
+  Done takeMember(std::string_view name, std::string_view text);
+  /// Makes the entry.
+  Done finish();
+
+  const Layout& layout() const { return layout_; }
+  /// The entries, or the values of one object of values.
+  DocumentValues result;
 
  private:
+  struct Given {
+    const FieldPlace* place;
+    Value value;
+  };
+  using Fact = std::pair<std::string_view, std::string>;
+
+  Done takeIndex(std::string_view text);
+  Done finishValues();
+  Done checkPlace();
+  Done checkAddress() const;
+  Done checkComplete() const;
+  Expected<const U8*> entryOfBase() const;
+  Done build(const U8* from);
+
   const Layout& layout_;
+  const DocumentUse use_;
+  const std::vector<Fact> facts_;            ///< what is the same for all entries
+  std::vector<const FieldPlace*> families_;  ///< the first field of each
+  std::unordered_map<U32, size_t> positionsInBase_;
   EntryBuilder builder_;
+  SeenIndexes seen_;
+  U32 next_;  ///< index of the next entry that has none
+
+  // The entry that is read.
+  bool isEntry_ = false;
+  std::optional<U32> index_;
+  std::string address_;
+  std::vector<U8> reservedBits_;
+  std::vector<Given> given_;
+  std::vector<bool> isGiven_;  ///< by the positions of the fields
+  size_t expected_ = 0;        ///< position of the field that comes next in their order
 };
+
+Done readJson(std::string_view text, EntryReader& reader);
+Done readCsv(std::string_view text, EntryReader& reader);
 
 /// Whether the first line of a text is the head of a CSV document of entries.
 bool isCsv(std::string_view text);
-
-/// The bits outside all fields, from the hexadecimal number of a whole entry.
-Expected<std::vector<U8>> parseReservedBits(const Layout& layout, std::string_view text);
-/// The address of an entry follows from its index.
-Done checkAddress(const Layout& layout, U64 index, std::string_view address);
 
 }  // namespace Core
 }  // namespace Velmar

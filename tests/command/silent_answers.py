@@ -2,7 +2,7 @@
 """Dumps that could be read in a wrong way without a word: each gives the entries that it holds, or one
 message that names what is wrong, and the option that the message proposes gives the entries.
 
-usage: silent.py SOURCE_DIR BUILD_DIR"""
+usage: silent_answers.py SOURCE_DIR BUILD_DIR"""
 
 import collections
 import csv
@@ -183,8 +183,24 @@ def changed(change):
     return text.getvalue()
 
 
-def cell(column, value):
+def csv_cell(column, value):
     return changed(lambda lines: lines[1].update({column: value}))
+
+
+lines_of_json = [json.loads(line) for line in run(
+    "decode", medium[0], "--chip", medium[1], "--input", "raw", "-f", "jsonl", "--plain", "-",
+    data=entry(0) + entry(1))[1].splitlines()]
+
+
+def json_text(lines):
+    return "".join(json.dumps(line) + "\n" for line in lines)
+
+
+def json_cell(name, value):
+    line = lines_of_json[1]
+    if name in line["fields"]:
+        return json_text([lines_of_json[0], {**line, "fields": {**line["fields"], name: value}}])
+    return json_text([lines_of_json[0], {**line, name: value}])
 
 
 rows |= {
@@ -196,14 +212,40 @@ rows |= {
     "CSV, a missing column": refused(changed(lambda lines: [
         {name: value for name, value in line.items() if name != "fidId"} for line in lines]), "fidId"),
     "CSV, a missing cell": refused(document.rsplit(",", 1)[0] + "\n", ":3:"),
-    "CSV, another address": refused(cell("address", "0x0c7c0002"), "0x0c7c0002"),
-    "CSV, another access type": refused(cell("accessType", "9"), "accessType"),
-    "CSV, another block": refused(cell("block", "2"), "block"),
     "CSV, an index twice": refused(changed(lambda lines: lines + lines[:1]), ":4:"),
-    "CSV, an index beyond the end": refused(cell("index", "8192"), "8192"),
-    "CSV, a value too large": refused(cell("fidId", "8192"), "fidId"),
-    "CSV, a value that is no number": refused(cell("fidId", "-"), "fidId"),
+    "JSON": right(json_text(lines_of_json), indexed(0, 1)),
+    "JSON, an index twice": refused(json_text(lines_of_json + lines_of_json[:1]), ":3:"),
+    "JSON, an unknown member": refused(json_cell("note", "5"), ":2:.*note"),
+    "JSON, a missing field": refused(json_text([{**line, "fields": {"stg": 1}} for line in lines_of_json]),
+                                     ":1:.*valid"),
+    "JSON, a number in a text of ports": right(json_cell("fidId", str(lines_of_json[1]["fields"]["fidId"])),
+                                               indexed(0, 1)),
+    **{f"{notation}, {column} {value!r}": refused(cell(column, value), pattern)
+       for notation, cell in (("CSV", csv_cell), ("JSON", json_cell))
+       for column, value, pattern in (
+           ("address", "0x0c7c0002", "0x0c7c0002"), ("accessType", "9", "accessType"),
+           ("block", "2", "block"), ("index", "8192", "8192"), ("index", "one", "index"),
+           ("fidId", "8192", "fidId"), ("fidId", "-", "fidId"), ("fidId", "", "fidId"),
+           ("outsideFields", "0x1", "outsideFields"), ("chip", "BCM56980_A0", "chip"))
+       if notation == "JSON" or column != "chip"},
 }
+
+# Compact JSON, whose families have each number once.
+family_table = ("VlanStgEntry", "BCM56980_A0")
+family_size = 48
+for name, values, pattern in (
+        ("whole", {"0": "0-9", "2": "10-159"}, None),
+        ("a number without a value", {"0": "0-158"}, "spTreePort159"),
+        ("a number twice", {"0": "0-159", "1": "7"}, "spTreePort7 is given twice"),
+        ("a number that the chip lacks", {"0": "0-160"}, "spTreePort160"),
+        ("a number far beyond", {"0": "0-159,999"}, "spTreePort999"),
+        ("an open range", {"0": "0-"}, "spTreePort"), ("no number", {"0": "a"}, '"a"'),
+        ("a value that does not fit", {"0": "0-158", "4": "159"}, "spTreePort159"),
+        ("a date", {"0": "1-Mar"}, "1-Mar"), ("an empty list", {"0": "0-159", "1": ""}, '""')):
+    text = json.dumps({"index": 1, "fields": {"spTreePort": values}})
+    ports = sum(2 << 2 * port for port in range(10, 160)).to_bytes(family_size, "little")
+    rows[f"family, {name}"] = refused(text, pattern, table=family_table) if pattern else right(
+        text, {1: ports}, table=family_table)
 
 
 def read(row, *options):
@@ -251,6 +293,41 @@ for name, form in (("bytes", lambda data: groups(data)), ("bytes,", lambda data:
     for at in places[1::5]:
         code, entries, _ = read(Row(medium, text[:at] + text[at + 1:], (), None, None, ""))
         check(code == 2 and entries == b"", f"{name} without the digit at {at}: {code} {entries}")
+
+# Edits: what loses something is refused, with a remedy; what a document does not give stays.
+overlapping = ("IngVpVlanMembershipEntry", "BCM56470_A0")  # vlan and hashLsb share bits
+twins = {"fields": {"vlan": 3, "hashLsb": 2}, "index": 1}
+for name, table, base, arguments, text, pattern in (
+        ("no value", medium, None, ["@-"], "{}", "no entry and no values"),
+        ("no entry", medium, None, ["@-"], "[]", "no entry and no values"),
+        ("an empty list of entries", medium, None, ["@-"], '{"entries": []}', "no entry and no values"),
+        ("no field", medium, None, ["@-"], '{"fields": {}}', 'entry 0 lacks the field "valid"; .*--base'),
+        ("a field missing", medium, None, ["@-"], json_text(lines_of_json).replace('"stg"', '"STG"'), None),
+        ("two objects of values", medium, None, ["@-"], '{"stg": 1} {"stg": 2}', ":1:.*second object"),
+        ("values, then an entry", medium, None, ["@-"], '{"stg": 1}' + json_text(lines_of_json), "values"),
+        ("a field twice", medium, None, ["@-"], '{"stg": 1, "STG": 1}', "stg is given twice"),
+        ("a column twice", medium, b"", ["@-"], "index,stg,STG\n0,1,1\n", "stg is given twice"),
+        ("an entry without index", medium, b"", ["@-"], '{"fields": {"stg": 1}}', "without index"),
+        ("an entry that the base lacks", medium, b"", ["@-"], '{"index": 99, "fields": {"stg": 1}}', "entry 99"),
+        ("a number that the chip lacks", family_table, b"", ["@-"],
+         '{"index": 0, "fields": {"spTreePort": {"3": "5,200"}}}', "spTreePort200"),
+        ("both twins", overlapping, b"", ["@-"], json.dumps(twins), "disagree; give one of them"),
+        ("typed twins", overlapping, b"", ["vlan=0", "hashLsb=1", "--index", "0"], "", "disagree"),
+        ("twins of one document", overlapping, None, ["@-"], '{"vlan": 0, "hashLsb": 1}', "disagree"),
+        ("a stride", medium, b"", ["stg=1", "--index", "0", "--stride", "32"], "", "--format raw"),
+        ("a byte order", medium, b"", ["stg=1", "--index", "0", "--byte-order", "big"], "", "--format raw"),
+        *((f"ports {ports}", ("EgrVlanEntry", "BCM56980_A0"), None, [f"portBitmap={ports}"], "",
+           "spreadsheet.*; give ports such as 1-3")
+          for ports in ("1-Mar", "01-Mar", "Mar-01", "Jan 3", "Jan 3, 2026", "3. Mrz", "01.03.2026", "1/3/26",
+                        "2026-01-03", "2026-01-03 00:00:00"))):
+    with tempfile.NamedTemporaryFile() as file:
+        if base is not None:
+            file.write(bytes(4 * 48))  # whole entries of each table
+            file.flush()
+            arguments = arguments + ["--base", file.name]
+        code, encoded, error = run("encode", table[0], "--chip", table[1], *arguments, data=text.encode())
+    check((code, error) == (0, "") if pattern is None else code == 2 and encoded == b"" and
+          re.search(pattern, error) and "; " in error, f"{name}: {code} {encoded[:99]} {error!r}")
 
 # CSV is a dump wherever one is taken.
 with tempfile.TemporaryDirectory() as directory:

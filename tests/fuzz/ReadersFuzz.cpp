@@ -58,11 +58,11 @@ std::string written(const Core::Dump& dump, const Core::Layout& layout, U32 way)
     case 1:
       return hexText(dump, 4);
     case 2:
-      return document(dump, layout, {Core::RowFormat::json, isPlain});
+      return document(dump, layout, {Core::RowFormat::json, isPlain, false});
     case 3:
-      return document(dump, layout, {Core::RowFormat::jsonLines, isPlain});
+      return document(dump, layout, {Core::RowFormat::jsonLines, isPlain, true});
     default:
-      return document(dump, layout, {Core::RowFormat::csv, false});
+      return document(dump, layout, {Core::RowFormat::csv, false, false});
   }
 }
 

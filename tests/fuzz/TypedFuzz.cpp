@@ -60,17 +60,17 @@ void typeAssignments(const Core::Layout& layout, const std::string& text) {
 }
 
 void typeDocument(const Core::Layout& layout, const std::string& text) {
-  const auto values = Core::readValues(layout, text);
+  const auto values = Core::readValues(layout, text, nullptr);
   if (!succeeds(values)) return;
-  for (const Core::EntryValues& entry : *values) {
-    std::vector<Core::Assignment> assignments;
-    for (const U8 position : entry.fields) {
-      const Core::FieldPlace& place = layout.fields()[position];
-      const U8* const bytes = entry.bytes.data();
-      assignments.push_back({place, Core::Value::read(place, bytes, layout.entryBytes())});
-    }
-    checkBuilt(layout, assignments);
-  }
+  checkBuilt(layout, values->common);
+  const Core::Dump& entries = values->entries;
+  require(entries.count() == 0 || values->common.empty(), "a document is of one kind", text);
+  // An entry that is its own base stays as it is, whatever the document gives.
+  const auto again = Core::readValues(layout, text, &entries);
+  if (entries.count() == 0 || !succeeds(again)) return;
+  require(again->entries.size() == entries.size() &&
+              std::equal(entries.data(), entries.data() + entries.size(), again->entries.data()),
+          "values of the base change nothing", text);
 }
 
 void typeIndexes(const std::string& text) {

@@ -19,11 +19,11 @@ struct Rule {
 constexpr Rule rules[] = {
     {"--format,--output,--color,--stat,--expand", "--quiet", "", false,
      "with --quiet; give one of them"},
-    {"--fields,--color,--plain,--expand", "--check", "", false, "with --check; give one of them"},
+    {"--fields,--color,--plain,--compact,--expand", "--check", "", false, "with --check; give one of them"},
     {"--expand", "--stat", "", false, "with --stat, which counts each field; leave it out"},
     {"--expand", "--format", "json,jsonl,csv,hex,words,raw", false,
      "with a --format for programs, which has all fields one by one; leave it out"},
-    {"--plain", "--format", "json,jsonl", true, "without --format json or jsonl; give both"},
+    {"--plain,--compact", "--format", "json,jsonl", true, "without --format json or jsonl; give both"},
     {"--color", "--format", "json,jsonl,csv,hex,words,raw", false,
      "with a --format for programs; leave it out"},
     {"--hex-order", "--input", "raw,json,csv", false,

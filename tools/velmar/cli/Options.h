@@ -129,6 +129,10 @@ inline constexpr OptionText
     plain{"--plain", nullptr,
           "JSON with values alone: numbers, bitmaps as lists of ports, wide values as text",
           Times::isSwitch},
+    compact{"--compact", nullptr,
+            "JSON in which the fields of all ports are one member, with the numbers that have each "
+            "value: {\"spTreePort\": {\"0\": \"4-159\", \"3\": \"0-3\"}}; each number stands "
+            "there once, those with the value 0 too", Times::isSwitch},
     expand{"--expand", nullptr, "the fields of all ports one by one, not as a family",
            Times::isSwitch},
     common{"--common", nullptr, "only entries that both dumps have", Times::isSwitch},
@@ -165,6 +169,10 @@ inline constexpr OptionText
 constexpr OptionText format(const char* choices) {
   return oneOf(choices, {"-f,--format", "FORMAT", "form of the result, by default the first"});
 }
+inline constexpr OptionText encodedFormat = oneOf("hex,words,raw,json,jsonl,csv",
+    {"-f,--format", "FORMAT",
+     "form of the result, by default hex, or with --base that of the base if it is raw, JSON or "
+     "CSV"});
 inline constexpr OptionText listFormat = format("table,json,jsonl,csv");
 
 }  // namespace Options

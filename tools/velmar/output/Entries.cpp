@@ -12,16 +12,8 @@ namespace {
 
 /// The values of a family, the fields of one value together: "3: 1-9,11-20  0: 0,10".
 std::string familyText(const FieldGroup& family, const U8* entry, U32 entryBytes) {
-  std::vector<std::pair<U64, std::vector<U32>>> values;
-  for (const FieldPlace& place : family.members) {
-    const U64 value = readScalar(place, entry, entryBytes);
-    auto found = std::find_if(values.begin(), values.end(),
-                              [value](const auto& one) { return one.first == value; });
-    if (found == values.end()) found = values.insert(values.end(), {value, {}});
-    found->second.push_back(place.family.number);
-  }
   std::string text;
-  for (const auto& [value, numbers] : values) {
+  for (const auto& [value, numbers] : family.numbersByValue(entry, entryBytes)) {
     text += formatText("{}{}: {}", text.empty() ? "" : "  ", value, rangesText(numbers));
   }
   return text;
@@ -199,7 +191,8 @@ void writeEntries(Output& output, const Layout& layout, const std::vector<FieldP
     }
     return;
   }
-  EntryDocument document(output.text(), layout, fields, {rowFormatOf(style.format), style.isPlain});
+  EntryDocument document(output.text(), layout, fields,
+                         {rowFormatOf(style.format), style.isPlain, style.isCompact});
   for (const size_t i : positions) {
     document.write(dump.index(i), dump.bytes(i));
     output.flushIfLarge();

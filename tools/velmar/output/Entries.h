@@ -11,6 +11,7 @@ struct EntryStyle {
   Format format = Format::table;
   bool isPlain = false;     ///< JSON with values alone: numbers, lists of ports, hexadecimal text
   bool asFamilies = false;  ///< for people: a line for each family of fields
+  bool isCompact = false;   ///< JSON with a member for each family of fields
 };
 
 /// Writes the given fields of entries of a dump, in one of the formats but hex, words and raw.

@@ -153,7 +153,7 @@ void Output::takeOver(const struct stat& status) const {
   const bool keepsOwner = fchown(descriptor_, status.st_uid, status.st_gid) == 0;
   const bool keepsGroup =
       keepsOwner || fchown(descriptor_, static_cast<uid_t>(-1), status.st_gid) == 0;
-  // Nobody may gain the rights of another owner or group.
+  // The set-id bits do not pass to another owner or group.
   mode_t mode = status.st_mode & 07777;
   if (!keepsOwner) mode &= ~static_cast<mode_t>(S_ISUID);
   if (!keepsGroup) mode &= ~static_cast<mode_t>(S_ISGID);

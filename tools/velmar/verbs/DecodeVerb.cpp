@@ -18,7 +18,7 @@ struct DecodeRequest {
   IndexRequest index;
   Texts fields, where;
   std::optional<U64> limit;
-  bool nonzero = false, plain = false, expand = false, check = false;
+  bool nonzero = false, plain = false, compact = false, expand = false, check = false;
 };
 
 /// The entries that are asked for, as positions in the dump.
@@ -154,8 +154,8 @@ int run(DecodeRequest& request) {
     if (format != Format::table) writeRows(output, layout, format, findings);
   } else {
     if (format == Format::json) selected.checkAny();
-    writeEntries(output, layout, fields, {format, request.plain, !request.expand}, input.dump,
-                 positions);
+    writeEntries(output, layout, fields, {format, request.plain, !request.expand, request.compact},
+                 input.dump, positions);
   }
   output.finish();
   selected.report();
@@ -188,6 +188,7 @@ Verb decodeVerb() {
            {Options::nonzero, into(to.nonzero)},
            {Options::limit, takeLimit},
            {Options::plain, into(to.plain)},
+           {Options::compact, into(to.compact)},
            {Options::expand, into(to.expand)},
            {Options::check, into(to.check)},
            Options::input,
