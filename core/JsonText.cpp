@@ -44,7 +44,9 @@ bool JsonText::readText(std::string_view& text) {
   at_ = static_cast<size_t>(std::find_if(text_.begin() + at_, text_.end(), isEnd) - text_.begin());
   if (here() == '\\') return readEscaped(begin, text);
   text = text_.substr(begin, at_ - begin);
-  return expect('"', "a closing quotation mark is expected");
+  if (here() != '"') return fail("a closing quotation mark is expected");
+  ++at_;
+  return true;
 }
 
 bool JsonText::readEscaped(size_t begin, std::string_view& text) {

@@ -15,7 +15,8 @@ import velmar
 
 
 def of_command(table, text):
-    code, entries, error = run("encode", table.name, "--chip", table.chip, "--base", "-", data=text)
+    code, entries, error = run("encode", table.name, "--chip", table.chip, "--base", "-", "-f", "hex",
+                               data=text)
     if code != 0:
         return "refused: " + re.sub(r"^velmar: (standard input[:\d]*: )?", "", error).split("; ")[0].strip()
     return [line.split(": ") for line in entries.decode().splitlines()]

@@ -17,7 +17,7 @@ dump = os.path.join(source, "samples", "vlan-bcm56990.bin")
 table = ["VlanEntry", "--chip", "BCM56990_B0"]
 with open(dump, "rb") as file:
     changed = file.read()[:-1] + b"\1"
-document = b'{"index": 5, "fields": {"stg": 3}}\n'
+document = b'{"valid": 1, "stg": 3}\n'
 errors = {"write": "ENOSPC", "mmap": "ENOMEM", "rename": "EXDEV", "openat": "EMFILE"}
 interruptible = ("read", "write", "openat", "poll", "ioctl", "close")
 # Calls that cannot fail with an error number; brk() gives the old end of the heap instead.
