@@ -64,42 +64,38 @@ class CsvText {
   bool isOpen_ = false;
 };
 
-/// What a column of a document has: a field, or a member of entries.
-struct Column {
-  std::string name;
-  const FieldPlace* place = nullptr;
-};
+/// The fields of the columns; null for a member that entries have beside them.
+using Columns = std::vector<const FieldPlace*>;
 
-Expected<std::vector<Column>> columnsOf(EntryReader& reader, const std::vector<std::string>& head) {
-  std::vector<Column> columns;
-  for (const std::string& name : head) {
-    const auto isSame = [&name](const Column& column) { return column.name == name; };
-    if (std::any_of(columns.begin(), columns.end(), isSame)) {
+Expected<Columns> columnsOf(const EntryReader& reader, const std::vector<std::string>& head) {
+  Columns columns;
+  for (auto name = head.begin(); name != head.end(); ++name) {
+    if (std::find(head.begin(), name, *name) != name) {
       return failed(
-          Fault(Code::input, "column {} is given twice; give it once", quoted(name).view()));
+          Fault(Code::input, "column {} is given twice; give it once", quoted(*name).view()));
     }
-    columns.push_back({name});
-    if (reader.isMember(name)) continue;
-    const auto place = reader.find(name);
+    const bool isMember = reader.isMember(*name);
+    const auto place =
+        isMember ? Expected<const FieldPlace*>(nullptr) : reader.layout().find(*name);
     if (!place) return failed(place);
-    columns.back().place = *place;
+    columns.push_back(*place);
   }
   if (std::find(head.begin(), head.end(), "index") != head.end()) return columns;
   return failed(
       Fault(Code::input, "column \"index\" is missing; give CSV as decode --format csv prints it"));
 }
 
-Done readRow(const std::vector<Column>& columns, const std::vector<std::string>& cells,
-             EntryReader& reader) {
+Done readRow(const std::vector<std::string>& head, const Columns& columns,
+             const std::vector<std::string>& cells, EntryReader& reader) {
   if (cells.size() != columns.size()) {
     return failed(Fault(Code::input,
                         "{} cells, not {}; check the row, and quotes around texts with commas",
                         cells.size(), columns.size()));
   }
   for (size_t i = 0; i < cells.size(); ++i) {
-    const FieldPlace* const place = columns[i].place;
+    const FieldPlace* const place = columns[i];
     if (place == nullptr) {
-      if (const Done done = reader.takeMember(columns[i].name, cells[i]); !done) return done;
+      if (const Done done = reader.takeMember(head[i], cells[i]); !done) return done;
       continue;
     }
     const Expected<Value> value = parseValue(*place, cells[i]);
@@ -119,14 +115,14 @@ bool isCsv(std::string_view text) {
 
 Done readCsv(std::string_view text, EntryReader& reader) {
   CsvText csv(text);
-  std::vector<std::string> cells;
-  if (!csv.next(cells)) return failed(Fault(Code::input, "no row; check the file"));
-  auto columns = columnsOf(reader, cells);
+  std::vector<std::string> head, cells;
+  if (!csv.next(head)) return failed(Fault(Code::input, "no row; check the file"));
+  auto columns = columnsOf(reader, head);
   if (!columns) return failed(columns.error().onLine(1));
   bool isEmpty = true;
   for (; csv.next(cells); isEmpty = false) {
     reader.start(true);
-    Done done = readRow(*columns, cells, reader);
+    Done done = readRow(head, *columns, cells, reader);
     if (!done) return failed(done.error().onLine(csv.line()));
   }
   if (csv.isOpen()) {

@@ -113,27 +113,26 @@ EntryDocument::EntryDocument(std::string& to, const Layout& layout, std::vector<
   if (style.format == RowFormat::csv) {
     tail_ = formatText(",{},{}", layout.geometry().accessType, layout.geometry().block);
   }
-  addColumns(fields);
+  for (const FieldPlace& place : fields) addColumn(place);
 }
 
-void EntryDocument::addColumns(const std::vector<FieldPlace>& fields) {
-  for (const FieldPlace& place : fields) {
-    const char* const separator = columns_.empty() ? "" : ",";
-    if (!style_.isCompact || !place.isOfFamily()) {
-      const std::string_view head = style_.isPlain ? std::string_view() : valueHead;
-      columns_.push_back({place, formatText(R"({}"{}":{})", separator, place.name(), head)});
-      continue;
-    }
-    const auto family = std::find_if(columns_.begin(), columns_.end(), [&](const Column& column) {
-      return place.isOfFamilyOf(column.place);
-    });
-    if (family != columns_.end()) {
-      family->family.members.push_back(place);
-    } else {
-      columns_.push_back(
-          {place, formatText(R"({}"{}":)", separator, place.prefix()), true, {{place}}});
-    }
-  }
+EntryDocument::Form EntryDocument::formOf(const FieldPlace& place) const {
+  if (style_.isCompact && place.isOfFamily()) return Form::family;
+  if (style_.isPlain) return isExactScalar(place) ? Form::plainNumber : Form::plainValue;
+  return place.isScalar() ? Form::number : Form::value;
+}
+
+void EntryDocument::addColumn(const FieldPlace& place) {
+  const Form form = formOf(place);
+  const auto family = std::find_if(columns_.begin(), columns_.end(), [&](const Column& column) {
+    return form == Form::family && place.isOfFamilyOf(column.place);
+  });
+  if (family != columns_.end()) return family->family.members.push_back(place);
+  const std::string_view name = form == Form::family ? place.prefix() : place.name();
+  const bool isFull = form == Form::number || form == Form::value;
+  const std::string key = formatText(R"({}"{}":{})", columns_.empty() ? "" : ",", name,
+                                     isFull ? valueHead : std::string_view());
+  columns_.push_back({place, form, key, {{place}}});
 }
 
 std::vector<std::string> EntryDocument::columnNames(const Layout& layout,
@@ -176,16 +175,22 @@ void EntryDocument::writeObject(U64 index, const U8* bytes) {
   for (const Column& column : columns_) {
     const FieldPlace& place = column.place;
     to.add(column.key);
-    if (column.isFamily) {
-      addFamily(to, column.family, bytes, size);
-    } else if (style_.isPlain && isExactScalar(place)) {
-      to.addDecimal(readScalar(place, bytes, size));
-    } else if (style_.isPlain) {
-      addPlain(to, place, Value::read(place, bytes, size));
-    } else if (place.isScalar()) {
-      addScalarTail(to, place, readScalar(place, bytes, size));
-    } else {
-      addWideTail(to, place, Value::read(place, bytes, size));
+    switch (column.form) {
+      case Form::number:
+        addScalarTail(to, place, readScalar(place, bytes, size));
+        break;
+      case Form::value:
+        addWideTail(to, place, Value::read(place, bytes, size));
+        break;
+      case Form::plainNumber:
+        to.addDecimal(readScalar(place, bytes, size));
+        break;
+      case Form::plainValue:
+        addPlain(to, place, Value::read(place, bytes, size));
+        break;
+      case Form::family:
+        addFamily(to, column.family, bytes, size);
+        break;
     }
   }
   to.add('}');

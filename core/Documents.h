@@ -25,17 +25,21 @@ class EntryDocument {
   void end() { rows_.end(); }
 
  private:
+  /// How a value is written in JSON: found once, because whole tables are written this way.
+  enum class Form : U8 { number, value, plainNumber, plainValue, family };
+
   struct Column {
     FieldPlace place;
-    std::string key;  ///< all JSON before the value
-    bool isFamily = false;
-    FieldGroup family{};  ///< if it is one
+    Form form;
+    std::string key;      ///< all JSON before the value
+    FieldGroup family{};  ///< the fields of a family
   };
 
   static std::vector<std::string> columnNames(const Layout& layout,
                                               const std::vector<FieldPlace>& fields);
   static JsonFrame frame(const Layout& layout, const std::vector<FieldPlace>& fields);
-  void addColumns(const std::vector<FieldPlace>& fields);
+  Form formOf(const FieldPlace& place) const;
+  void addColumn(const FieldPlace& place);
   void writeObject(U64 index, const U8* bytes);
   void writeCsv(U64 index, const U8* bytes);
 

@@ -13,13 +13,15 @@ class JsonReader {
       : json_(text), reader_(reader), form_(reader.result.entries.jsonForm) {}
 
   Done read() {
-    const bool isWhole = json_.checkNoZeros();
-    if (isWhole && json_.peek() == '\0')
-      return failed(Fault(Code::input, "no entry; check the file"));
     form_ = {json_.peek() != '[', true, false};
-    bool isRead = isWhole;
-    while (isRead && json_.peek() != '\0') isRead = readTop();
+    bool isRead = true;
+    while (isRead && json_.peek() != '\0') {
+      hasEntries_ = true;
+      isRead = json_.peek() == '[' ? readEntries() : readObject(true);
+    }
+    if (isRead && !json_.isAtEnd()) isRead = json_.fail("");
     if (!isRead) return failed(fault_ ? *fault_ : *json_.fault());
+    if (!hasEntries_) return failed(Fault(Code::input, "no entry; check the file"));
     form_.isPlain = form_.isPlain && hasValues_;
     return {};
   }
@@ -28,46 +30,38 @@ class JsonReader {
   enum class Kind { document, entry, values };
 
   /// A fault of what an object says: it has the line on which that begins.
-  bool check(const Done& done) {
-    if (!done) (fault_ = done.error())->onLine(json_.lineOf(begin_));
-    return done.has_value();
+  template <class Result>
+  bool check(const Expected<Result>& result) {
+    if (!result) (fault_ = result.error())->onLine(json_.lineOf(begin_));
+    return result.has_value();
   }
+  bool check(const Fault& fault) { return check(Done(failed(fault))); }
   bool fail(const FieldPlace& place, const char* what) {
-    return check(failed(
+    return check(
         Fault(Code::value,
               "{}: {}; give a number, a text such as \"0x1f\" or \"0-3,17\", or a list of ports",
               place.name(), what)
-            .ofField(place.name())));
-  }
-
-  bool readTop() {
-    if (json_.peek() == '[') return readEntries();
-    Kind kind;
-    if (!startObject(kind)) return false;
-    return kind == Kind::document ? readDocument() : readEntry(kind);
+            .ofField(place.name()));
   }
 
   bool readEntries() {
-    return json_.readItems([this] {
-      Kind kind;
-      return startObject(kind) && readEntry(kind);
-    });
+    return json_.readItems([this] { return readObject(false); });
   }
 
-  /// Looks ahead for what an object is: a document has entries, an entry has fields.
-  bool startObject(Kind& kind) {
+  /// A document of entries, where it may be one, an entry with fields, or values alone.
+  bool readObject(bool isTop) {
     json_.forget();
-    if (json_.peek() != '{') return json_.fail("an entry in braces is expected");
     begin_ = json_.mark();
-    kind = Kind::values;
+    if (json_.peek() != '{') return json_.fail("an entry in braces is expected");
+    Kind kind = Kind::values;
     const bool isRead = json_.readMembers([&](std::string_view name) {
-      if (name == "entries") kind = Kind::document;
+      if (isTop && name == "entries") kind = Kind::document;
       if (name == "fields") kind = Kind::entry;
       return kind == Kind::values && json_.skip();
     });
     if (!isRead && kind == Kind::values) return false;
     json_.goTo(begin_);
-    return true;
+    return kind == Kind::document ? readDocument() : readEntry(kind);
   }
 
   bool readDocument() {
@@ -83,8 +77,8 @@ class JsonReader {
 
   bool readLayout() {
     return json_.readMembers([this](std::string_view name) {
-      const auto place = reader_.find(name);
-      return check(place.map([](const FieldPlace*) {})) && readPlace(**place);
+      const auto place = reader_.layout().find(name);
+      return check(place) && readPlace(**place);
     });
   }
 
@@ -94,50 +88,61 @@ class JsonReader {
       if (!json_.readScalar(number)) return false;
       if (name == "offset" && parseNumber(number) == place.offset) return true;
       if (name == "width" && parseNumber(number) == place.width) return true;
-      return check(failed(Fault(
-          Code::input, "layout: {} is not at {} with width {}, where it is on {}; check the chip",
-          place.name(), place.offset, place.width, reader_.layout().chip().name)));
+      return check(Fault(Code::input,
+                         "layout: {} is not at {} with width {}, where it is on {}; check the chip",
+                         place.name(), place.offset, place.width, reader_.layout().chip().name));
     });
   }
 
   bool readEntry(Kind kind) {
     reader_.start(kind == Kind::entry);
-    const auto readField = [this](std::string_view name) { return readValue(name); };
+    next_ = 0;
     const bool isRead =
-        kind == Kind::values
-            ? json_.readMembers(readField)
-            : json_.readMembers([&](std::string_view name) {
-                if (name == "fields") return json_.readMembers(readField);
-                if (reader_.isMember(name)) return readMember(name);
-                return check(failed(Fault(
-                    Code::input, "unknown member {}; an entry has index, fields and outsideFields",
-                    quoted(name).view())));
-              });
+        kind == Kind::values ? readFields() : json_.readMembers([this](std::string_view name) {
+          return name == "fields" ? readFields() : readMember(name);
+        });
     return isRead && check(reader_.finish());
   }
 
+  bool readFields() {
+    return json_.readMembers([this](std::string_view name) { return readField(name); });
+  }
+
   bool readMember(std::string_view name) {
+    if (!reader_.isMember(name)) {
+      return check(Fault(Code::input,
+                         "unknown member {}; an entry has index, fields and outsideFields",
+                         quoted(name).view()));
+    }
     std::string_view text;
     return json_.readScalar(text) && check(reader_.takeMember(name, text));
   }
 
-  bool readValue(std::string_view name) {
+  bool readField(std::string_view name) {
     hasValues_ = true;
-    const FieldPlace* const family = reader_.familyNamed(name);
-    if (family != nullptr) return readFamily(*family);
-    const auto place = reader_.find(name);
-    if (!place) return check(failed(place));
+    if (reader_.isFamily(name)) return readFamily(name);
+    const auto place = findField(name);
+    if (!check(place)) return false;
     if (json_.peek() == '{') form_.isPlain = false;
     Value value((*place)->width);
     return readValue(**place, value) && check(reader_.take(**place, value));
   }
 
+  /// The field of a name. Most come in their order.
+  Expected<const FieldPlace*> findField(std::string_view name) {
+    const Layout& layout = reader_.layout();
+    const bool isNext = next_ < layout.fields().size() && name == layout.fields()[next_].name();
+    auto place = isNext ? Expected<const FieldPlace*>(&layout.fields()[next_]) : layout.find(name);
+    if (place) next_ = layout.positionOf(**place) + 1;
+    return place;
+  }
+
   /// {"3": "0-2,17"}: values, and the numbers of the fields that have them.
-  bool readFamily(const FieldPlace& first) {
+  bool readFamily(std::string_view family) {
     form_.isCompact = true;
     return json_.readMembers([&](std::string_view value) {
       std::string_view numbers;
-      return json_.readScalar(numbers) && check(reader_.takeFamily(first, value, numbers));
+      return json_.readScalar(numbers) && check(reader_.takeFamily(family, value, numbers));
     });
   }
 
@@ -156,7 +161,7 @@ class JsonReader {
     }
     const Expected<Value> parsed = isText ? parseValue(place, scalar) : makeValue(place, *number);
     if (parsed) value = *parsed;
-    return check(parsed.map([](const Value&) {}));
+    return check(parsed);
   }
 
   bool readPorts(const FieldPlace& place, Value& value) {
@@ -179,11 +184,12 @@ class JsonReader {
         return fail(place, "a value has the members hex, decimal and ports only");
       }
       Value form(place.width);
+      if (json_.peek() == '{') return fail(place, "no value");
       if (!readValue(place, form)) return false;
       if (!first.empty() && form != value) {
-        return check(failed(Fault(Code::value, "{}: {} and {} disagree; change both, or remove one",
-                                  place.name(), first, name)
-                                .ofField(place.name())));
+        return check(Fault(Code::value, "{}: {} and {} disagree; change both, or remove one",
+                           place.name(), first, name)
+                         .ofField(place.name()));
       }
       if (first.empty()) first = name;
       value = form;
@@ -196,8 +202,9 @@ class JsonReader {
   JsonText json_;
   EntryReader& reader_;
   JsonForm& form_;
-  bool hasValues_ = false;
+  bool hasEntries_ = false, hasValues_ = false;
   size_t begin_ = 0;  ///< of the entry
+  size_t next_ = 0;   ///< position of the field that is expected
   std::optional<Fault> fault_;
 };
 

@@ -4,6 +4,20 @@
 
 namespace Velmar {
 namespace Core {
+namespace {
+
+/// How much of a text is a number, true, false or null; 0 if none is there.
+size_t scalarSize(std::string_view text) {
+  for (const std::string_view word : {"true", "false", "null"}) {
+    if (text.substr(0, word.size()) == word) return word.size();
+  }
+  if (text.empty() || (text[0] != '-' && !isDecimalDigit(text[0]))) return 0;
+  const bool hasZeros = text.size() > 1 && text[0] == '0' && isDecimalDigit(text[1]);
+  // Only whole numbers are of use: whoever takes one refuses any other.
+  return hasZeros ? 1 : std::min(text.find_first_not_of("+-.0123456789eE"), text.size());
+}
+
+}  // namespace
 
 bool JsonText::takeIf(char character) {
   if (peek() != character || at_ == text_.size()) return false;
@@ -12,7 +26,7 @@ bool JsonText::takeIf(char character) {
 }
 
 bool JsonText::fail(std::string_view what) {
-  if (fault_) return false;
+  if (here() == '\0' && !isAtEnd()) what = "NUL byte in JSON";
   const size_t column = at_ - (text_.substr(0, at_).rfind('\n') + 1) + 1;
   const size_t semicolon = std::min(what.find("; "), what.size());
   const std::string_view advice = semicolon < what.size() ? what.substr(semicolon + 2)
@@ -23,13 +37,6 @@ bool JsonText::fail(std::string_view what) {
   return false;
 }
 
-bool JsonText::checkNoZeros() {
-  const size_t zero = text_.find('\0');
-  if (zero == text_.npos) return true;
-  at_ = zero;
-  return fail("NUL byte in JSON");
-}
-
 U64 JsonText::lineOf(size_t mark) const {
   const std::string_view before = text_.substr(0, mark);
   return static_cast<U64>(std::count(before.begin(), before.end(), '\n')) + 1;
@@ -37,32 +44,23 @@ U64 JsonText::lineOf(size_t mark) const {
 
 bool JsonText::readText(std::string_view& text) {
   if (!expect('"', "a text in quotes is expected")) return false;
-  const size_t begin = at_;
   const auto isEnd = [](char character) {
     return character == '"' || character == '\\' || static_cast<unsigned char>(character) < ' ';
   };
-  at_ = static_cast<size_t>(std::find_if(text_.begin() + at_, text_.end(), isEnd) - text_.begin());
-  if (here() == '\\') return readEscaped(begin, text);
-  text = text_.substr(begin, at_ - begin);
-  if (here() != '"') return fail("a closing quotation mark is expected");
-  ++at_;
-  return true;
-}
-
-bool JsonText::readEscaped(size_t begin, std::string_view& text) {
-  std::string& result = unescaped_.emplace_back(text_.substr(begin, at_ - begin));
-  while (here() != '"') {
-    if (static_cast<unsigned char>(here()) < ' ') {
-      return fail("a closing quotation mark is expected");
-    }
-    if (here() != '\\') {
-      result += text_[at_++];
-    } else if (!takeEscape(result)) {
-      return false;
-    }
+  std::string* unescaped = nullptr;
+  for (;;) {
+    const size_t begin = at_;
+    const auto end = std::find_if(text_.begin() + begin, text_.end(), isEnd);
+    at_ = static_cast<size_t>(end - text_.begin());
+    text = text_.substr(begin, at_ - begin);
+    if (here() != '"' && here() != '\\') return fail("a closing quotation mark is expected");
+    if (here() == '\\' && unescaped == nullptr) unescaped = &unescaped_.emplace_back();
+    if (unescaped != nullptr) *unescaped += text;
+    if (here() == '"') break;
+    if (!takeEscape(*unescaped)) return false;
   }
   ++at_;
-  text = result;
+  if (unescaped != nullptr) text = *unescaped;
   return true;
 }
 
@@ -86,46 +84,21 @@ bool JsonText::takeEscape(std::string& to) {
   return true;
 }
 
-bool JsonText::takeDigits() {
-  if (!isDecimalDigit(here())) return fail("a digit is expected");
-  while (isDecimalDigit(here())) ++at_;
-  return true;
-}
-
-bool JsonText::takeNumber() {
-  if (here() == '-') ++at_;
-  const bool isZero = here() == '0';
-  if (isZero) ++at_;
-  if (!isZero && !takeDigits()) return false;
-  if (here() == '.') {
-    ++at_;
-    if (!takeDigits()) return false;
-  }
-  if (here() != 'e' && here() != 'E') return true;
-  ++at_;
-  if (here() == '+' || here() == '-') ++at_;
-  return takeDigits();
-}
-
 bool JsonText::readScalar(std::string_view& scalar) {
   if (peek() == '"') return readText(scalar);
-  const size_t begin = at_;
-  for (const std::string_view word : {"true", "false", "null"}) {
-    if (text_.substr(at_, word.size()) == word) at_ += word.size();
-    if (at_ != begin) break;
-  }
-  if (at_ == begin && here() != '-' && !isDecimalDigit(here())) {
-    return fail("a value is expected");
-  }
-  if (at_ == begin && !takeNumber()) return false;
-  scalar = text_.substr(begin, at_ - begin);
+  const size_t size = scalarSize(text_.substr(at_));
+  if (size == 0) return fail("a value is expected");
+  scalar = text_.substr(at_, size);
+  at_ += size;
   return true;
 }
 
-bool JsonText::skip() {
+bool JsonText::skip(U32 depth) {
+  constexpr U32 deepest = 16;
   std::string_view ignored;
-  if (peek() == '{') return readMembers([this](std::string_view) { return skip(); });
-  if (here() == '[') return readItems([this] { return skip(); });
+  if (depth > deepest) return fail("objects nested too deeply");
+  if (peek() == '{') return readMembers([&](std::string_view) { return skip(depth + 1); });
+  if (here() == '[') return readItems([&] { return skip(depth + 1); });
   return readScalar(ignored);
 }
 

@@ -16,13 +16,14 @@ class JsonText {
  public:
   explicit JsonText(std::string_view text) : text_(text) {}
 
-  /// The next character that is not blank; NUL at the end.
+  /// The next character that is not blank; NUL at the end, or where a NUL is a fault.
   char peek() {
     while (at_ < text_.size() && (isBlank(text_[at_]) || text_[at_] == '\n')) ++at_;
     return here();
   }
   /// Takes the character if it comes next.
   bool takeIf(char character);
+  bool isAtEnd() const { return at_ == text_.size(); }
   bool expect(char character, const char* what) { return takeIf(character) || fail(what); }
 
   /// A text in quotes. It stays valid until forget().
@@ -36,7 +37,7 @@ class JsonText {
   template <class Take>
   bool readItems(const Take& take);
   /// A value of any kind, without a use for it.
-  bool skip();
+  bool skip(U32 depth = 1);
 
   /// Where the next piece begins, and back to there.
   size_t mark() {
@@ -48,35 +49,17 @@ class JsonText {
   /// Texts that were read are not used any more.
   void forget() { unescaped_.clear(); }
 
-  /// A text has no NUL: it would look like the end.
-  bool checkNoZeros();
   bool fail(std::string_view what);
   /// The first fault.
   const std::optional<Fault>& fault() const { return fault_; }
 
  private:
-  static constexpr U32 deepest = 16;
-
-  /// An object or list is read while it lives.
-  struct Nesting {
-    explicit Nesting(U32& depthOfText) : depth(depthOfText) { ++depth; }
-    ~Nesting() { --depth; }
-    Nesting(const Nesting&) = delete;
-    Nesting& operator=(const Nesting&) = delete;
-
-    U32& depth;
-  };
-
   char here() const { return at_ < text_.size() ? text_[at_] : '\0'; }
-  bool takeDigits();
-  bool takeNumber();
-  bool readEscaped(size_t begin, std::string_view& text);
   bool takeEscape(std::string& to);
   bool checkNames(std::vector<std::string_view>& names, size_t begin);
 
   std::string_view text_;
   size_t at_ = 0;
-  U32 depth_ = 0;  ///< of objects and lists in each other
   std::deque<std::string> unescaped_;
   std::optional<Fault> fault_;
 };
@@ -85,8 +68,6 @@ template <class Take>
 bool JsonText::readMembers(const Take& take) {
   const size_t begin = mark();
   if (!expect('{', "an object in braces is expected")) return false;
-  const Nesting nesting(depth_);
-  if (depth_ > deepest) return fail("objects nested too deeply");
   std::vector<std::string_view> names;
   names.reserve(16);
   for (bool isFirst = true; !takeIf('}'); isFirst = false) {
@@ -103,8 +84,6 @@ bool JsonText::readMembers(const Take& take) {
 template <class Take>
 bool JsonText::readItems(const Take& take) {
   if (!expect('[', "a list in brackets is expected")) return false;
-  const Nesting nesting(depth_);
-  if (depth_ > deepest) return fail("objects nested too deeply");
   for (bool isFirst = true; !takeIf(']'); isFirst = false) {
     if (!isFirst && !expect(',', "a comma or ] is expected")) return false;
     if (!take()) return false;

@@ -54,9 +54,6 @@ EntryReader::EntryReader(const Layout& layout, const DocumentUse& use)
       facts_(factsOf(layout)),
       builder_(layout),
       next_(use.options.first.value_or(0)) {
-  for (const FieldPlace& place : layout.fields()) {
-    if (place.isOfFamily() && familyNamed(place.prefix()) == nullptr) families_.push_back(&place);
-  }
   for (size_t i = 0; use.base != nullptr && i < use.base->count(); ++i) {
     positionsInBase_[use.base->index(i)] = i;
   }
@@ -69,23 +66,15 @@ void EntryReader::start(bool isEntry) {
   reservedBits_.clear();
   given_.clear();
   isGiven_.assign(layout_.fields().size(), false);
-  expected_ = 0;
 }
 
-Expected<const FieldPlace*> EntryReader::find(std::string_view name) {
+bool EntryReader::isFamily(std::string_view name) const {
+  // Most names of a family's fields are ruled out here.
+  if (name.empty() || isDecimalDigit(name.back())) return false;
   const std::vector<FieldPlace>& fields = layout_.fields();
-  const bool isNext = expected_ < fields.size() && name == fields[expected_].name();
-  if (isNext) return &fields[expected_++];
-  const auto place = layout_.find(name);
-  if (place) expected_ = layout_.positionOf(**place) + 1;
-  return place;
-}
-
-const FieldPlace* EntryReader::familyNamed(std::string_view name) const {
-  for (const FieldPlace* place : families_) {
-    if (place->prefix() == name) return place;
-  }
-  return nullptr;
+  return std::any_of(fields.begin(), fields.end(), [name](const FieldPlace& place) {
+    return place.isOfFamily() && place.prefix() == name;
+  });
 }
 
 Done EntryReader::take(const FieldPlace& place, const Value& value) {
@@ -99,30 +88,21 @@ Done EntryReader::take(const FieldPlace& place, const Value& value) {
   return succeeded();
 }
 
-Done EntryReader::takeFamily(const FieldPlace& first, std::string_view value,
+Done EntryReader::takeFamily(std::string_view family, std::string_view value,
                              std::string_view numbers) {
   const Expected<IndexSet> set = IndexSet::of(numbers);
   if (!set) {
     return failed(Fault(Code::value, "{}: {} are not its numbers; give numbers such as 0-3,17",
-                        first.prefix(), quoted(numbers).view()));
+                        family, quoted(numbers).view()));
   }
-  // Members follow each other, in the order of their numbers.
-  const FieldPlace* place = &first;
-  const FieldPlace* const fieldsEnd = layout_.fields().data() + layout_.fields().size();
-  const FieldPlace* const end = std::find_if_not(
-      place, fieldsEnd, [&](const FieldPlace& each) { return each.isOfFamilyOf(first); });
-  const auto lacks = [&](U64 number) {
-    return failed(Fault(Code::notOnChip, "{} has no field {}{}; check table and chip",
-                        layout_.shown(), first.prefix(), number));
-  };
-  const U64 last = end[-1].family.number;
-  if (set->last() > last) return lacks(set->last());
-  for (const U64 number : set->below(last + 1)) {
-    while (place->family.number < number) ++place;
-    if (place->family.number != number) return lacks(number);
-    const Expected<Value> parsed = parseValue(*place, value);
+  const auto member = [&](U64 number) { return layout_.find(formatText("{}{}", family, number)); };
+  if (const auto last = member(set->last()); !last) return failed(last);
+  for (const U64 number : set->below(set->last() + 1)) {
+    const auto place = member(number);
+    if (!place) return failed(place);
+    const Expected<Value> parsed = parseValue(**place, value);
     if (!parsed) return failed(parsed);
-    if (const Done done = take(*place, *parsed); !done) return done;
+    if (const Done done = take(**place, *parsed); !done) return done;
   }
   return succeeded();
 }

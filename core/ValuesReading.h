@@ -23,14 +23,12 @@ class EntryReader {
 
   /// Begins an entry, or an object of values alone.
   void start(bool isEntry);
-  /// The field of a name. It is found at once where fields come in their order.
-  Expected<const FieldPlace*> find(std::string_view name);
-  /// The first field of the family that has this name; null if none has.
-  const FieldPlace* familyNamed(std::string_view name) const;
+  /// Whether a family of fields has this name.
+  bool isFamily(std::string_view name) const;
   /// The value of a field.
   Done take(const FieldPlace& place, const Value& value);
   /// The value of the fields of a family that have these numbers.
-  Done takeFamily(const FieldPlace& first, std::string_view value, std::string_view numbers);
+  Done takeFamily(std::string_view family, std::string_view value, std::string_view numbers);
   /// What an entry has beside its fields, or a document says of the table. `isMember` tells the names.
   bool isMember(std::string_view name) const;
   Done takeMember(std::string_view name, std::string_view text);
@@ -58,8 +56,7 @@ class EntryReader {
 
   const Layout& layout_;
   const DocumentUse use_;
-  const std::vector<Fact> facts_;            ///< what is the same for all entries
-  std::vector<const FieldPlace*> families_;  ///< the first field of each
+  const std::vector<Fact> facts_;  ///< what is the same for all entries
   std::unordered_map<U32, size_t> positionsInBase_;
   EntryBuilder builder_;
   SeenIndexes seen_;
@@ -72,7 +69,6 @@ class EntryReader {
   std::vector<U8> reservedBits_;
   std::vector<Given> given_;
   std::vector<bool> isGiven_;  ///< by the positions of the fields
-  size_t expected_ = 0;        ///< position of the field that comes next in their order
 };
 
 Done readJson(std::string_view text, EntryReader& reader);
