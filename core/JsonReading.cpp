@@ -1,211 +1,324 @@
-#include "core/JsonText.h"
+#include <rapidjson/document.h>
+
+#include <algorithm>
+#include <cstring>
+#include <new>
+
+#include "core/Json.h"
 #include "core/ValuesReading.h"
 
-// Entries are read one by one, so that a document of any size takes little memory beside its text.
+// A text is parsed in place, document by document: names and texts are parts of it.
 
 namespace Velmar {
 namespace Core {
 namespace {
 
+/// RapidJSON ignores failed allocations; these do not fail.
+struct JsonMemory {
+  [[maybe_unused]] static constexpr bool kNeedFree = true;
+  void* Malloc(size_t size) { return size == 0 ? nullptr : ::operator new(size); }
+  void* Realloc(void* memory, size_t old, size_t size) {
+    void* const result = Malloc(size);
+    if (memory != nullptr && result != nullptr) std::memcpy(result, memory, std::min(old, size));
+    Free(memory);
+    return result;
+  }
+  static void Free(void* memory) { ::operator delete(memory); }
+};
+
+using JsonPool = rapidjson::MemoryPoolAllocator<JsonMemory>;
+using JsonValue = rapidjson::GenericValue<rapidjson::UTF8<>, JsonPool>;
+using JsonDocument = rapidjson::GenericDocument<rapidjson::UTF8<>, JsonPool, JsonMemory>;
+constexpr unsigned parseFlags = rapidjson::kParseInsituFlag | rapidjson::kParseStopWhenDoneFlag |
+                                rapidjson::kParseIterativeFlag;
+
+std::string_view textOf(const JsonValue& text) {
+  return {text.GetString(), text.GetStringLength()};
+}
+
+/// A text as it is, any other value as messages show it.
+std::string shown(const JsonValue& value) {
+  if (value.IsString()) return std::string(textOf(value));
+  if (value.IsUint64()) return std::to_string(value.GetUint64());
+  if (value.IsBool()) return value.GetBool() ? "true" : "false";
+  if (value.IsNull()) return "null";
+  return value.IsObject() ? "an object" : value.IsArray() ? "a list" : "another number";
+}
+
+const char* expectedAt(rapidjson::ParseErrorCode code) {
+  switch (code) {
+    case rapidjson::kParseErrorObjectMissName:
+      return "a name in quotes is expected";
+    case rapidjson::kParseErrorObjectMissColon:
+      return "a colon is expected after the name";
+    case rapidjson::kParseErrorObjectMissCommaOrCurlyBracket:
+      return "a comma or } is expected";
+    case rapidjson::kParseErrorArrayMissCommaOrSquareBracket:
+      return "a comma or ] is expected";
+    case rapidjson::kParseErrorStringUnicodeEscapeInvalidHex:
+    case rapidjson::kParseErrorStringUnicodeSurrogateInvalid:
+      return "\\u needs four hexadecimal digits";
+    case rapidjson::kParseErrorStringEscapeInvalid:
+      return "one of \" \\ / b f n r t u is expected after a backslash";
+    case rapidjson::kParseErrorStringMissQuotationMark:
+      return "a closing quotation mark is expected";
+    case rapidjson::kParseErrorNumberTooBig:
+      return "the number is too large";
+    case rapidjson::kParseErrorNumberMissFraction:
+    case rapidjson::kParseErrorNumberMissExponent:
+      return "a digit is expected";
+    default:
+      return "a value is expected";
+  }
+}
+
+/// A name that an object has twice; empty if there is none.
+std::string_view nameGivenTwice(const JsonValue& object) {
+  std::vector<std::string_view> names;
+  names.reserve(object.MemberCount());
+  for (const auto& [name, member] : object.GetObject()) names.push_back(textOf(name));
+  // In order, equal names are neighbours.
+  std::sort(names.begin(), names.end());
+  const auto twice = std::adjacent_find(names.begin(), names.end());
+  return twice == names.end() ? std::string_view() : *twice;
+}
+
+/// An object has each name once.
+Done checkNames(const JsonValue& object) {
+  const std::string_view twice = nameGivenTwice(object);
+  if (twice.empty()) return succeeded();
+  return failed(
+      Fault(Code::input, "the name {} is given twice; give it once", quoted(twice).view()));
+}
+
+Done badValue(const FieldPlace& place, const char* what) {
+  return failed(
+      Fault(Code::value,
+            "{}: {}; give a number, a text such as \"0x1f\" or \"0-3,17\", or a list of ports",
+            place.name(), what)
+          .ofField(place.name()));
+}
+
+Done addPorts(const FieldPlace& place, const JsonValue& list, Value& value) {
+  if (!place.isBitmap()) return badValue(place, "the field is not a bitmap");
+  for (const JsonValue& port : list.GetArray()) {
+    if (!port.IsUint64()) return badValue(place, "a port must be a number");
+    if (const Done done = addPort(place, value, port.GetUint64()); !done) return done;
+  }
+  return succeeded();
+}
+
+Done takeInto(Value& value, const Expected<Value>& parsed) {
+  if (!parsed) return failed(parsed);
+  value = *parsed;
+  return succeeded();
+}
+
+Done readValue(const FieldPlace& place, const JsonValue& json, Value& value) {
+  if (json.IsUint64()) return takeInto(value, makeValue(place, json.GetUint64()));
+  if (json.IsBool() && place.width == 1) {
+    return takeInto(value, makeValue(place, json.GetBool() ? 1 : 0));
+  }
+  if (json.IsString()) return takeInto(value, parseValue(place, textOf(json)));
+  if (json.IsArray()) return addPorts(place, json, value);
+  return badValue(place, json.IsNumber() ? "not a whole number of up to 64 bits" : "no value");
+}
+
+/// {"hex": ..., "decimal": ..., "ports": [...]}: one or more of them, with the same value.
+Done readForms(const FieldPlace& place, const JsonValue& object, Value& value) {
+  std::string_view first;
+  for (const auto& [name, member] : object.GetObject()) {
+    const std::string_view key = textOf(name);
+    if (key != "hex" && key != "decimal" && key != "ports") {
+      return badValue(place, "a value has the members hex, decimal and ports only");
+    }
+    Value form(place.width);
+    if (const Done done = readValue(place, member, form); !done) return done;
+    if (!first.empty() && form != value) {
+      return failed(Fault(Code::value, "{}: {} and {} disagree; change both, or remove one",
+                          place.name(), first, key)
+                        .ofField(place.name()));
+    }
+    if (first.empty()) first = key;
+    value = form;
+  }
+  if (first.empty()) return badValue(place, "there is no value");
+  return checkNames(object);
+}
+
 class JsonReader {
  public:
   JsonReader(std::string_view text, EntryReader& reader)
-      : json_(text), reader_(reader), form_(reader.result.entries.jsonForm) {}
+      : text_(text),
+        parsed_(text),
+        reader_(reader),
+        layout_(reader.layout()),
+        form_(reader.result.entries.jsonForm) {}
 
   Done read() {
-    form_ = {json_.peek() != '[', true, false};
-    bool isRead = true;
-    while (isRead && json_.peek() != '\0') {
-      hasEntries_ = true;
-      isRead = json_.peek() == '[' ? readEntries() : readObject(true);
+    rapidjson::InsituStringStream stream(parsed_.data());
+    rapidjson::SkipWhitespace(stream);
+    form_ = {stream.Peek() != '[', true, false};
+    bool hasEntries = false;
+    for (; stream.Peek() != '\0'; rapidjson::SkipWhitespace(stream)) {
+      JsonDocument document;
+      document.ParseStream<parseFlags>(stream);
+      if (document.HasParseError()) {
+        return failed(faultAt(document.GetErrorOffset(), expectedAt(document.GetParseError())));
+      }
+      hasEntries = true;
+      const Done done =
+          document.IsArray() ? readEntries(document) : checked(document, readTop(document));
+      if (!done) return done;
     }
-    if (isRead && !json_.isAtEnd()) isRead = json_.fail("");
-    if (!isRead) return failed(fault_ ? *fault_ : *json_.fault());
-    if (!hasEntries_) return failed(Fault(Code::input, "no entry; check the file"));
+    if (stream.Tell() < parsed_.size()) return failed(faultAt(stream.Tell(), "NUL byte in JSON"));
+    if (!hasEntries) return failed(Fault(Code::input, "no entry; check the file"));
     form_.isPlain = form_.isPlain && hasValues_;
-    return {};
+    return succeeded();
   }
 
  private:
-  enum class Kind { document, entry, values };
-
-  /// A fault of what an object says: it has the line on which that begins.
-  template <class Result>
-  bool check(const Expected<Result>& result) {
-    if (!result) (fault_ = result.error())->onLine(json_.lineOf(begin_));
-    return result.has_value();
+  Fault faultAt(size_t at, const char* what) const {
+    const size_t column = at - (text_.substr(0, at).rfind('\n') + 1) + 1;
+    const char* const advice = at == text_.size() ? "the JSON ends too early" : "check the JSON";
+    return Fault(Code::input, "{}; {}", what, advice).onLine(lineAt(at), column);
   }
-  bool check(const Fault& fault) { return check(Done(failed(fault))); }
-  bool fail(const FieldPlace& place, const char* what) {
-    return check(
-        Fault(Code::value,
-              "{}: {}; give a number, a text such as \"0x1f\" or \"0-3,17\", or a list of ports",
-              place.name(), what)
-            .ofField(place.name()));
+  U64 lineAt(size_t at) const {
+    const std::string_view before = text_.substr(0, at);
+    return static_cast<U64>(std::count(before.begin(), before.end(), '\n')) + 1;
   }
 
-  bool readEntries() {
-    return json_.readItems([this] { return readObject(false); });
-  }
-
-  /// A document of entries, where it may be one, an entry with fields, or values alone.
-  bool readObject(bool isTop) {
-    json_.forget();
-    begin_ = json_.mark();
-    if (json_.peek() != '{') return json_.fail("an entry in braces is expected");
-    Kind kind = Kind::values;
-    const bool isRead = json_.readMembers([&](std::string_view name) {
-      if (isTop && name == "entries") kind = Kind::document;
-      if (name == "fields") kind = Kind::entry;
-      return kind == Kind::values && json_.skip();
-    });
-    if (!isRead && kind == Kind::values) return false;
-    json_.goTo(begin_);
-    return kind == Kind::document ? readDocument() : readEntry(kind);
-  }
-
-  bool readDocument() {
-    form_.isLines = false;
-    const size_t begin = begin_;
-    return json_.readMembers([&](std::string_view name) {
-      if (name == "entries") return readEntries();
-      begin_ = begin;
-      if (name == "layout") return readLayout();
-      return reader_.isMember(name) ? readMember(name) : json_.skip();
-    });
-  }
-
-  bool readLayout() {
-    return json_.readMembers([this](std::string_view name) {
-      const auto place = reader_.layout().find(name);
-      return check(place) && readPlace(**place);
-    });
-  }
-
-  bool readPlace(const FieldPlace& place) {
-    return json_.readMembers([&](std::string_view name) {
-      std::string_view number;
-      if (!json_.readScalar(number)) return false;
-      if (name == "offset" && parseNumber(number) == place.offset) return true;
-      if (name == "width" && parseNumber(number) == place.width) return true;
-      return check(Fault(Code::input,
-                         "layout: {} is not at {} with width {}, where it is on {}; check the chip",
-                         place.name(), place.offset, place.width, reader_.layout().chip().name));
-    });
-  }
-
-  bool readEntry(Kind kind) {
-    reader_.start(kind == Kind::entry);
-    next_ = 0;
-    const bool isRead =
-        kind == Kind::values ? readFields() : json_.readMembers([this](std::string_view name) {
-          return name == "fields" ? readFields() : readMember(name);
-        });
-    return isRead && check(reader_.finish());
-  }
-
-  bool readFields() {
-    return json_.readMembers([this](std::string_view name) { return readField(name); });
-  }
-
-  bool readMember(std::string_view name) {
-    if (!reader_.isMember(name)) {
-      return check(Fault(Code::input,
-                         "unknown member {}; an entry has index, fields and outsideFields",
-                         quoted(name).view()));
+  /// A fault of what an object says has the line on which that begins.
+  Done checked(const JsonValue& object, Done done) const {
+    if (done || done.error().place.line != 0) return done;
+    size_t at = 0;
+    if (object.IsObject() && object.MemberCount() != 0) {
+      at = static_cast<size_t>(object.MemberBegin()->name.GetString() - parsed_.data());
+      at = text_.rfind('{', at);
     }
-    std::string_view text;
-    return json_.readScalar(text) && check(reader_.takeMember(name, text));
+    done.error().onLine(lineAt(at));
+    return done;
   }
 
-  bool readField(std::string_view name) {
+  Done readEntries(const JsonValue& list) {
+    if (!list.IsArray()) {
+      return failed(Fault(Code::input, "entries: {}; give a list of entries", shown(list)));
+    }
+    for (const JsonValue& object : list.GetArray()) {
+      if (const Done done = checked(object, readObject(object)); !done) return done;
+    }
+    return succeeded();
+  }
+
+  /// A document of entries, where it may be one, or an object.
+  Done readTop(const JsonValue& object) {
+    if (!object.IsObject() || !object.HasMember("entries")) return readObject(object);
+    form_.isLines = false;
+    if (const Done done = checkNames(object); !done) return done;
+    for (const auto& [name, member] : object.GetObject()) {
+      const std::string_view key = textOf(name);
+      Done done = succeeded();
+      if (key == "entries") done = readEntries(member);
+      if (key == "layout") done = readLayout(member);
+      if (reader_.isMember(key)) done = readMember(key, member);
+      if (!done) return done;
+    }
+    return succeeded();
+  }
+
+  /// The fields are where the layout has them.
+  Done readLayout(const JsonValue& fields) const {
+    if (!fields.IsObject()) {
+      return failed(Fault(Code::input, "layout: not an object; check the file"));
+    }
+    for (const auto& [name, range] : fields.GetObject()) {
+      const auto found = layout_.find(textOf(name));
+      if (!found) return failed(found);
+      const FieldPlace& place = **found;
+      const bool isPlace = range.IsObject() && range.MemberCount() == 2 &&
+                           range.HasMember("offset") && range["offset"] == place.offset &&
+                           range.HasMember("width") && range["width"] == place.width;
+      if (isPlace) continue;
+      return failed(Fault(
+          Code::input, "layout: {} is not at {} with width {}, where it is on {}; check the chip",
+          place.name(), place.offset, place.width, layout_.chip().name));
+    }
+    return succeeded();
+  }
+
+  /// An entry with fields, or values alone.
+  Done readObject(const JsonValue& object) {
+    if (!object.IsObject()) {
+      return failed(Fault(Code::input, "{} is no entry; give an entry in braces", shown(object)));
+    }
+    const bool isEntry = object.HasMember("fields");
+    reader_.start(isEntry);
+    Done done = checkNames(object);
+    if (done && !isEntry) done = readFields(object);
+    for (auto member = object.MemberBegin(); done && isEntry && member != object.MemberEnd();
+         ++member) {
+      const std::string_view name = textOf(member->name);
+      done = name == "fields" ? readFields(member->value) : readMember(name, member->value);
+    }
+    return done ? reader_.finish() : done;
+  }
+
+  Done readMember(std::string_view name, const JsonValue& value) {
+    if (reader_.isMember(name)) return reader_.takeMember(name, shown(value));
+    return failed(Fault(Code::input,
+                        "unknown member {}; an entry has index, fields and outsideFields",
+                        quoted(name).view()));
+  }
+
+  Done readFields(const JsonValue& fields) {
+    if (!fields.IsObject()) {
+      return failed(Fault(Code::input, "fields: not an object; give {{\"field\": value}}"));
+    }
+    size_t next = 0;
+    for (const auto& [name, member] : fields.GetObject()) {
+      if (const Done done = readField(textOf(name), member, next); !done) return done;
+    }
+    return checkNames(fields);
+  }
+
+  /// A field or a family; most fields come in their order, `next` is the position of the one that
+  /// follows.
+  Done readField(std::string_view name, const JsonValue& json, size_t& next) {
     hasValues_ = true;
-    if (reader_.isFamily(name)) return readFamily(name);
-    const auto place = findField(name);
-    if (!check(place)) return false;
-    if (json_.peek() == '{') form_.isPlain = false;
-    Value value((*place)->width);
-    return readValue(**place, value) && check(reader_.take(**place, value));
-  }
-
-  /// The field of a name. Most come in their order.
-  Expected<const FieldPlace*> findField(std::string_view name) {
-    const Layout& layout = reader_.layout();
-    const bool isNext = next_ < layout.fields().size() && name == layout.fields()[next_].name();
-    auto place = isNext ? Expected<const FieldPlace*>(&layout.fields()[next_]) : layout.find(name);
-    if (place) next_ = layout.positionOf(**place) + 1;
-    return place;
+    if (reader_.isFamily(name)) return readFamily(name, json);
+    const std::vector<FieldPlace>& fields = layout_.fields();
+    const bool isNext = next < fields.size() && name == fields[next].name();
+    const auto found = isNext ? Expected<const FieldPlace*>(&fields[next]) : layout_.find(name);
+    if (!found) return failed(found);
+    const FieldPlace& place = **found;
+    next = layout_.positionOf(place) + 1;
+    Value value(place.width);
+    if (json.IsObject()) form_.isPlain = false;
+    const Done done =
+        json.IsObject() ? readForms(place, json, value) : readValue(place, json, value);
+    return done ? reader_.take(place, value) : done;
   }
 
   /// {"3": "0-2,17"}: values, and the numbers of the fields that have them.
-  bool readFamily(std::string_view family) {
+  Done readFamily(std::string_view family, const JsonValue& values) {
     form_.isCompact = true;
-    return json_.readMembers([&](std::string_view value) {
-      std::string_view numbers;
-      return json_.readScalar(numbers) && check(reader_.takeFamily(family, value, numbers));
-    });
-  }
-
-  bool readValue(const FieldPlace& place, Value& value) {
-    if (json_.peek() == '{') return readForms(place, value);
-    if (json_.peek() == '[') return readPorts(place, value);
-    const bool isText = json_.peek() == '"';
-    std::string_view scalar;
-    if (!json_.readScalar(scalar)) return false;
-    if (place.width == 1 && !isText && scalar == "true") scalar = "1";
-    if (place.width == 1 && !isText && scalar == "false") scalar = "0";
-    const std::optional<U64> number = parseNumber(scalar);
-    if (!isText && !number) {
-      const bool isNumber = scalar[0] == '-' || isDecimalDigit(scalar[0]);
-      return fail(place, isNumber ? "not a whole number of up to 64 bits" : "no value");
+    if (!values.IsObject()) {
+      return failed(Fault(Code::input, "{}: {}; give {{\"value\": \"numbers\"}}", family,
+                          quoted(shown(values)).view()));
     }
-    const Expected<Value> parsed = isText ? parseValue(place, scalar) : makeValue(place, *number);
-    if (parsed) value = *parsed;
-    return check(parsed);
+    for (const auto& [value, numbers] : values.GetObject()) {
+      const Done done = reader_.takeFamily(family, textOf(value), shown(numbers));
+      if (!done) return done;
+    }
+    return checkNames(values);
   }
 
-  bool readPorts(const FieldPlace& place, Value& value) {
-    if (!place.isBitmap()) return fail(place, "the field is not a bitmap");
-    return json_.readItems([&] {
-      std::string_view port;
-      const bool isText = json_.peek() == '"';
-      if (!json_.readScalar(port)) return false;
-      const std::optional<U64> number = parseNumber(port);
-      if (isText || !number) return fail(place, "a port must be a number");
-      return check(addPort(place, value, *number));
-    });
-  }
-
-  /// {"hex": ..., "decimal": ..., "ports": [...]}: one or more of them, with the same value.
-  bool readForms(const FieldPlace& place, Value& value) {
-    std::string_view first;
-    const bool isRead = json_.readMembers([&](std::string_view name) {
-      if (name != "hex" && name != "decimal" && name != "ports") {
-        return fail(place, "a value has the members hex, decimal and ports only");
-      }
-      Value form(place.width);
-      if (json_.peek() == '{') return fail(place, "no value");
-      if (!readValue(place, form)) return false;
-      if (!first.empty() && form != value) {
-        return check(Fault(Code::value, "{}: {} and {} disagree; change both, or remove one",
-                           place.name(), first, name)
-                         .ofField(place.name()));
-      }
-      if (first.empty()) first = name;
-      value = form;
-      return true;
-    });
-    if (isRead && first.empty()) return fail(place, "there is no value");
-    return isRead;
-  }
-
-  JsonText json_;
+  std::string_view text_;
+  std::string parsed_;  ///< the text, changed in place
   EntryReader& reader_;
+  const Layout& layout_;
   JsonForm& form_;
-  bool hasEntries_ = false, hasValues_ = false;
-  size_t begin_ = 0;  ///< of the entry
-  size_t next_ = 0;   ///< position of the field that is expected
-  std::optional<Fault> fault_;
+  bool hasValues_ = false;
 };
 
 }  // namespace
