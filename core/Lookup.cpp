@@ -164,14 +164,20 @@ std::vector<EntryOfAddress> entriesAt(const Catalogue::Chip& chip, U8 variant, U
   return entries;
 }
 
-Fault tooLarge(const char* field, U32 width, std::string_view value) {
+Text largestText(U32 width, bool asHex) {
   Text largest;
-  if (width > 64 || value.find_first_of("xX") != std::string_view::npos) {
+  if (asHex) {
     largest.append("0x{:x}", (1U << ((width - 1) % 4 + 1)) - 1);
     for (U32 digit = (width - 1) / 4; digit > 0; --digit) largest.append("f");
   } else {
     largest.append("{}", ~U64{0} >> (64 - width));
   }
+  return largest;
+}
+
+Fault tooLarge(const char* field, U32 width, std::string_view value) {
+  const bool asHex = width > 64 || value.find_first_of("xX") != std::string_view::npos;
+  const Text largest = largestText(width, asHex);
   return Fault(Code::value,
                "{}: value {} does not fit; the field has {} bit{}, its largest value is {}", field,
                quoted(value).view(), width, pluralEnd(width), largest.view())

@@ -43,6 +43,8 @@ Expected<EntryOfAddress> findEntry(const Catalogue::Chip& chip, U32 variant, U32
 /// All of them.
 std::vector<EntryOfAddress> entriesAt(const Catalogue::Chip& chip, U8 variant, U32 address);
 
+/// The largest number of a width, in hexadecimal or in decimal, which needs a width of up to 64.
+Text largestText(U32 width, bool asHex);
 /// A value, given as text, has more bits than its field.
 Fault tooLarge(const char* field, U32 width, std::string_view value);
 
