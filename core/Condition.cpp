@@ -352,19 +352,19 @@ Expected<Selection> Selection::of(const Layout& layout,
   return selection;
 }
 
-bool Selection::fits(U32 index, const U8* entry) const {
+bool Selection::fits(U32 index, const U8* entry, U32 entryBytes) const {
+  if (nonzero && std::all_of(entry, entry + entryBytes, [](U8 byte) { return byte == 0; })) {
+    return false;
+  }
   return std::all_of(conditions_.begin(), conditions_.end(),
                      [&](const Condition& condition) { return condition.holdsFor(index, entry); });
 }
 
 std::vector<size_t> Selection::in(const Dump& dump) const {
-  const std::vector<U8> zeros(dump.entryBytes());
   std::vector<size_t> positions;
   for (size_t i = 0; i < dump.count(); ++i) {
-    const U8* const bytes = dump.bytes(i);
     if (!indexes.has(dump.index(i))) continue;
-    if (nonzero && std::equal(zeros.begin(), zeros.end(), bytes)) continue;
-    if (fits(dump.index(i), bytes)) positions.push_back(i);
+    if (fits(dump.index(i), dump.bytes(i), dump.entryBytes())) positions.push_back(i);
   }
   return positions;
 }

@@ -55,7 +55,7 @@ class Selection {
   static Expected<Selection> of(const Layout& layout, const std::vector<std::string>& conditions);
 
   /// Whether an entry is meant, as far as its bytes and the conditions say.
-  bool fits(U32 index, const U8* entry) const;
+  bool fits(U32 index, const U8* entry, U32 entryBytes) const;
   /// The entries, as positions in the dump, in its order.
   std::vector<size_t> in(const Dump& dump) const;
   bool hasConditions() const { return !conditions_.empty(); }
