@@ -9,6 +9,8 @@
 namespace Velmar {
 namespace Core {
 
+class TextBuffer;
+
 /// Writes entries as JSON, JSON lines or CSV at the end of a text.
 class EntryDocument {
  public:
@@ -25,12 +27,14 @@ class EntryDocument {
  private:
   struct Column {
     FieldPlace place;
-    std::string key;  ///< all JSON before the value
+    std::string key;          ///< all JSON before the value
+    std::string keyAndDigit;  ///< with an object of the value 0
   };
 
   static std::vector<std::string> columnNames(const Layout& layout,
                                               const std::vector<FieldPlace>& fields);
   static JsonFrame frame(const Layout& layout, const std::vector<FieldPlace>& fields);
+  static void addExactScalar(TextBuffer& to, const Column& column, U64 number);
   void writeObject(U64 index, const U8* bytes);
   void writeCsv(U64 index, const U8* bytes);
 
@@ -42,7 +46,6 @@ class EntryDocument {
   std::string head_;  ///< JSON before the index of an entry
   std::string tail_;  ///< JSON between the address and the fields
   std::vector<Column> columns_;
-  std::string entry_;
 };
 
 /// The value of a field as a JSON object: {"hex": ..., "decimal": ..., "ports": [...]}.
