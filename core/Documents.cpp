@@ -81,7 +81,8 @@ EntryDocument::EntryDocument(std::string& to, const Layout& layout, std::vector<
       layout_(layout),
       style_(style),
       showsReservedBits_(fields.size() == layout.fields().size()),
-      rows_(to, style.format, columnNames(layout, fields), frame(layout, fields)),
+      rows_(to, style.format, columnNames(layout, fields),
+            style.format == RowFormat::json ? frame(layout, fields) : JsonFrame()),
       head_(R"({"index":)"),
       tail_(formatText(R"(,"accessType":{},"block":{},"fields":{{)", layout.geometry().accessType,
                        layout.geometry().block)) {
@@ -93,8 +94,11 @@ EntryDocument::EntryDocument(std::string& to, const Layout& layout, std::vector<
     tail_ = formatText(",{},{}", layout.geometry().accessType, layout.geometry().block);
   }
   for (const FieldPlace& place : fields) {
-    const std::string key = formatText(R"({}"{}":{})", columns_.empty() ? "" : ",", place.name(),
-                                       style.isPlain ? std::string_view() : valueHead);
+    std::string key;
+    if (style.format != RowFormat::csv) {
+      key = formatText(R"({}"{}":{})", columns_.empty() ? "" : ",", place.name(),
+                       style.isPlain ? std::string_view() : valueHead);
+    }
     columns_.push_back({place, key, key + R"(0","decimal":0})"});
   }
 }
