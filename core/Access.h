@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <optional>
 
 #include "Detail/CopyBits.h"
@@ -34,8 +35,12 @@ inline void setBit(U8* mask, U32 bit) {
 inline void fieldMask(const Catalogue::Table& table, const Catalogue::Chip& chip, U8* mask) {
   const U32 bytes = 4U * table.geometry(chip.number).words;
   for (U32 i = 0; i < bytes; ++i) mask[i] = 0;
-  for (U32 bit = 0; bit < 8 * bytes; ++bit) {
-    if (table.isFieldBit(bit, chip.number)) setBit(mask, bit);
+  constexpr U32 ones[] = {~U32{0}, ~U32{0}};
+  for (U32 i = 0; i < table.fieldCount(); ++i) {
+    const Catalogue::BitRange range = table.range(i, chip.number);
+    for (U32 at = 0; at < range.width; at += 64) {
+      writeBits(mask, bytes, range.offset + at, std::min(range.width - at, 64U), ones, sizeof(ones));
+    }
   }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <vector>
 
 #include "core/Dump.h"
@@ -9,23 +10,41 @@
 namespace Velmar {
 namespace Core {
 
-/// A condition on the value of a field, such as "stg=2,3", "fidId>=0x10" or "portBitmap~20-22". It
-/// holds for several fields, such as "spTreePort0-3=2", if it holds for each of them.
+/// What is asked of an entry, such as "stg=2-5,9 and not valid=0", "portBitmap~20-22",
+/// "any spTreePort=2" or "index>=100; nonzero". "not" binds first, then "and", "or" and at last ";",
+/// which means "and" too.
 class Condition {
  public:
   static Expected<Condition> of(const Layout& layout, std::string_view text);
 
-  bool holdsFor(const U8* entry) const;
+  bool holdsFor(U32 index, const U8* entry) const;
 
  private:
-  enum class Relation { equal, notEqual, less, lessOrEqual, greater, greaterOrEqual, has, hasNone };
+  friend class ConditionReader;
 
-  bool holdsFor(const Value& value) const;
+  enum class Kind { allOf, anyOf, noneOf, bits, index, fields };
+  enum class Relation { among, has, equal };
+  /// A number of up to 128 bits: the upper half, then the lower one, so that it compares as a number.
+  using Number = std::array<U64, 2>;
+  struct Range {
+    Number first, last;
+  };
 
+  explicit Condition(Kind kind) : kind_(kind) {}
+
+  bool holdsForField(const FieldPlace& place, const U8* entry) const;
+  bool isAmong(const Number& number) const;
+
+  Kind kind_;
+  std::vector<Condition> parts_;  ///< of allOf, anyOf and noneOf
+  std::vector<U8> mask_;          ///< of bits: one of these is set
   U32 entryBytes_ = 0;
   std::vector<FieldPlace> places_;
-  Relation relation_ = Relation::equal;
-  std::vector<Value> values_;  ///< more than one for equal and notEqual only
+  bool anyPlace_ = false;  ///< it is enough that one of the places fits
+  Relation relation_ = Relation::among;
+  bool isNegated_ = false;
+  std::vector<Range> ranges_;  ///< of numbers
+  std::vector<Value> ports_;   ///< of bitmaps: one value
 };
 
 /// Which entries of a dump are meant.
@@ -35,6 +54,8 @@ class Selection {
   /// Conditions that must all hold.
   static Expected<Selection> of(const Layout& layout, const std::vector<std::string>& conditions);
 
+  /// Whether an entry is meant, as far as its bytes and the conditions say.
+  bool fits(U32 index, const U8* entry, U32 entryBytes) const;
   /// The entries, as positions in the dump, in its order.
   std::vector<size_t> in(const Dump& dump) const;
   bool hasConditions() const { return !conditions_.empty(); }

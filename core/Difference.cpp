@@ -42,6 +42,12 @@ EntryChange nextPair(Ordered& before, Ordered& after) {
   return change;
 }
 
+bool isSelected(const Selection& selection, const EntryChange& change, U32 size) {
+  if (!selection.indexes.has(change.index)) return false;
+  return (change.before != nullptr && selection.fits(change.index, change.before, size)) ||
+         (change.after != nullptr && selection.fits(change.index, change.after, size));
+}
+
 bool differs(const FieldPlace& place, const EntryChange& change, U32 size) {
   if (place.isScalar()) {
     return readScalar(place, change.before, size) != readScalar(place, change.after, size);
@@ -133,7 +139,7 @@ Difference difference(const Layout& layout, const Dump& before, const Dump& afte
   while (old.hasEntry() || now.hasEntry()) {
     if (options.stopsAtFirst && !result.entries.empty()) return result;
     EntryChange change = nextPair(old, now);
-    if (!options.indexes.has(change.index)) continue;
+    if (!isSelected(options.selection, change, size)) continue;
     if (change.kind != EntryChange::Kind::changed) {
       if (options.common) continue;
       ++result.missing;
@@ -150,7 +156,7 @@ Difference difference(const Layout& layout, const Dump& before, const Dump& afte
     ++result.differing;
     result.entries.push_back(std::move(change));
   }
-  result.unmet = options.indexes.unmet();
+  result.unmet = options.selection.indexes.unmet();
   return result;
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "core/Dump.h"
-#include "core/IndexSet.h"
+#include "core/Condition.h"
 #include "core/Listing.h"
 
 namespace Velmar {
@@ -27,9 +26,9 @@ inline const char* nameOf(const FieldPlace* changed) {
 struct DifferenceOptions {
   std::vector<FieldPlace> fields;  ///< compared; empty: all, and the reserved bits
   bool reservedBits = false;       ///< compared too
-  IndexSet indexes;
-  bool common = false;        ///< only entries that both dumps have
-  bool stopsAtFirst = false;  ///< the first difference is enough
+  Selection selection;             ///< entries that fit it in one dump or both
+  bool common = false;             ///< only entries that both dumps have
+  bool stopsAtFirst = false;       ///< the first difference is enough
 };
 
 /// What changed between two dumps of a table.

@@ -23,15 +23,7 @@ void addPorts(TextBuffer& to, const Value& value) {
 constexpr std::string_view valueHead = R"({"hex":"0x)";
 
 /// The rest of the object.
-void addScalarTail(TextBuffer& to, const FieldPlace& place, U64 number) {
-  // Most values have one digit: this takes a third of the time.
-  if (number < 10 && place.width <= exactBits) {
-    char tail[] = R"(0","decimal":0})";
-    constexpr size_t size = sizeof(tail) - 1;
-    tail[0] = tail[size - 2] = static_cast<char>('0' + number);
-    to.add({tail, size});
-    return;
-  }
+[[gnu::noinline]] void addScalarTail(TextBuffer& to, const FieldPlace& place, U64 number) {
   to.addHex(number);
   if (place.width <= exactBits) {
     to.add(R"(","decimal":)").addDecimal(number).add('}');
@@ -102,7 +94,8 @@ EntryDocument::EntryDocument(std::string& to, const Layout& layout, std::vector<
       layout_(layout),
       style_(style),
       showsReservedBits_(fields.size() == layout.fields().size()),
-      rows_(to, style.format, columnNames(layout, fields), frame(layout, fields)),
+      rows_(to, style.format, columnNames(layout, fields),
+            style.format == RowFormat::json ? frame(layout, fields) : JsonFrame()),
       head_(R"({"index":)"),
       tail_(formatText(R"(,"accessType":{},"block":{},"fields":{{)", layout.geometry().accessType,
                        layout.geometry().block)) {
@@ -119,6 +112,7 @@ EntryDocument::EntryDocument(std::string& to, const Layout& layout, std::vector<
 EntryDocument::Form EntryDocument::formOf(const FieldPlace& place) const {
   if (style_.isCompact && place.isOfFamily()) return Form::family;
   if (style_.isPlain) return isExactScalar(place) ? Form::plainNumber : Form::plainValue;
+  if (isExactScalar(place)) return Form::exactNumber;
   return place.isScalar() ? Form::number : Form::value;
 }
 
@@ -129,10 +123,13 @@ void EntryDocument::addColumn(const FieldPlace& place) {
   });
   if (family != columns_.end()) return family->family.members.push_back(place);
   const std::string_view name = form == Form::family ? place.prefix() : place.name();
-  const bool isFull = form == Form::number || form == Form::value;
-  const std::string key = formatText(R"({}"{}":{})", columns_.empty() ? "" : ",", name,
-                                     isFull ? valueHead : std::string_view());
-  columns_.push_back({place, form, key, {{place}}});
+  std::string key;
+  if (style_.format != RowFormat::csv) {
+    const bool isFull = !style_.isPlain && form != Form::family;
+    key = formatText(R"({}"{}":{})", columns_.empty() ? "" : ",", name,
+                     isFull ? valueHead : std::string_view());
+  }
+  columns_.push_back({place, form, key, key + R"(0","decimal":0})", {{place}}});
 }
 
 std::vector<std::string> EntryDocument::columnNames(const Layout& layout,
@@ -157,14 +154,23 @@ JsonFrame EntryDocument::frame(const Layout& layout, const std::vector<FieldPlac
 
 void EntryDocument::write(U64 index, const U8* bytes) {
   if (style_.format == RowFormat::csv) return writeCsv(index, bytes);
-  entry_.clear();
+  rows_.openRow();
   writeObject(index, bytes);
-  rows_.writeObject(entry_);
+  rows_.closeRow();
+}
+
+void EntryDocument::addExactNumber(TextBuffer& to, const Column& column, U64 number) {
+  if (number >= 10) return addScalarTail(to.add(column.key), column.place, number);
+  // Most values have one digit: their text is there already, but for the digit.
+  char* const text = to.addCopy(column.keyAndDigit);
+  const char digit = static_cast<char>('0' + number);
+  text[column.key.size()] = digit;
+  text[column.keyAndDigit.size() - 2] = digit;
 }
 
 void EntryDocument::writeObject(U64 index, const U8* bytes) {
   const U32 size = layout_.entryBytes();
-  TextBuffer to(entry_);
+  TextBuffer to(to_);
   to.add(head_).addDecimal(index).add(R"(,"address":)");
   if (index < layout_.indexCount()) {
     to.add("\"0x").addHex(layout_.addressOf(static_cast<U32>(index)).address, 8).add('"');
@@ -174,8 +180,11 @@ void EntryDocument::writeObject(U64 index, const U8* bytes) {
   to.add(tail_);
   for (const Column& column : columns_) {
     const FieldPlace& place = column.place;
-    to.add(column.key);
+    if (column.form != Form::exactNumber) to.add(column.key);
     switch (column.form) {
+      case Form::exactNumber:
+        addExactNumber(to, column, readScalar(place, bytes, size));
+        break;
       case Form::number:
         addScalarTail(to, place, readScalar(place, bytes, size));
         break;

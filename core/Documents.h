@@ -10,6 +10,8 @@
 namespace Velmar {
 namespace Core {
 
+class TextBuffer;
+
 /// Writes entries as JSON, JSON lines or CSV at the end of a text.
 class EntryDocument {
  public:
@@ -26,13 +28,14 @@ class EntryDocument {
 
  private:
   /// How a value is written in JSON: found once, because whole tables are written this way.
-  enum class Form : U8 { number, value, plainNumber, plainValue, family };
+  enum class Form : U8 { exactNumber, number, value, plainNumber, plainValue, family };
 
   struct Column {
     FieldPlace place;
     Form form;
-    std::string key;      ///< all JSON before the value
-    FieldGroup family{};  ///< the fields of a family
+    std::string key;          ///< all JSON before the value
+    std::string keyAndDigit;  ///< with an object of the value 0
+    FieldGroup family{};      ///< the fields of a family
   };
 
   static std::vector<std::string> columnNames(const Layout& layout,
@@ -40,6 +43,7 @@ class EntryDocument {
   static JsonFrame frame(const Layout& layout, const std::vector<FieldPlace>& fields);
   Form formOf(const FieldPlace& place) const;
   void addColumn(const FieldPlace& place);
+  static void addExactNumber(TextBuffer& to, const Column& column, U64 number);
   void writeObject(U64 index, const U8* bytes);
   void writeCsv(U64 index, const U8* bytes);
 
@@ -51,7 +55,6 @@ class EntryDocument {
   std::string head_;  ///< JSON before the index of an entry
   std::string tail_;  ///< JSON between the address and the fields
   std::vector<Column> columns_;
-  std::string entry_;
 };
 
 /// The value of a field as a JSON object: {"hex": ..., "decimal": ..., "ports": [...]}.

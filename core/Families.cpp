@@ -106,5 +106,15 @@ Expected<std::vector<FieldPlace>> findFields(const Layout& layout, std::string_v
   return found;
 }
 
+Expected<std::vector<FieldPlace>> findMembers(const Layout& layout, std::string_view name) {
+  std::vector<FieldPlace> members;
+  const SimpleName simple(name);
+  for (const FieldPlace& place : layout.fields()) {
+    if (!place.isOfFamily() || SimpleName(place.prefix()).text() != simple.text()) continue;
+    members.push_back(place);
+  }
+  return members.empty() ? findFields(layout, name) : members;
+}
+
 }  // namespace Core
 }  // namespace Velmar

@@ -59,5 +59,8 @@ std::vector<std::vector<size_t>> joined(size_t count, const AreAlike& areAlike) 
 /// that match a name with * and ?. A fault if there is none.
 Expected<std::vector<FieldPlace>> findFields(const Layout& layout, std::string_view name);
 
+/// The members of a family by its name, such as "spTreePort", or what findFields() finds.
+Expected<std::vector<FieldPlace>> findMembers(const Layout& layout, std::string_view name);
+
 }  // namespace Core
 }  // namespace Velmar

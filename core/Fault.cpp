@@ -5,6 +5,13 @@
 namespace Velmar {
 namespace Core {
 
+const char* nameOf(Code code) {
+  constexpr const char* names[] = {"null",        "size",    "index", "unknown", "ambiguous",
+                                   "not-on-chip", "variant", "value", "wide",    "no-entry",
+                                   "input",       "option",  "memory"};
+  return names[static_cast<U32>(code) - 1];
+}
+
 void Fault::say(fmt::string_view text, fmt::format_args arguments) {
   what.appendAll(text, arguments);
   const size_t end = what.view().rfind("; ");

@@ -26,6 +26,8 @@ enum class Code : U32 {
   option = 12,  ///< an option is wrong, or has no effect
   memory = 13
 };
+/// As documents name it, such as "not-on-chip".
+const char* nameOf(Code code);
 
 /// Where a fault is. Lines and columns count from 1; 0: not known.
 struct Place {

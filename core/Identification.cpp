@@ -22,16 +22,16 @@ std::vector<std::vector<Layout>> candidatesOf(const Catalogue::Table& table,
                                               const std::vector<Catalogue::Chip>& chips) {
   std::vector<std::vector<Layout>> candidates;
   for (const Catalogue::Chip& chip : chips) {
-    const Expected<Layout> layout = Layout::of(table, chip, 0);
+    Expected<Layout> layout = Layout::of(table, chip, 0);
     if (!layout) continue;
     const auto alike = std::find_if(candidates.begin(), candidates.end(),
                                     [&layout](const std::vector<Layout>& candidate) {
                                       return areAlike(candidate.front(), *layout);
                                     });
     if (alike == candidates.end()) {
-      candidates.push_back({*layout});
+      candidates.emplace_back().push_back(std::move(*layout));
     } else {
-      alike->push_back(*layout);
+      alike->push_back(std::move(*layout));
     }
   }
   return candidates;

@@ -48,7 +48,11 @@ RowWriter::RowWriter(std::string& to, RowFormat format, std::vector<std::string>
 }
 
 void RowWriter::write(const Row& row) {
-  if (format_ != RowFormat::csv) return writeObject(jsonObject(columns_, row));
+  if (format_ != RowFormat::csv) {
+    openRow();
+    to_ += jsonObject(columns_, row);
+    return closeRow();
+  }
   for (size_t i = 0; i < columns_.size(); ++i) {
     if (i != 0) to_ += ',';
     if (i < row.size() && !row[i].isNull()) appendCsv(to_, row[i].text());
@@ -56,14 +60,11 @@ void RowWriter::write(const Row& row) {
   to_ += '\n';
 }
 
-void RowWriter::writeObject(std::string_view object) {
-  if (format_ == RowFormat::json) {
-    to_ += isEmpty_ ? "\n" : ",\n";
-    to_ += frame_.indent;
-    isEmpty_ = false;
-  }
-  to_ += object;
-  if (format_ == RowFormat::jsonLines) to_ += '\n';
+void RowWriter::openRow() {
+  if (format_ != RowFormat::json) return;
+  to_ += isEmpty_ ? "\n" : ",\n";
+  to_ += frame_.indent;
+  isEmpty_ = false;
 }
 
 void RowWriter::end() {

@@ -61,8 +61,11 @@ class RowWriter {
 
   /// A row may be shorter than the columns: the last members are then missing, or fields empty.
   void write(const Row& row);
-  /// A row that is a JSON object already; not for CSV.
-  void writeObject(std::string_view object);
+  /// Around a row that is written as a JSON object at the end of the text; not for CSV.
+  void openRow();
+  void closeRow() {
+    if (format_ == RowFormat::jsonLines) to_ += '\n';
+  }
   void end();
 
  private:

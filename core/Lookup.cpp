@@ -51,6 +51,19 @@ Done checkVariant(U32 variant) {
   return failed(Fault(Code::variant, "there is no variant {}; give 0 to {}", variant, largest));
 }
 
+/// The entry or element of a table that is nearest to an address with an identifier.
+NearEntry nearestIn(const Catalogue::Geometry& geometry, U32 table, U32 identifier, U32 address) {
+  const U32 first = addressOf(geometry, 0, identifier);
+  if (address < first) return {{table, 0, identifier}, first - address, true, false};
+  const U32 step = geometry.addrStride == 0 ? 1 : geometry.addrStride;
+  const U32 last = indexCount(geometry) - 1;
+  const U32 index = std::min((address - first) / step, last);
+  return {{table, index, identifier},
+          address - addressOf(geometry, index, identifier),
+          false,
+          index == last};
+}
+
 /// The chips for which `has` holds, as a list.
 template <class Has>
 Text chipsThat(Has has) {
@@ -164,14 +177,47 @@ std::vector<EntryOfAddress> entriesAt(const Catalogue::Chip& chip, U8 variant, U
   return entries;
 }
 
-Fault tooLarge(const char* field, U32 width, std::string_view value) {
+std::optional<NearEntry> nearestEntry(const Catalogue::Chip& chip, U8 variant, U32 address,
+                                      const std::optional<Catalogue::Table>& only) {
+  std::optional<NearEntry> nearest;
+  for (U32 table = 0; table < Catalogue::tableCount(); ++table) {
+    const Catalogue::Table candidate = Catalogue::table(table);
+    if (!candidate.isOn(chip.number, variant)) continue;
+    if (only && only->name() != std::string_view(candidate.name())) continue;
+    const Catalogue::Geometry geometry = candidate.geometry(chip.number);
+    for (U32 identifier = 0; identifier < geometry.identifiers; ++identifier) {
+      const NearEntry near = nearestIn(geometry, table, identifier, address);
+      if (!nearest || near.distance < nearest->distance) nearest = near;
+    }
+  }
+  return nearest;
+}
+
+std::string NearEntry::shown() const {
+  const Catalogue::Table table = Catalogue::table(entry.table);
+  const char* const direction = isBefore ? "before" : isAtEnd ? "past" : "after";
+  const bool isArray = table.kind() == Catalogue::Kind::registerArray;
+  std::string text =
+      isArray ? formatText("{} {} element {} of {}", distance, direction, entry.index, table.name())
+              : formatText("{} {} {} {}", distance, direction, table.name(), entry.index);
+  if (entry.identifier != 0) text += formatText(", identifier {}", entry.identifier);
+  return text;
+}
+
+Text largestText(U32 width, bool asHex) {
   Text largest;
-  if (width > 64 || value.find_first_of("xX") != std::string_view::npos) {
+  if (asHex) {
     largest.append("0x{:x}", (1U << ((width - 1) % 4 + 1)) - 1);
     for (U32 digit = (width - 1) / 4; digit > 0; --digit) largest.append("f");
   } else {
     largest.append("{}", ~U64{0} >> (64 - width));
   }
+  return largest;
+}
+
+Fault tooLarge(const char* field, U32 width, std::string_view value) {
+  const bool asHex = width > 64 || value.find_first_of("xX") != std::string_view::npos;
+  const Text largest = largestText(width, asHex);
   return Fault(Code::value,
                "{}: value {} does not fit; the field has {} bit{}, its largest value is {}", field,
                quoted(value).view(), width, pluralEnd(width), largest.view())

@@ -43,8 +43,24 @@ Expected<EntryOfAddress> findEntry(const Catalogue::Chip& chip, U32 variant, U32
 /// All of them.
 std::vector<EntryOfAddress> entriesAt(const Catalogue::Chip& chip, U8 variant, U32 address);
 
+/// The largest number of a width, in hexadecimal or in decimal, which needs a width of up to 64.
+Text largestText(U32 width, bool asHex);
 /// A value, given as text, has more bits than its field.
 Fault tooLarge(const char* field, U32 width, std::string_view value);
+
+/// An entry that has nearly an address.
+struct NearEntry {
+  EntryOfAddress entry;
+  U32 distance;   ///< of the addresses; none has the address itself
+  bool isBefore;  ///< the address lies before the entry
+  bool isAtEnd;   ///< the entry is the last one
+
+  /// Such as "1 past VlanEntry 8191" or "2 after element 3 of VlanControl".
+  std::string shown() const;
+};
+/// The nearest entry of all tables of a chip and variant, or of one table; nothing if it has none.
+std::optional<NearEntry> nearestEntry(const Catalogue::Chip& chip, U8 variant, U32 address,
+                                      const std::optional<Catalogue::Table>& only = std::nullopt);
 
 std::vector<Catalogue::Chip> allChips();
 std::vector<Catalogue::Table> allTables();

@@ -32,6 +32,8 @@ std::size_t distance(std::string_view a, std::string_view b) {
 }  // namespace
 
 SimpleName::SimpleName(std::string_view name) {
+  // A name with a minus before it is another one: it leaves a field out.
+  if (!name.empty() && name[0] == '-') characters_[size_++] = '-';
   for (const char character : name) {
     const char simple = simpleCharacter(character);
     if (simple != '\0' && size_ < most) characters_[size_++] = simple;
@@ -84,7 +86,7 @@ std::optional<NumberedName> numberedName(std::string_view name) {
 }
 
 std::string simplified(std::string_view name) {
-  std::string simple;
+  std::string simple(!name.empty() && name[0] == '-' ? "-" : "");
   for (const char character : name) {
     const char one = simpleCharacter(character);
     if (one != '\0') simple += one;

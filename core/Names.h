@@ -4,7 +4,7 @@
 
 #include "core/Text.h"
 
-// Names as people type them: any case, with or without underscores and hyphens.
+// Names as people type them: any case, with or without underscores and hyphens, but for one at the start.
 
 namespace Velmar {
 namespace Core {

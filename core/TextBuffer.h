@@ -37,14 +37,14 @@ class TextBuffer {
     return *this;
   }
   TextBuffer& addDecimal(U64 number) {
-    need(longestNumber);
     // Most values have one digit.
-    if (number < 10) {
-      *at_++ = static_cast<char>('0' + number);
-      return *this;
-    }
-    at_ = std::to_chars(at_, at_ + longestNumber, number).ptr;
-    return *this;
+    if (number < 10) return add(static_cast<char>('0' + number));
+    return addLongDecimal(number);
+  }
+  /// Copies a text of at most 1,000 characters; the caller may change the copy until it adds more.
+  char* addCopy(std::string_view text) {
+    add(text);
+    return at_ - text.size();
   }
   /// In hexadecimal, with at least so many digits.
   TextBuffer& addHex(U64 number, int digits = 1) {
@@ -77,6 +77,11 @@ class TextBuffer {
   void need(size_t room) {
     if (static_cast<size_t>(text_ + size - at_) < room) flush();
   }
+  [[gnu::noinline]] TextBuffer& addLongDecimal(U64 number) {
+    need(longestNumber);
+    at_ = std::to_chars(at_, at_ + longestNumber, number).ptr;
+    return *this;
+  }
   TextBuffer& addLarge(std::string_view text) {
     flush();
     to_ += text;
@@ -85,7 +90,7 @@ class TextBuffer {
 
   std::string& to_;
   char* at_ = text_;
-  char text_[size] = {};
+  char text_[size];
 };
 
 }  // namespace Core

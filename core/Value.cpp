@@ -236,7 +236,7 @@ Expected<Value> parseValue(const FieldPlace& place, std::string_view text) {
     what.append("value {} has more than 64 bits", quoted(text).view());
     return failed(badValue(place, what, "give it in hexadecimal"));
   }
-  what.append(" is not a number");
+  what.append(" is not a number from 0 to {}", largestText(place.width, place.width > 64).view());
   return failed(badValue(place, what, "give it in decimal, or in hexadecimal after 0x"));
 }
 

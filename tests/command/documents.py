@@ -129,6 +129,30 @@ for command in commands + [["export"]]:
         wide = [line for line in shown.splitlines() if len(line) > columns and " " in line.strip()
                 and not re.search(r"0x[0-9a-f]{20}", line)]
         check(not wide, f"{command} at {columns} columns: {wide[:2]}")
+# Faults, with the place and the remedies that the text has.
+faults = [
+    (("decode", "vlan", "-c", "33", "-f", "json"), b"0: 00 11\n", {"line": 1}, []),
+    (("decode", "vlan", "-c", "33", "--format=jsonl"), b"00010203 04050607\n0001 0203\n", {}, None),
+    (("decode", "vlanmpls", "-c", "56980", "-fjson"), b"00000000: 0180 8281\n00000004: 8483 8685\n", {},
+     [{"option": "--hex-order", "choices": ["bytes", "words"]}]),
+    (("decode", "vlan", "-c", "33", "-f", "json", "--where", "stg=64"), b"", {"field": "stg"}, []),
+    (("encode", "vlan", "-c", "33", "-f", "json", "nope=1"), b"", {}, []),
+    (("addr", "nope", "-c", "33", "--index", "0", "-f", "json"), b"", {}, []),
+    (("chips", "extra", "-f", "json"), b"", {}, []),
+    (("decode", "vlan", "-c", "33", "-f", "json", "no \xff such"), b"", {}, []),
+]
+for arguments, data, place, remedies in faults:
+    code, text, errors = run(*arguments, data=data)
+    check(code == 2 and not text and errors.count("\n") == 1, f"{arguments}: {code} {errors}")
+    document = json.loads(errors)
+    used.add(document["format"])
+    for error in schemas[document["format"]].iter_errors(document):
+        check(False, f"{arguments}: {error.json_path}: {error.message[:200]}")
+    check(place.items() <= document["place"].items(), f"{arguments}: {document}, expected {place}")
+    check(remedies is None or document["remedies"] == remedies, f"{arguments}: {document}")
+    plain = [word for word in arguments if "json" not in word and word not in ("-f", "--format")]
+    check(run(*plain, data=data)[2] == f"velmar: {document['text']}\n", f"{plain}: {document}")
+
 # The command prints losses as text; tests/bindings validates this document.
 of_libraries = {"velmar-translation"}
 check(used == set(schemas) - of_libraries, f"schemas without a document: {set(schemas) - used}")
@@ -136,8 +160,9 @@ check(used == set(schemas) - of_libraries, f"schemas without a document: {set(sc
 for verb in re.findall(r"^  ([a-z]+) ", run("--help")[1].decode(), re.M):
     if on_terminal(60, "--help") is None:
         break
-    text = on_terminal(60, verb, "--help").split("\nExamples:")[0]
+    text = on_terminal(60, verb, "--help")
     check(max(map(len, text.splitlines())) <= 60, f"help of {verb} at 60 columns")
-    check(text.split() == on_terminal(80, verb, "--help").split("\nExamples:")[0].split(),
+    check([word for word in text.split() if word != "\\"] ==
+          [word for word in on_terminal(80, verb, "--help").split() if word != "\\"],
           f"help of {verb}: words are broken")
 finish()

@@ -35,7 +35,8 @@ def session(text, directory):
                 result.append(f"[exit {done.returncode}]")
             if done.returncode == 2:
                 # A refusal is one line, with a remedy.
-                check(re.fullmatch(rb"velmar: .*; .*\n|Usage[\s\S]*", done.stdout), f"{line}: {done.stdout!r}")
+                shape = rb'velmar: .*; .*\n|{"format":"velmar-fault".*; .*}\n|Usage[\s\S]*'
+                check(re.fullmatch(shape, done.stdout), f"{line}: {done.stdout!r}")
             copying = False
         elif line.startswith("# "):
             # A comment begins a new block, with an empty line before it.

@@ -13,9 +13,15 @@ namespace Tool {
 /// semicolon, what to do about it.
 class Failure : public std::runtime_error {
  public:
-  explicit Failure(const std::string& text) : std::runtime_error(text) {}
+  explicit Failure(const std::string& text);
   /// A fault of what is read, in the words of the command; `source` may be empty.
   explicit Failure(const Fault& fault, const std::string& source = "");
+
+  /// As programs read it, on one line.
+  const std::string& json() const { return json_; }
+
+ private:
+  std::string json_;
 };
 
 template <class... Arguments>

@@ -9,6 +9,27 @@ namespace {
 
 constexpr size_t headingWidth = 26;
 
+/// A command in lines that a shell takes as one: broken at blanks outside quotes, after a backslash.
+std::string exampleLines(std::string_view example, size_t lineWidth) {
+  std::string lines, line = " ";
+  while (!example.empty()) {
+    bool isQuoted = false;
+    size_t size = 0;
+    for (; size < example.size() && (isQuoted || example[size] != ' '); ++size) {
+      if (example[size] == '\'') isQuoted = !isQuoted;
+    }
+    const bool isLast = size == example.size();
+    if (line.size() + 1 + size + (isLast ? 0 : 2) > lineWidth && line.size() > 4) {
+      lines += line + " \\\n";
+      line = "   ";
+    }
+    line += ' ';
+    line += example.substr(0, size);
+    example.remove_prefix(size + (isLast ? 0 : 1));
+  }
+  return lines + line + '\n';
+}
+
 /// A text in lines; those after the first are indented.
 std::string paragraph(const std::string& text, size_t lineWidth, size_t indent = 0) {
   std::string lines;
@@ -71,6 +92,23 @@ const std::vector<Notation> notations = {
     {"CSV", "what decode prints with --format csv, also from a spreadsheet"},
 };
 
+const std::vector<Notation> conditions = {
+    {"FIELD=VALUE",
+     "or one of == != < <= > >=. = and != take a list with ranges, such as stg=2-5,9 or stg=5-: "
+     "any "
+     "of these numbers, or none of them. Names are as forgiving as elsewhere; index is a field "
+     "too"},
+    {"BITMAP~PORTS", "it has these ports, !~: none of them, = exactly these, != others"},
+    {"any, all",
+     "before the name of a family: 'any spTreePort=2'. Numbered fields such as spTreePort0-3 and "
+     "names with * without it: all of them"},
+    {"nonzero", "a bit is set"},
+    {"reserved", "a bit outside all fields is set"},
+    {"not, and, or",
+     "join conditions, in any case; not binds first, then and, then or. Parentheses group"},
+    {";", "is an and that binds last; each --where is a group of its own, and all must hold"},
+};
+
 const std::vector<Notation> outputs = {
     {"table",
      "for people. On a terminal it fits the width: columns that do not fit fall below their row. "
@@ -78,7 +116,8 @@ const std::vector<Notation> outputs = {
      "numbers of its fields. --expand shows them one by one"},
     {"json",
      "one document that begins with its format and version. Its schema is among the FILES. The "
-     "version changes only when a reader has to"},
+     "version changes only when a reader has to. A refusal is JSON too, on standard error, also "
+     "with jsonl: code, text, place and remedies"},
     {"jsonl", "a JSON document on each line, one for each row or entry"},
     {"csv",
      "a header, then a row for each entry; numbers up to 53 bits in decimal, wider ones in "
@@ -132,7 +171,10 @@ std::string overview(const VerbList& verbs, size_t lineWidth) {
   std::string text =
       "Usage: velmar VERB [ARGUMENT...]\n\n" + paragraph(purposeText, lineWidth) + "\nVerbs:\n";
   for (const VerbName& name : verbs) text += item(name.name, name.make().summary, 13, lineWidth);
-  text += "\n\"velmar VERB --help\" explains a verb; \"velmar --version\" prints the version.\n";
+  text += "\n" + paragraph(
+                     "\"velmar VERB --help\" explains a verb; \"velmar --version\" prints the "
+                     "version.",
+                     lineWidth);
   text += paragraph(
       "Names are forgiving: VlanEntry, vlan and VLAN are one table; BCM56990_B0, 56990 and 33 one "
       "chip; fidId, FID_ID and 90 one field.",
@@ -154,7 +196,7 @@ std::string helpOf(const Verb& verb, size_t lineWidth) {
   }
   text += item(headingOf(Options::help), meaningOf(Options::help), headingWidth, lineWidth);
   text += "\n" + paragraph(exitCodeText, lineWidth) + "\nExamples:\n";
-  for (const char* example : verb.examples) text += formatText("  {}\n", example);
+  for (const char* example : verb.examples) text += exampleLines(example, lineWidth);
   return text;
 }
 

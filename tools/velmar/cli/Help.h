@@ -27,7 +27,8 @@ struct Notation {
   const char* name;
   const char* meaning;
 };
-extern const std::vector<Notation> notations;    ///< in which dumps are read
+extern const std::vector<Notation> notations;  ///< in which dumps are read
+extern const std::vector<Notation> conditions;
 extern const std::vector<Notation> outputs;      ///< forms of the result
 extern const std::vector<Notation> environment;  ///< variables
 extern const std::vector<Notation> files;        ///< that are installed

@@ -116,11 +116,12 @@ inline constexpr OptionText
          Times::many},
     limit{"--limit", "N", "stop after N entries"},
     fields{"--fields", "NAMES",
-           "only these fields, separated by commas; a name may have * and ?, or numbers such as "
-           "spTreePort0-3", Times::many, Proposal::fields},
+           "only these fields, separated by commas; a name may be that of a family, have * and ?, or "
+           "numbers such as spTreePort0-3; with a minus before it, it is left out; a list that "
+           "begins with a minus starts from all fields", Times::many, Proposal::fields},
     where{"--where", "CONDITION",
-          "only entries where it holds: FIELD=VALUE or != < <= > >=, with = and != also several "
-          "values such as stg=2,3; BITMAP~PORTS: it has these ports, !~: none of them; may be "
+          "only entries for which it holds, such as 'stg=2-5,9 and not valid=0', 'portBitmap~20-22' "
+          "or 'any spTreePort=2'; velmar(1) has the whole language under CONDITIONS; may be "
           "repeated: all must hold", Times::many, Proposal::assignments},
     tableOption{"--table", "TABLE", "this table only", Times::once, Proposal::tables},
     from{"--from", "CHIP", "the chip of the dump", Times::once, Proposal::chips, true},

@@ -197,6 +197,19 @@ bool asksForHelp(const std::vector<std::string>& words) {
                      [](const std::string& word) { return word == "-h" || word == "--help"; });
 }
 
+bool asksForJson(const std::vector<std::string>& words) {
+  const auto isJson = [](std::string_view value) { return value == "json" || value == "jsonl"; };
+  for (size_t i = 0; i < words.size() && words[i] != "--"; ++i) {
+    const std::string_view word = words[i];
+    for (const std::string_view name : {"--format=", "-f"}) {
+      if (word.substr(0, name.size()) == name && isJson(word.substr(name.size()))) return true;
+    }
+    const bool isName = word == "--format" || word == "-f";
+    if (isName && i + 1 < words.size() && isJson(words[i + 1])) return true;
+  }
+  return false;
+}
+
 void parse(const Verb& verb, const std::vector<std::string>& words) {
   const Typed typed = Parser(verb, words).parse();
   checkEffects(verb, typed);

@@ -26,6 +26,9 @@ struct Typed {
 /// Whether the words ask for help: whoever does gets it, whatever else is wrong.
 bool asksForHelp(const std::vector<std::string>& words);
 
+/// Whether the words ask for JSON, also where they cannot be parsed.
+bool asksForJson(const std::vector<std::string>& words);
+
 /// Writes what the words say into the request of the verb. Fails for words that the verb does not take,
 /// where something required is missing, and for an option that changes nothing.
 void parse(const Verb& verb, const std::vector<std::string>& words);

@@ -74,17 +74,49 @@ std::set<std::string> findAddress(Listing& listing, const AddrRequest& request,
   return names;
 }
 
+/// An address, also one that lacks 0x.
+U32 addressIn(const std::string& typed) {
+  constexpr size_t longest = 8;
+  if (!parseNumber(typed) && hexDigitsOf(typed) == typed.size() && typed.size() <= longest) {
+    fail("--find {}: hexadecimal without 0x; did you mean 0x{}?", inQuotes(typed), typed);
+  }
+  return static_cast<U32>(numberOf("--find", typed, 0xffffffff));
+}
+
+/// The nearest entry of the tables that are searched, such as "; it is 1 past VlanEntry 8191".
+std::string nearestText(const AddrRequest& request, const std::optional<Catalogue::Table>& table,
+                        U32 address) {
+  std::optional<NearEntry> nearest;
+  std::string chipName;
+  for (const Catalogue::Chip& chip : meantChips(request.chip)) {
+    const auto near = nearestEntry(chip, request.variant, address, table);
+    if (!near || (nearest && nearest->distance <= near->distance)) continue;
+    nearest = near;
+    chipName = chip.name;
+  }
+  if (!nearest) return "";
+  if (request.chip) return "; it is " + nearest->shown();
+  return formatText("; on {} it is {}", chipName, nearest->shown());
+}
+
 /// Says that nothing has the address or, if the table is named, that others have it.
-void noteNotFound(const AddrRequest& request, const std::string& typed, U32 address) {
+void noteNotFound(const AddrRequest& request, const std::optional<Catalogue::Table>& table,
+                  const std::string& typed, U32 address) {
   Listing ignored = newListing();
   const std::set<std::string> others = findAddress(ignored, request, std::nullopt, address);
-  const std::string text =
-      others.empty()
-          ? formatText("no table of {} has an entry at {}", request.chip ? "the chip" : "a chip",
-                       typed)
-          : formatText("{} has no entry at {}, but {} has; leave out the table to see it",
-                       request.namedTable().name(), typed,
+  std::string text = table ? formatText("{} has no entry at {}", table->name(), typed)
+                           : formatText("no table of {} has an entry at {}",
+                                        request.chip ? "the chip" : "a chip", typed);
+  const std::optional<U64> asHex = parseNumber("0x" + typed);
+  if (!others.empty()) {
+    text += formatText(", but {} has; leave out the table to see it",
                        join({others.begin(), others.end()}, " and "));
+  } else if (asHex && *asHex <= 0xffffffff &&
+             !findAddress(ignored, request, table, static_cast<U32>(*asHex)).empty()) {
+    text += formatText("; did you mean 0x{}?", typed);
+  } else {
+    text += nearestText(request, table, address);
+  }
   std::fprintf(stderr, "velmar: %s\n", text.c_str());
 }
 
@@ -105,11 +137,11 @@ int run(const AddrRequest& request) {
   Listing listing = finds ? newListing() : addressesOfEntries(request);
   std::vector<std::pair<std::string, U32>> missing;
   for (const std::string& typed : request.find) {
-    const U32 address = static_cast<U32>(numberOf("--find", typed, 0xffffffff));
+    const U32 address = addressIn(typed);
     if (findAddress(listing, request, table, address).empty()) missing.emplace_back(typed, address);
   }
   printIfAny(request.output, listing, frameOf("addresses", "addresses"));
-  for (const auto& [typed, address] : missing) noteNotFound(request, typed, address);
+  for (const auto& [typed, address] : missing) noteNotFound(request, table, typed, address);
   return missing.empty() ? exitSuccess : exitFinding;
 }
 

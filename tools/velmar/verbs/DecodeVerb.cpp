@@ -1,6 +1,5 @@
 #include <limits>
 
-#include "core/Condition.h"
 #include "core/Documents.h"
 #include "output/Entries.h"
 #include "output/Listings.h"
@@ -15,20 +14,18 @@ struct DecodeRequest {
   TableRequest table;
   InputRequest input;
   OutputRequest output;
-  IndexRequest index;
-  Texts fields, where;
+  SelectionRequest entries;
+  Texts fields;
   std::optional<U64> limit;
-  bool nonzero = false, plain = false, compact = false, expand = false, check = false;
+  bool plain = false, compact = false, expand = false, check = false;
 };
 
 /// The entries that are asked for, as positions in the dump.
 class Selected {
  public:
   Selected(const DecodeRequest& request, const Layout& layout)
-      : selection_(taken(Selection::of(layout, request.where), "--where")), limit_(request.limit) {
-    if (!request.check) request.index.check(layout, "--index");
-    selection_.indexes = request.index.set;
-    selection_.nonzero = request.nonzero;
+      : selection_(request.entries.selection(layout)), limit_(request.limit) {
+    if (!request.check) request.entries.index.check(layout, "--index");
   }
 
   std::vector<size_t> in(const Dump& dump) {
@@ -182,10 +179,10 @@ Verb decodeVerb() {
            {Positionals::dump, intoOnlyFile(to.input.file)}},
           {{Options::chip, into(to.table.chip)},
            {Options::variant, intoVariant(to.table.variant)},
-           {Options::index, into(to.index)},
+           {Options::index, into(to.entries.index)},
            {Options::fields, into(to.fields)},
-           {Options::where, into(to.where)},
-           {Options::nonzero, into(to.nonzero)},
+           {Options::where, into(to.entries.where)},
+           {Options::nonzero, into(to.entries.nonzero)},
            {Options::limit, takeLimit},
            {Options::plain, into(to.plain)},
            {Options::compact, into(to.compact)},
@@ -200,7 +197,7 @@ Verb decodeVerb() {
            {Options::listFormat, into(to.output.format)},
            {Options::output, into(to.output.file)},
            {Options::color, into(to.output.color)}},
-          {"velmar decode VlanEntry --chip BCM56990_B0 samples/vlan-bcm56990.bin --where stg=3,4",
+          {"velmar decode VlanEntry --chip BCM56990_B0 samples/vlan-bcm56990.bin --where 'stg=3,4'",
            "velmar encode VlanMpls --chip 56980 --index 7 mplsEnable=1 --whole -f raw | velmar "
            "decode VlanMpls --chip 56980 --nonzero --format jsonl -"},
           [request] { return run(*request); },

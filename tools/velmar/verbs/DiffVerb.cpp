@@ -15,7 +15,7 @@ struct DiffRequest {
   TableRequest table;
   InputRequest old, now;
   OutputRequest output;
-  IndexRequest index;
+  SelectionRequest entries;
   Texts fields;
   bool common = false, stat = false, expand = false, quiet = false;
 };
@@ -124,7 +124,13 @@ class Report {
 };
 
 void checkCompared(const DiffRequest& request, const Difference& difference) {
-  if (difference.compared + difference.missing == 0) {
+  const bool isNothing = difference.compared + difference.missing == 0;
+  if (isNothing && (request.entries.nonzero || !request.entries.where.empty())) {
+    fail(
+        "nothing was compared: no entry of the dumps is selected; check --index, --where and "
+        "--nonzero");
+  }
+  if (isNothing) {
     fail("nothing was compared: {}; check {}",
          request.common ? "the dumps have no entry in common"
                         : "no entry has an index in " + difference.unmet,
@@ -159,11 +165,11 @@ void print(const DiffRequest& request, const Layout& layout, const Difference& d
 
 int run(const DiffRequest& request) {
   const Layout layout = request.table.layout();
-  request.index.check(layout, "--index");
+  request.entries.index.check(layout, "--index");
   DifferenceOptions options;
   options.fields = fieldsOf(layout, request.fields, request.output.isForPeople());
-  options.reservedBits = request.fields.empty();
-  options.indexes = request.index.set;
+  options.reservedBits = startFromAll(request.fields);
+  options.selection = request.entries.selection(layout);
   options.common = request.common;
   options.stopsAtFirst = request.quiet;
   std::optional<Output> output;
@@ -194,34 +200,38 @@ Verb diffVerb() {
     to.old.file = files[0];
     to.now.file = files[1];
   };
-  return {"diff",
-          "Prints what changed between two dumps of a table, entry by entry and field by field.",
-          "The dumps may be in different notations; entries are matched by their indexes. Bits "
-          "outside all fields count too, unless --fields is given. Exit code 1 says that the dumps "
-          "differ.",
-          {{Positionals::table, into(to.table.table)}, {Positionals::oldAndNew, takeFiles}},
-          {{Options::chip, into(to.table.chip)},
-           {Options::variant, intoVariant(to.table.variant)},
-           {Options::index, into(to.index)},
-           {Options::fields, into(to.fields)},
-           {Options::common, into(to.common)},
-           {Options::stat, into(to.stat)},
-           {Options::expand, into(to.expand)},
-           {Options::quiet, into(to.quiet)},
-           Options::input,
-           Options::hexOrder,
-           Options::byteOrder,
-           Options::stride,
-           Options::first,
-           Options::origin,
-           {Options::listFormat, into(to.output.format)},
-           {Options::output, into(to.output.file)},
-           {Options::color, into(to.output.color)}},
-          {"velmar diff VlanMpls --chip 56980 <(echo 00000000) <(echo 00000001)",
-           "velmar diff VlanStg --chip 56980 samples/vlan-stg-bcm56980.bin <(head -c 96 "
-           "samples/vlan-stg-bcm56980.bin) --format jsonl"},
-          [request] { return run(*request); },
-          {&to.old.options, &to.now.options}};
+  return {
+      "diff",
+      "Prints what changed between two dumps of a table, entry by entry and field by field.",
+      "The dumps may be in different notations; entries are matched by their indexes. Bits "
+      "outside all fields count too, unless --fields names fields. --where and --nonzero select "
+      "entries for which they hold in one of the dumps. Exit code 1 says that the dumps "
+      "differ.",
+      {{Positionals::table, into(to.table.table)}, {Positionals::oldAndNew, takeFiles}},
+      {{Options::chip, into(to.table.chip)},
+       {Options::variant, intoVariant(to.table.variant)},
+       {Options::index, into(to.entries.index)},
+       {Options::fields, into(to.fields)},
+       {Options::where, into(to.entries.where)},
+       {Options::nonzero, into(to.entries.nonzero)},
+       {Options::common, into(to.common)},
+       {Options::stat, into(to.stat)},
+       {Options::expand, into(to.expand)},
+       {Options::quiet, into(to.quiet)},
+       Options::input,
+       Options::hexOrder,
+       Options::byteOrder,
+       Options::stride,
+       Options::first,
+       Options::origin,
+       {Options::listFormat, into(to.output.format)},
+       {Options::output, into(to.output.file)},
+       {Options::color, into(to.output.color)}},
+      {"velmar diff VlanMpls --chip 56980 <(echo 00000000) <(echo 00000001)",
+       "velmar diff VlanStg --chip 56980 samples/vlan-stg-bcm56980.bin <(head -c 96 "
+       "samples/vlan-stg-bcm56980.bin) --format jsonl"},
+      [request] { return run(*request); },
+      {&to.old.options, &to.now.options}};
 }
 
 }  // namespace Tool

@@ -15,6 +15,13 @@ void IndexRequest::check(const Layout& layout, const char* option) const {
        numberLike(typed, layout.indexCount() - 1));
 }
 
+Selection SelectionRequest::selection(const Layout& layout) const {
+  Selection selection = taken(Selection::of(layout, where), "--where");
+  selection.indexes = index.set;
+  selection.nonzero = nonzero;
+  return selection;
+}
+
 Taker into(std::string& to) {
   return [&to](const Texts& texts) { to = texts.front(); };
 }
@@ -68,17 +75,27 @@ std::vector<FieldPlace> inOrderOfBits(std::vector<FieldPlace> places) {
   return places;
 }
 
-std::vector<FieldPlace> fieldsOf(const Layout& layout, const Texts& names, bool isForPeople) {
-  if (names.empty()) return isForPeople ? inOrderOfBits(layout.fields()) : layout.fields();
+std::vector<FieldPlace> fieldsOf(const Layout& layout, const Texts& lists, bool isForPeople) {
   std::vector<FieldPlace> places;
-  for (const std::string& name : split(join(names, ","), ',')) {
-    for (const FieldPlace& place : taken(findFields(layout, name))) {
-      const auto isSame = [&place](const FieldPlace& other) {
-        return other.field.id == place.field.id;
-      };
-      if (std::none_of(places.begin(), places.end(), isSame)) places.push_back(place);
+  if (startFromAll(lists)) places = isForPeople ? inOrderOfBits(layout.fields()) : layout.fields();
+  if (lists.empty()) return places;
+  for (const std::string& item : split(join(lists, ","), ',')) {
+    const bool leavesOut = !item.empty() && item[0] == '-';
+    const size_t before = places.size();
+    for (const FieldPlace& place : taken(findMembers(layout, item.substr(leavesOut ? 1 : 0)))) {
+      const auto isSame = [&place](const FieldPlace& other) { return other.index == place.index; };
+      const auto found = std::find_if(places.begin(), places.end(), isSame);
+      if (!leavesOut && found == places.end()) places.push_back(place);
+      if (leavesOut && found != places.end()) places.erase(found);
+    }
+    if (leavesOut && places.size() == before) {
+      fail(
+          "--fields: {} leaves nothing out, because the names before it do not choose it; remove "
+          "it",
+          item);
     }
   }
+  if (places.empty()) fail("--fields leaves out all fields; name fields to show");
   return places;
 }
 

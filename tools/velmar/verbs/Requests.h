@@ -2,8 +2,8 @@
 
 #include "cli/Failure.h"
 #include "cli/Verb.h"
+#include "core/Condition.h"
 #include "core/Families.h"
-#include "core/IndexSet.h"
 #include "output/Output.h"
 
 // Parts of the requests of the verbs, and what writes the words of the command line into them.
@@ -43,6 +43,15 @@ struct IndexRequest {
   void check(const Layout& layout, const char* option) const;
 };
 
+/// Which entries of a dump are meant.
+struct SelectionRequest {
+  IndexRequest index;
+  Texts where;
+  bool nonzero = false;
+
+  Selection selection(const Layout& layout) const;
+};
+
 Taker into(std::string& to);
 Taker into(Texts& to);
 Taker into(bool& to);
@@ -64,8 +73,11 @@ inline bool isMeant(const std::optional<Catalogue::Table>& named, const Catalogu
 }
 
 std::vector<FieldPlace> inOrderOfBits(std::vector<FieldPlace> places);
-/// The fields of the given names; for no names all of them, for people in the order of their bits.
-std::vector<FieldPlace> fieldsOf(const Layout& layout, const Texts& names, bool isForPeople);
+/// The fields that lists of names choose, in their order. Lists that begin with a minus, or none, start
+/// from all fields, for people in the order of their bits.
+std::vector<FieldPlace> fieldsOf(const Layout& layout, const Texts& lists, bool isForPeople);
+/// Whether lists of names start from all fields, so that the reserved bits belong to them.
+inline bool startFromAll(const Texts& lists) { return lists.empty() || lists.front()[0] == '-'; }
 
 /// Writes a list as the whole result.
 void print(const OutputRequest& request, const Listing& listing, const JsonFrame& frame);

@@ -11,6 +11,7 @@ namespace {
 struct TranslateRequest {
   TableRequest from;
   std::optional<Catalogue::Chip> to;
+  IndexRequest index;
   InputRequest input;
   OutputRequest output;
   bool lossy = false;
@@ -27,12 +28,24 @@ void print(const std::vector<Loss>& losses) {
   }
 }
 
+Dump selected(const IndexSet& indexes, const DumpInput& input) {
+  if (indexes.isAll()) return input.dump;
+  Dump dump(input.dump.entryBytes());
+  for (size_t i = 0; i < input.dump.count(); ++i) {
+    if (indexes.has(input.dump.index(i))) dump.add(input.dump.index(i), input.dump.bytes(i));
+  }
+  const std::string unmet = indexes.unmet();
+  if (unmet.empty()) return dump;
+  fail("{}: no entry has an index in {}; check --index", input.input.name(), unmet);
+}
+
 int run(const TranslateRequest& request) {
   const Layout from = request.from.layout();
   const Layout to = taken(Layout::of(*request.from.table, *request.to, request.from.variant));
+  request.index.check(from, "--index");
   Output output(request.output.file, "never");
   const DumpInput input(request.input.file, from, request.input.options);
-  const Translation translation = translate(from, to, input.dump);
+  const Translation translation = translate(from, to, selected(request.index.set, input));
   print(translation.losses);
   const bool isLossless = translation.losses.empty();
   if (!isLossless && !request.lossy) {
@@ -65,6 +78,7 @@ Verb translateVerb() {
       {{Options::from, into(to.from.chip)},
        {Options::to, into(to.to)},
        {Options::variant, intoVariant(to.from.variant)},
+       {Options::index, into(to.index)},
        {Options::lossy, into(to.lossy)},
        Options::input,
        Options::hexOrder,
