@@ -40,6 +40,7 @@ std::string_view textOf(const JsonValue& text) {
 std::string shown(const JsonValue& value) {
   if (value.IsString()) return std::string(textOf(value));
   if (value.IsUint64()) return std::to_string(value.GetUint64());
+  if (value.IsInt64()) return std::to_string(value.GetInt64());
   if (value.IsBool()) return value.GetBool() ? "true" : "false";
   if (value.IsNull()) return "null";
   return value.IsObject() ? "an object" : value.IsArray() ? "a list" : "another number";
@@ -164,7 +165,7 @@ class JsonReader {
       JsonDocument document;
       document.ParseStream<parseFlags>(stream);
       if (document.HasParseError()) {
-        return failed(faultAt(document.GetErrorOffset(), expectedAt(document.GetParseError())));
+        return failed(syntaxFault(document));
       }
       hasEntries = true;
       const Done done =
@@ -178,6 +179,16 @@ class JsonReader {
   }
 
  private:
+  Fault syntaxFault(const JsonDocument& document) const {
+    const size_t at = document.GetErrorOffset();
+    rapidjson::ParseErrorCode code = document.GetParseError();
+    const bool isEscape = at < text_.size() && text_[at] == '\\';
+    // A text goes on in the next line.
+    if (code == rapidjson::kParseErrorStringEscapeInvalid && !isEscape) {
+      code = rapidjson::kParseErrorStringMissQuotationMark;
+    }
+    return faultAt(at, expectedAt(code));
+  }
   Fault faultAt(size_t at, const char* what) const {
     const size_t column = at - (text_.substr(0, at).rfind('\n') + 1) + 1;
     const char* const advice = at == text_.size() ? "the JSON ends too early" : "check the JSON";
