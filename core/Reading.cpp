@@ -21,18 +21,14 @@ bool isTextByte(char character) {
   return (character >= ' ' && character <= '~') || isBlank(character) || character == '\n';
 }
 
-// Notations that are known, and refused with what makes another of them.
+using namespace std::literals;
 
-const char* programOfCompressed(std::string_view input) {
-  using namespace std::literals;
-  if (input.substr(0, 2) == "\x1f\x8b"sv) return "zcat";
-  if (input.substr(0, 6) ==
-      "\xfd"
-      "7zXZ\0"sv) {
-    return "xzcat";
-  }
-  return input.substr(0, 4) == "\x28\xb5\x2f\xfd"sv ? "zstdcat" : nullptr;
-}
+/// Notations that are known but refused: how they begin, and what unpacks them.
+constexpr struct {
+  std::string_view start;
+  const char* program;
+} packed[] = {
+    {"\x1f\x8b"sv, "zcat"}, {"\xfd\x37zXZ\0"sv, "xzcat"}, {"\x28\xb5\x2f\xfd"sv, "zstdcat"}};
 
 /// With or without a mark: every second byte is zero, and the others are text.
 bool isUtf16(std::string_view bytes) {
@@ -50,17 +46,15 @@ bool isUtf16(std::string_view bytes) {
 }
 
 std::optional<Fault> refusal(std::string_view input, std::string_view head) {
-  if (const char* program = programOfCompressed(input)) {
-    return Fault(Code::input,
-                 "compressed data; unpack it: {} FILE | velmar ..., or give $1 if it is a binary "
-                 "dump",
-                 program)
-        .offer("input", {"raw"});
+  const bool isText = isUtf16(head);
+  const char* program = isText ? "iconv -f UTF-16 -t UTF-8" : nullptr;
+  for (const auto& row : packed) {
+    if (input.substr(0, row.start.size()) == row.start) program = row.program;
   }
-  if (!isUtf16(head)) return std::nullopt;
+  if (program == nullptr) return std::nullopt;
   return Fault(Code::input,
-               "text in UTF-16; convert it with iconv -f UTF-16 -t UTF-8, or give $1 if it is a "
-               "binary dump")
+               "{}; convert it: {} FILE | velmar ..., or give $1 if it is a binary dump",
+               isText ? "text in UTF-16" : "compressed data", program)
       .offer("input", {"raw"});
 }
 
@@ -68,9 +62,8 @@ std::optional<Fault> refusal(std::string_view input, std::string_view head) {
 /// lines.
 bool isRaw(std::string_view head) {
   if (head.empty()) return true;
-  std::string clean;
-  std::string_view text = head;
-  if (needsCleaning(head)) text = clean = cleaned(head);
+  const std::optional<std::string> clean = cleaned(head);
+  const std::string_view text = clean ? *clean : head;
   const auto texts = std::count_if(text.begin(), text.end(), isTextByte);
   if (8 * static_cast<size_t>(texts) < 7 * text.size()) return true;
   return head.find('\0') != head.npos && head.find('\n') == head.npos;
@@ -96,61 +89,70 @@ Notation notationOf(std::string_view head) {
 Done checkEffects(Notation notation, const ReadOptions& options) {
   const bool isDocument = notation == Notation::json || notation == Notation::csv;
   const bool isText = !isDocument && notation != Notation::raw;
-  const auto isUseless = [&](const char* option, bool isGiven, bool isShared, bool isUsed) {
-    return isGiven && !isShared && !isUsed
-               ? std::optional<Fault>(Fault(Code::option,
-                                            "$1 has no effect on a {} dump; leave out $1",
-                                            nameOf(notation))
-                                          .offer(option))
-               : std::nullopt;
+  const struct {
+    const char* option;
+    bool isGiven, isShared, isUsed;
+  } uses[] = {
+      {"hex-order", options.hexOrder != HexOrder::byGroups, options.shared.hexOrder, isText},
+      {"origin", options.origin.has_value(), options.shared.origin, isText},
+      {"stride", options.stride != 0, options.shared.stride, !isDocument},
+      {"byte-order", options.bigEndian, options.shared.byteOrder, !isDocument},
   };
-  const bool isOrdered = options.hexOrder != HexOrder::byGroups;
-  for (const auto& fault :
-       {isUseless("hex-order", isOrdered, options.shared.hexOrder, isText),
-        isUseless("origin", options.origin.has_value(), options.shared.origin, isText),
-        isUseless("stride", options.stride != 0, options.shared.stride, !isDocument),
-        isUseless("byte-order", options.bigEndian, options.shared.byteOrder, !isDocument)}) {
-    if (fault) return failed(*fault);
+  for (const auto& use : uses) {
+    if (!use.isGiven || use.isShared || use.isUsed) continue;
+    return failed(
+        Fault(Code::option, "$1 has no effect on a {} dump; leave out $1", nameOf(notation))
+            .offer(use.option));
   }
   return {};
 }
 
 Done checkStride(const Layout& layout, const ReadOptions& options) {
-  if (options.stride == 0 ||
-      (options.stride >= layout.entryBytes() && options.stride <= longestStride)) {
+  const U32 least = layout.entryBytes();
+  if (options.stride == 0 || (options.stride >= least && options.stride <= longestStride))
     return {};
+  return failed(Fault(Code::option,
+                      "a stride of {} does not fit an entry of {}; give at least {} and at most {}",
+                      options.stride, layout.shown(), least, longestStride));
+}
+
+Done checkLength(std::string_view input) {
+  if (input.size() <= longestInput) return {};
+  return failed(Fault(Code::input, "{} bytes are more than {} MiB; give the entries of one table",
+                      input.size(), longestInput >> 20));
+}
+
+/// Entries do not fill the bytes of the dump, or there are more than the table has.
+std::optional<Fault> checkEntries(const Layout& layout, const ReadOptions& options, U64 first,
+                                  size_t size) {
+  const size_t stride = strideOf(layout, options);
+  const U64 end = first + size / stride;
+  if (size % stride != 0) {
+    return Fault(Code::size,
+                 "{} bytes are not a multiple of {}; check table and chip, which \"velmar "
+                 "identify\" lists, or give $1",
+                 size, entrySizeText(stride, layout))
+        .offer("stride");
   }
-  if (options.stride > longestStride) {
-    return failed(Fault(Code::option, "a stride of {} is too long; give at most {}", options.stride,
-                        longestStride));
-  }
-  return failed(
-      Fault(Code::option,
-            "a stride of {} is shorter than an entry of {}, which has {} bytes; give at least {}",
-            options.stride, layout.shown(), layout.entryBytes(), layout.entryBytes()));
+  if (end > layout.indexCount() && !options.beyondEnd) return beyondEnd(layout, end - 1, end);
+  if (end > U64{1} << 32) return beyondEnd(layout, end - 1);
+  return std::nullopt;
 }
 
 Expected<Dump> readRaw(const Layout& layout, const ReadOptions& options, std::string_view input) {
-  const size_t stride = options.stride != 0 ? options.stride : layout.entryBytes();
-  const U64 first = options.first.value_or(0);
   if (input.empty()) {
-    return failed(Fault(Code::input, "empty; a dump has at least one entry of {} bytes", stride));
-  }
-  if (input.size() % stride != 0) return failed(badSize(input.size(), stride, layout));
-  const U64 count = input.size() / stride;
-  if (first + count > layout.indexCount() && !options.beyondEnd) {
-    return failed(beyondEnd(layout, first + count - 1, first + count));
-  }
-  if (first + count - 1 > std::numeric_limits<U32>::max()) {
-    return failed(beyondEnd(layout, first + count - 1));
-  }
-  const U8* const bytes = reinterpret_cast<const U8*>(input.data());
-  if (stride == layout.entryBytes()) {
-    return Dump(layout.entryBytes(), static_cast<U32>(first), bytes, count);
+    return failed(Fault(Code::input, "empty; a dump has at least one entry of {} bytes",
+                        strideOf(layout, options)));
   }
   Dump dump(layout.entryBytes());
-  for (U64 i = 0; i < count; ++i) dump.add(static_cast<U32>(first + i), bytes + i * stride);
-  return dump;
+  const U8* const bytes = reinterpret_cast<const U8*>(input.data());
+  const U32 first = options.first.value_or(0);
+  const bool isDense = strideOf(layout, options) == layout.entryBytes();
+  const auto fault = isDense ? checkEntries(layout, options, first, input.size())
+                             : addEntries(dump, layout, options, first, bytes, input.size());
+  if (fault) return failed(*fault);
+  if (!isDense) return dump;
+  return Dump(layout.entryBytes(), first, bytes, input.size() / layout.entryBytes());
 }
 
 Expected<Dump> readDocument(const Layout& layout, const ReadOptions& options, Notation notation,
@@ -175,20 +177,6 @@ Dump swapped(const Dump& dump) {
   return result;
 }
 
-/// The chips on which the table has entries of this size and is long enough; with a `count`, those
-/// with as many entries.
-std::vector<std::string> fittingChips(const Layout& layout, U64 index, U64 count) {
-  std::vector<std::string> names;
-  for (const Catalogue::Chip& chip : allChips()) {
-    if (!layout.table().isOn(chip.number, layout.variant())) continue;
-    const Catalogue::Geometry other = layout.table().geometry(chip.number);
-    const U64 entries = indexCount(other);
-    const bool fits = count != 0 ? entries == count : entries > index;
-    if (fits && 4U * other.words == layout.entryBytes()) names.push_back(chip.name);
-  }
-  return names;
-}
-
 }  // namespace
 
 std::optional<HexOrder> hexOrderNamed(std::string_view name) {
@@ -198,21 +186,35 @@ std::optional<HexOrder> hexOrderNamed(std::string_view name) {
   return std::nullopt;
 }
 
+size_t strideOf(const Layout& layout, const ReadOptions& options) {
+  return options.stride != 0 ? options.stride : layout.entryBytes();
+}
+
 std::string entrySizeText(size_t stride, const Layout& layout) {
   if (stride != layout.entryBytes()) return formatText("{}, the stride", stride);
   return formatText("{}, an entry of {}", stride, layout.shown());
 }
 
-Fault badSize(U64 bytes, size_t stride, const Layout& layout) {
-  return Fault(Code::size,
-               "{} bytes are not a multiple of {}; check table and chip, which \"velmar identify\" "
-               "lists, or give $1",
-               bytes, entrySizeText(stride, layout))
-      .offer("stride");
+std::vector<std::string> chipsWith(const Layout& layout, size_t bytes, U64 index, U64 count) {
+  std::vector<std::string> names;
+  for (const Catalogue::Chip& chip : allChips()) {
+    if (!layout.table().isOn(chip.number, layout.variant())) continue;
+    const Catalogue::Geometry other = layout.table().geometry(chip.number);
+    const U64 entries = indexCount(other);
+    const bool fits = count != 0 ? entries == count : entries > index;
+    if (fits && 4U * other.words == bytes) names.push_back(chip.name);
+  }
+  return names;
+}
+
+std::optional<Fault> checkFirst(const ReadOptions& options) {
+  if (!options.first || options.shared.first) return std::nullopt;
+  return Fault(Code::option, "$1 has no effect if the entries have their indexes; leave out $1")
+      .offer("first");
 }
 
 Fault beyondEnd(const Layout& layout, U64 index, U64 count) {
-  const std::vector<std::string> chips = fittingChips(layout, index, count);
+  const std::vector<std::string> chips = chipsWith(layout, layout.entryBytes(), index, count);
   const char* const unit = layout.isRegisterArray() ? "elements" : "entries";
   Fault fault =
       count != 0 ? Fault(Code::index, "{} entries are more than those of {}, which has {} {}",
@@ -244,12 +246,17 @@ std::optional<Fault> addEntry(Dump& dump, const Layout& layout, const ReadOption
   return std::nullopt;
 }
 
+std::optional<Fault> addEntries(Dump& dump, const Layout& layout, const ReadOptions& options,
+                                U64 first, const U8* bytes, size_t size) {
+  const size_t stride = strideOf(layout, options);
+  if (auto fault = checkEntries(layout, options, first, size)) return fault;
+  for (size_t at = 0; at < size; at += stride) dump.add(static_cast<U32>(first++), bytes + at);
+  return std::nullopt;
+}
+
 Expected<Dump> readDump(const Layout& layout, const ReadOptions& options, std::string_view input) {
   if (const Done done = checkStride(layout, options); !done) return failed(done);
-  if (input.size() > longestInput) {
-    return failed(Fault(Code::input, "{} bytes are more than {} MiB; give the dump of one table",
-                        input.size(), longestInput >> 20));
-  }
+  if (const Done done = checkLength(input); !done) return failed(done);
   Notation notation = options.notation;
   const std::string_view head = input.substr(0, headBytes);
   if (notation == Notation::automatic) {
@@ -275,10 +282,7 @@ Expected<Dump> readDump(const Layout& layout, const ReadOptions& options, std::s
 
 Expected<DocumentValues> readValues(const Layout& layout, std::string_view input,
                                     const Dump* base) {
-  if (input.size() > longestInput) {
-    return failed(Fault(Code::input, "{} bytes are more than {} MiB; give the entries of one table",
-                        input.size(), longestInput >> 20));
-  }
+  if (const Done done = checkLength(input); !done) return failed(done);
   const ReadOptions options;
   EntryReader reader(layout, {false, base, options});
   const Done done = isCsv(input) ? readCsv(input, reader) : readJson(input, reader);

@@ -8,33 +8,25 @@ namespace Velmar {
 namespace Core {
 namespace {
 
-enum Kind : U8 { other, separator, digit };
+/// What a character is: the value of a hexadecimal digit, or one of these.
+enum Kind : U8 { blank = 16, separator, other };
 
 constexpr std::array<U8, 256> kinds = [] {
   std::array<U8, 256> all{};
-  for (const char character :
-       {' ', '\t', '\r', ',', ';', ':', '{', '}', '[', ']', '(', ')', '"', '\''}) {
+  for (U8& kind : all) kind = other;
+  for (const char character : std::string_view(",;:{}[]()\"'")) {
     all[static_cast<U8>(character)] = separator;
   }
-  for (const char character : std::string_view("0123456789abcdefABCDEF")) {
-    all[static_cast<U8>(character)] = digit;
+  for (const char character : std::string_view(" \t\r")) all[static_cast<U8>(character)] = blank;
+  for (const char digit : std::string_view("0123456789abcdefABCDEF")) {
+    all[static_cast<U8>(digit)] = static_cast<U8>(hexDigit(digit));
   }
   return all;
 }();
 
-Kind kindOf(char character) { return static_cast<Kind>(kinds[static_cast<U8>(character)]); }
-
-constexpr std::array<U8, 256> digitValues = [] {
-  std::array<U8, 256> all{};
-  for (const char character : std::string_view("0123456789abcdefABCDEF")) {
-    all[static_cast<U8>(character)] = static_cast<U8>(hexDigit(character));
-  }
-  return all;
-}();
-
-U8 valueOf(char digit) { return digitValues[static_cast<U8>(digit)]; }
+U8 kindOf(char character) { return kinds[static_cast<U8>(character)]; }
 U8 byteAt(const char* digits) {
-  return static_cast<U8>(valueOf(digits[0]) << 4 | valueOf(digits[1]));
+  return static_cast<U8>(kindOf(digits[0]) << 4 | kindOf(digits[1]));
 }
 
 bool isLetter(char character) {
@@ -60,181 +52,151 @@ bool isHexWord(std::string_view word) {
          (4 * digits >= 3 * word.size() && std::any_of(word.begin(), word.end(), isDecimalDigit));
 }
 
-/// The length of a text that has the form of a pattern at its start, 0 if it has not: "9" stands for a
-/// decimal digit, "8" also for a blank before one, "A" for a letter, "_" for a blank or "T".
-size_t formed(std::string_view text, std::string_view pattern) {
-  if (text.size() < pattern.size()) return 0;
-  for (size_t i = 0; i < pattern.size(); ++i) {
-    const char character = text[i];
-    bool fits = character == pattern[i];
-    if (pattern[i] == '9') fits = isDecimalDigit(character);
-    if (pattern[i] == '8') fits = isDecimalDigit(character) || character == ' ';
-    if (pattern[i] == 'A') fits = isLetter(character);
-    if (pattern[i] == '_') fits = character == ' ' || character == 'T';
-    if (!fits) return 0;
-  }
-  return pattern.size();
+/// Whether a character is one that a form has: "9" stands for a decimal digit, "8" also for a blank
+/// before one, "A" for a letter, "N" for what names have, "H" for what host names have too, "_" for a
+/// blank or "T", "S" for a sign.
+inline bool isOf(char form, char character) {
+  const auto isIn = [character](std::string_view all) { return all.find(character) != all.npos; };
+  const bool isDigit = isDecimalDigit(character);
+  if (form == '9') return isDigit;
+  if (form == '8') return isDigit || character == ' ';
+  if (form == 'A') return isLetter(character);
+  if (form == 'N') return isDigit || isLetter(character) || isIn("_-./@");
+  if (form == 'H') return isDigit || isLetter(character) || isIn("_-./@:");
+  if (form == '_') return isIn(" T");
+  return form == 'S' ? isIn("+-") : character == form;
 }
 
-size_t digitsAt(std::string_view text, size_t at) {
-  return std::min(text.find_first_not_of("0123456789", at), text.size()) - at;
+/// The length of the start of a text that has the first of these forms that fits, 0 if none does. A "+"
+/// repeats what is before it.
+size_t formed(std::string_view text, std::initializer_list<std::string_view> forms) {
+  for (const std::string_view form : forms) {
+    size_t at = 0, next = 0;
+    while (next < form.size() && at < text.size() && isOf(form[next], text[at])) {
+      const bool isRepeated = next + 1 < form.size() && form[next + 1] == '+';
+      const char kind = form[next];
+      do ++at;
+      while (isRepeated && at < text.size() && isOf(kind, text[at]));
+      next += isRepeated ? 2 : 1;
+    }
+    if (next == form.size()) return at;
+  }
+  return 0;
 }
 
 /// The length of a time stamp at the start of a text: ISO 8601, syslog, a time alone.
 size_t timeStamp(std::string_view text) {
-  size_t length = 0;
-  for (const char* form :
-       {"9999-99-99_99:99:99", "9999/99/99_99:99:99", "AAA 89 99:99:99", "99:99:99"}) {
-    length = formed(text, form);
-    if (length != 0) break;
-  }
+  size_t length =
+      formed(text, {"9999-99-99_99:99:99", "9999/99/99_99:99:99", "AAA 89 99:99:99", "99:99:99"});
   if (length == 0) return 0;
-  if (length < text.size() && (text[length] == '.' || text[length] == ',')) {
-    const size_t digits = digitsAt(text, length + 1);
-    if (digits != 0) length += 1 + digits;
-  }
-  const std::string_view zone = text.substr(length);
-  if (!zone.empty() && zone[0] == 'Z') ++length;
-  for (const char* form : {"+99:99", "-99:99", "+9999", "-9999"}) {
-    const size_t added = formed(zone, form);
-    length += added;
-    if (added != 0) break;
-  }
-  const std::string_view rest = text.substr(length);
-  return rest.empty() || isBlank(rest[0]) || rest[0] == ':' || rest[0] == ']' ? length : 0;
+  length += formed(text.substr(length), {".9+", ",9+"});
+  length += formed(text.substr(length), {"Z", "S99:99", "S9999"});
+  return length == text.size() || isBlank(text[length]) || text[length] == ':' ? length : 0;
 }
 
 /// The length of "[...]", "<...>" or "(...)" at the start of a text, if it holds no index: "[host]",
 /// "[   12.345678]", "<6>", "[2026-11-22 06:12:32]".
 size_t bracketed(std::string_view text, bool& isTime) {
-  if (text.empty() || (text[0] != '[' && text[0] != '<' && text[0] != '(')) return 0;
-  const char end = text[0] == '[' ? ']' : text[0] == '<' ? '>' : ')';
-  const size_t close = text.find(end);
-  if (close == text.npos || close < 2) return 0;
+  const size_t kind = text.empty() ? text.npos : std::string_view("[<(").find(text[0]);
+  const size_t close = kind == text.npos ? text.npos : text.find("]>)"[kind]);
+  if (close == text.npos) return 0;
   const std::string_view inside = trim(text.substr(1, close - 1));
-  const size_t seconds = digitsAt(inside, 0);
-  const bool isSeconds = seconds != 0 && seconds < inside.size() && inside[seconds] == '.' &&
-                         seconds + 1 + digitsAt(inside, seconds + 1) == inside.size();
-  isTime = isSeconds || (timeStamp(inside) == inside.size() && !inside.empty());
+  const auto isAll = [inside](size_t length) { return length != 0 && length == inside.size(); };
+  isTime = isAll(formed(inside, {"9+.9+", "9+."})) || isAll(timeStamp(inside));
   if (isTime) return close + 1;
-  const bool isName = std::all_of(inside.begin(), inside.end(), [](char character) {
-    return isLetter(character) || isDecimalDigit(character) ||
-           std::string_view("_-./:@").find(character) != std::string_view::npos;
-  });
-  const bool isNumber =
-      std::all_of(inside.begin(), inside.end(), isHexDigit) || parseNumber(inside);
-  return isName && (!isNumber || text[0] == '<') ? close + 1 : 0;
+  const bool isNumber = text[0] != '<' && (isAll(hexDigitsOf(inside)) || parseNumber(inside));
+  return !isNumber && isAll(formed(inside, {"H+"})) ? close + 1 : 0;
 }
 
 /// The length of a word that is no number, such as "host", "INFO", "agent[99]:" or "kernel:".
 size_t nameWord(std::string_view text) {
-  size_t length = 0;
-  while (length < text.size() &&
-         (isLetter(text[length]) || isDecimalDigit(text[length]) ||
-          std::string_view("_-./@").find(text[length]) != std::string_view::npos)) {
-    ++length;
-  }
-  const std::string_view name = text.substr(0, length);
-  if (name.empty() || !isLetter(name[0]) || isHexWord(name)) return 0;
-  if (length < text.size() && text[length] == '[') {
-    const size_t digits = digitsAt(text, length + 1);
-    const bool isClosed = digits != 0 && text.substr(length + 1 + digits, 1) == "]";
-    if (!isClosed) return 0;
-    length += digits + 2;
-  }
-  if (length < text.size() && text[length] == ':') ++length;
+  size_t length = text.empty() || !isLetter(text[0]) ? 0 : formed(text, {"N+"});
+  if (length == 0 || isHexWord(text.substr(0, length))) return 0;
+  length += formed(text.substr(length), {"[9+]"});
+  length += formed(text.substr(length), {":"});
   return length == text.size() || isBlank(text[length]) ? length : 0;
 }
 
 }  // namespace
 
-bool splitGroups(std::string_view text, std::vector<Group>& groups) {
-  groups.clear();
-  bool hasColon = false, hasBlank = false;
+bool Groups::split(std::string_view text, size_t gap) {
+  all.clear();
+  const U8 last = gap == 0 ? separator : blank;  // of what may stand between groups
+  U32 allWidths = 0, padded = 0;
+  size_t most = 0;
+  bool hasColon = false, hasBlank = false, hasOther = false;
   for (size_t at = 0;;) {
-    const size_t gap = at;
-    while (at < text.size() && kindOf(text[at]) == separator) ++at;
-    if (at == text.size() || text[at] == '#') return !(hasColon && hasBlank);
-    if (!groups.empty()) {
-      const bool isColon = at - gap == 1 && text[gap] == ':';
-      (isColon ? hasColon : hasBlank) = true;
-    }
+    const size_t end = at;
+    while (at < text.size() && kindOf(text[at]) >= blank && kindOf(text[at]) <= last) ++at;
+    const bool isEnd = at == text.size() || (gap == 0 && text[at] == '#');
+    if (gap != 0 && at - end != (isEnd ? 0 : gap)) return false;
+    if (isEnd) break;
+    const bool isColon = at - end == 1 && text[end] == ':';
+    if (!all.empty()) (isColon ? hasColon : hasBlank) = true;
     const bool isPython = text[at] == 'b' && text.substr(at + 1, 1).find_first_of("'\"") == 0;
     if (isPython) {
       ++at;
       continue;
     }
-    char prefix = 0;
+    char before = 0;
     const bool isPrefixed = at + 2 < text.size() && (text[at + 1] | 0x20) == 'x';
     if (isPrefixed && (text[at] == '0' || text[at] == '\\')) {
-      prefix = text[at] == '0' ? 'x' : '\\';
+      before = text[at] == '0' ? 'x' : '\\';
       at += 2;
     }
     const size_t begin = at;
-    while (at < text.size() && kindOf(text[at]) == digit) ++at;
-    if (at == begin) return false;
+    while (at < text.size() && kindOf(text[at]) < blank) ++at;
+    const size_t digits = at - begin;
+    if (digits == 0) return false;
     if (at < text.size() && kindOf(text[at]) == other && text[at] != '\\' && text[at] != '#') {
       return false;
     }
-    groups.push_back({text.substr(begin, at - begin), prefix});
+    if (digits > 1 && text[begin] == '0') padded |= width(digits);
+    allWidths |= width(digits);
+    most = std::max(most, digits);
+    all.push_back({text.substr(begin, digits), before});
+    hasOther = hasOther || before != all[0].prefix;
   }
-}
-
-bool splitColumns(std::string_view text, std::vector<Group>& groups, size_t gap) {
-  groups.clear();
-  for (size_t at = 0; at < text.size();) {
-    const size_t begin = text.find_first_not_of(" \t", at);
-    if (begin != at + gap) return false;
-    at = begin;
-    const bool isPrefixed = at + 2 < text.size() && text[at] == '0' && (text[at + 1] | 0x20) == 'x';
-    if (isPrefixed) at += 2;
-    const size_t first = at;
-    while (at < text.size() && kindOf(text[at]) == digit) ++at;
-    if (at == first) return false;
-    groups.push_back({text.substr(first, at - first), isPrefixed ? 'x' : '\0'});
-  }
-  return true;
-}
-
-bool haveDigits(const std::vector<Group>& groups, size_t digits) {
-  return std::all_of(groups.begin(), groups.end(),
-                     [digits](const Group& group) { return group.digits.size() == digits; });
+  widths = allWidths;
+  paddedWidths = padded;
+  longest = most;
+  isMixed = hasOther;
+  return !(hasColon && hasBlank);
 }
 
 void appendBytes(std::string_view digits, std::vector<U8>& bytes) {
-  const size_t count = digits.size() / 2;
-  bytes.resize(bytes.size() + count);
-  U8* to = bytes.data() + bytes.size() - count;
-  for (size_t i = 0; i < count; ++i) *to++ = byteAt(digits.data() + 2 * i);
+  if (digits.size() == 2) return bytes.push_back(byteAt(digits.data()));  // the usual case
+  for (size_t at = 0; at + 1 < digits.size(); at += 2) bytes.push_back(byteAt(&digits[at]));
 }
 
 void appendNumber(std::string_view digits, size_t count, std::vector<U8>& bytes) {
-  bytes.resize(bytes.size() + count);
-  U8* to = bytes.data() + bytes.size() - count;
-  const char* at = digits.data() + digits.size();
-  for (; at - digits.data() >= 2; at -= 2) *to++ = byteAt(at - 2);
-  if (at != digits.data()) *to = valueOf(*digits.data());
+  for (; count != 0; --count) {
+    const size_t before = digits.size() - std::min<size_t>(digits.size(), 2);
+    const std::string_view byte = digits.substr(before);
+    bytes.push_back(byte.size() == 2 ? byteAt(byte.data())
+                    : byte.empty()   ? U8{0}
+                                     : kindOf(byte[0]));
+    digits.remove_suffix(byte.size());
+  }
 }
 
-bool needsCleaning(std::string_view text) {
+std::optional<std::string> cleaned(std::string_view text) {
   // Three searches for one character are much faster than one for any of three.
-  return text.find('\xef') != text.npos || text.find('\xc2') != text.npos ||
-         text.find('\x1b') != text.npos;
-}
-
-std::string cleaned(std::string_view text) {
+  const auto has = [text](char character) { return text.find(character) != text.npos; };
+  if (!has('\x1b') && !has('\xc2') && !has('\xef')) return std::nullopt;
   std::string clean;
-  const auto startsWith = [&text](const char* what) { return text.rfind(what, 0) == 0; };
+  const auto takes = [&text](std::string_view what) {
+    const bool isThere = text.substr(0, what.size()) == what;
+    if (isThere) text.remove_prefix(what.size());
+    return isThere;
+  };
   while (!text.empty()) {
-    if (startsWith("\xef\xbb\xbf")) {
-      text.remove_prefix(3);
-    } else if (startsWith("\xc2\xa0")) {
-      clean += ' ';
-      text.remove_prefix(2);
-    } else if (startsWith("\x1b[")) {
-      const size_t end = text.find_first_not_of("0123456789;:?", 2);
+    if (takes("\x1b[")) {
+      const size_t end = text.find_first_not_of("0123456789;:?");
       text.remove_prefix(std::min(end, text.size() - 1) + 1);
-    } else {
+    } else if (takes("\xc2\xa0")) {
+      clean += ' ';
+    } else if (!takes("\xef\xbb\xbf")) {
       clean += text.front();
       text.remove_prefix(1);
     }
@@ -294,16 +256,10 @@ size_t logPrefix(std::string_view line, std::string& shape) {
   for (;;) {
     at = std::min(line.find_first_not_of(" \t", at), line.size());
     const std::string_view rest = line.substr(at);
-    bool isTime = false;
     size_t length = timeStamp(rest);
-    if (length != 0) {
-      isTime = true;
-      if (rest.substr(length, 1) == ":") ++length;
-    } else {
-      length = bracketed(rest, isTime);
-      if (rest.substr(length, 1) == ":" && length != 0) ++length;
-    }
-    if (length == 0) length = nameWord(rest);
+    bool isTime = length != 0;
+    if (!isTime) length = bracketed(rest, isTime);
+    length += length != 0 ? formed(rest.substr(length), {":"}) : nameWord(rest);
     const std::string_view word = rest.substr(0, length);
     // A short word alone may be mistyped digits.
     const bool isShort = at == 0 && word.size() < 3;
@@ -317,13 +273,6 @@ size_t logPrefix(std::string_view line, std::string& shape) {
     at += length;
   }
   return at;
-}
-
-Lines::Lines(std::string_view text) : text_(text) {
-  if (needsCleaning(text)) {
-    clean_ = cleaned(text);
-    text_ = clean_;
-  }
 }
 
 bool Lines::nextRaw(Line& line) {
@@ -354,27 +303,26 @@ bool Lines::next(Line& line) {
 
 bool Lines::usePrefix() {
   restart();
-  std::vector<Group> groups;
+  Groups groups;
   std::string shape;
   Line line;
   while (shape_.empty() && nextRaw(line)) {
-    const size_t length = logPrefix(line.text, shape);
-    const std::string_view data = line.text.substr(std::min(length, line.text.size()));
+    const std::string_view data = line.text.substr(logPrefix(line.text, shape));
     const std::string_view word = data.substr(0, data.find_first_of(" \t:|"));
     // An index, or a name with one, or digits.
-    const std::string_view digits = word.substr(word.find('[') == word.npos ? 0 : word.find('['));
-    const bool isData = splitGroups(digits, groups) && !groups.empty() && !isForeign(data);
-    if (length != 0 && isData) shape_ = shape;
+    const size_t open = word.find('[');
+    const bool isData = groups.split(word.substr(open == word.npos ? 0 : open)) &&
+                        groups.count() != 0 && !isForeign(data);
+    if (isData) shape_ = shape;
   }
-  const bool isStamped = shape_.find("[time]") != shape_.npos ||
-                         std::string_view("[<(").find(shape_[0]) != std::string_view::npos;
+  const bool isStamped = shape_.find("[time]") != shape_.npos || shape_.find_first_of("[<(") == 0;
   // One line with a name alone may be an entry whose index was lost.
-  bool isRepeated = false;
+  bool isRepeated = isStamped;
   while (!shape_.empty() && !isRepeated && nextRaw(line)) {
     logPrefix(line.text, shape);
     isRepeated = shape == shape_;
   }
-  if (!isStamped && !isRepeated) shape_.clear();
+  if (!isRepeated) shape_.clear();
   restart();
   return !shape_.empty();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,22 +18,35 @@ struct Group {
   char prefix;              ///< 'x' after "0x", '\\' after "\x", otherwise 0
 };
 
-/// The groups of a text up to a "#", separated by blanks, commas, semicolons, colons, brackets and
-/// quotes; false if there is anything else. Colons between digits exclude blanks between others.
-bool splitGroups(std::string_view text, std::vector<Group>& groups);
-/// The groups of digits with `gap` blanks before each; false if there is anything else.
-bool splitColumns(std::string_view text, std::vector<Group>& groups, size_t gap);
-bool haveDigits(const std::vector<Group>& groups, size_t digits);
+/// The groups of digits of a line.
+struct Groups {
+  /// Those of a text up to a "#", separated by blanks, commas, semicolons, colons, brackets and quotes, or
+  /// with `gap` blanks before each; false if there is anything else. Colons between digits exclude blanks
+  /// between others.
+  bool split(std::string_view text, size_t gap = 0);
+  /// Whether each has so many digits.
+  bool have(size_t digits) const { return widths == width(digits) || all.empty(); }
+  bool areNumbers() const { return prefix() == 'x'; }
+  char prefix() const { return all.empty() ? 0 : all[0].prefix; }
+  size_t count() const { return all.size(); }
+  /// A bit for each number of digits.
+  static constexpr U32 width(size_t digits) { return 1U << (digits < 31 ? digits : 31); }
+
+  std::vector<Group> all;
+  U32 widths = 0;
+  U32 paddedWidths = 0;  ///< of those with a zero before other digits
+  size_t longest = 0;    ///< in digits
+  bool isMixed = false;  ///< not all have the same prefix
+};
 
 /// Appends bytes from digits of which the first byte comes first; the number of digits is even.
 void appendBytes(std::string_view digits, std::vector<U8>& bytes);
 /// Appends the `count` bytes, the lowest first, of a number of at most 2 * `count` digits.
 void appendNumber(std::string_view digits, size_t count, std::vector<U8>& bytes);
 
-/// The text without UTF-8 marks and colour sequences, and with blanks for no-break spaces.
-std::string cleaned(std::string_view text);
-/// Whether that may be another text.
-bool needsCleaning(std::string_view text);
+/// The text without UTF-8 marks and colour sequences, and with blanks for no-break spaces;
+/// nothing if it is that already.
+std::optional<std::string> cleaned(std::string_view text);
 
 /// Whether a line is a prompt, a command or a sentence. Mistyped data still counts as data.
 bool isForeign(std::string_view line);
@@ -49,7 +63,7 @@ size_t logPrefix(std::string_view line, std::string& shape);
 /// The lines of a text.
 class Lines {
  public:
-  explicit Lines(std::string_view text);
+  explicit Lines(std::string_view text) : clean_(cleaned(text)), text_(clean_ ? *clean_ : text) {}
 
   struct Line {
     U64 number = 0;  ///< from 1
@@ -69,8 +83,8 @@ class Lines {
  private:
   bool nextRaw(Line& line);
 
-  std::string_view text_;
-  std::string clean_;  ///< the text, if it had to be cleaned
+  const std::optional<std::string> clean_;
+  const std::string_view text_;
   size_t at_ = 0;
   U64 number_ = 0;
   std::string shape_;  ///< empty: the lines have no prefix

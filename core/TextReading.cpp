@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <tuple>
 
 namespace Velmar {
 namespace Core {
@@ -31,10 +32,7 @@ Notation notationOfLine(std::string_view line) {
   const std::string_view rest = line.substr(digits);
   const bool isPadded = digits >= 7 && digits <= 16 && line[0] == '0';
   if (rest.substr(0, 1) == ":" && (isPadded || digits == 8)) return Notation::xxd;
-  const size_t symbol = line.find('<');
-  if (line.substr(0, 2) == "0x" && symbol != line.npos && line.find(">:", symbol) != line.npos) {
-    return Notation::xxd;
-  }
+  if (line.substr(0, 2) == "0x" && line.find(">:") != line.npos) return Notation::xxd;
   if (digits == 8 && rest.substr(0, 2) == "  " && line.back() == '|') return Notation::hexdump;
   const bool isOd = (digits == 6 || digits == 7) && (rest.empty() || isBlank(rest[0]));
   return isOd ? Notation::od : Notation::hex;
@@ -69,12 +67,6 @@ bool isSame(const Dump& a, const Dump& b) {
   return true;
 }
 
-struct Attempt {
-  TextReading reading;
-  std::unique_ptr<TextReader> reader;
-  std::optional<Fault> fault;
-};
-
 /// The readings of one rank differ: what tells them apart is asked.
 Fault ambiguity(const TextReading& a, const TextReading& b, U64 line) {
   Fault fault(Code::ambiguous, "the digits may be read in two ways");
@@ -96,33 +88,26 @@ Fault ambiguity(const TextReading& a, const TextReading& b, U64 line) {
 Expected<Dump> judged(std::vector<Attempt>& attempts, Notation expected) {
   Attempt* best = nullptr;
   for (Attempt& attempt : attempts) {
-    const bool isBetter =
-        !attempt.fault && (best == nullptr || attempt.reader->rank() < best->reader->rank());
-    if (isBetter) best = &attempt;
+    if (!attempt.fault && (best == nullptr || attempt.rank < best->rank)) best = &attempt;
   }
-  if (best != nullptr) {
-    for (const Attempt& other : attempts) {
-      const bool competes = !other.fault && other.reader->rank() == best->reader->rank();
-      if (!competes || isSame(other.reader->dump, best->reader->dump)) continue;
-      return failed(ambiguity(best->reading, other.reading, best->reader->firstLine()));
-    }
-    best->reader->dump.notation = best->reading.notation;
-    return std::move(best->reader->dump);
-  }
-  // The fault of the reading that got furthest; of several, that of the notation that was expected.
-  for (Attempt& attempt : attempts) {
-    const auto isFurther = [&attempt, expected](const Attempt& other) {
-      const U64 progress = attempt.reader->progress(), otherProgress = other.reader->progress();
-      if (progress != otherProgress) return progress > otherProgress;
-      const bool asks = attempt.fault->code == Code::ambiguous;
-      const bool otherAsks = other.fault->code == Code::ambiguous;
-      if (asks != otherAsks) return asks;
-      if (attempt.reading.notation != expected) return false;
-      return other.reading.notation != expected || attempt.reading.order < other.reading.order;
+  if (best == nullptr) {
+    // The fault of the reading that got furthest; of several, that of the notation that was expected.
+    const auto nearness = [expected](const Attempt& attempt) {
+      const bool isExpected = attempt.reading.notation == expected;
+      return std::tuple(attempt.progress, attempt.fault->code == Code::ambiguous, isExpected,
+                        isExpected ? -static_cast<int>(attempt.reading.order) : 0);
     };
-    if (best == nullptr || isFurther(*best)) best = &attempt;
+    const auto furthest = std::max_element(
+        attempts.begin(), attempts.end(),
+        [&](const Attempt& a, const Attempt& b) { return nearness(a) < nearness(b); });
+    return failed(*furthest->fault);
   }
-  return failed(*best->fault);
+  for (const Attempt& other : attempts) {
+    if (other.fault || other.rank != best->rank || isSame(other.dump, best->dump)) continue;
+    return failed(ambiguity(best->reading, other.reading, best->firstLine));
+  }
+  best->dump.notation = best->reading.notation;
+  return std::move(best->dump);
 }
 
 Expected<Dump> tried(const Layout& layout, const ReadOptions& options, Lines& lines, U64& reached) {
@@ -145,13 +130,9 @@ Expected<Dump> tried(const Layout& layout, const ReadOptions& options, Lines& li
     // od writes offsets of 6 hexadecimal digits, or of 7 octal or decimal ones; hexdump writes 7.
     const bool isOd = reading.notation == Notation::od && options.notation == Notation::automatic;
     if (isOd && digits == 6 && reading.base != 16) continue;
-    Attempt attempt{reading, nullptr, std::nullopt};
-    attempt.reader = reading.lead == Lead::index ? makeHexReader(layout, options, reading)
-                                                 : makeOffsetReader(layout, options, reading);
-    attempt.fault = attempt.reader->read(lines, best);
-    if (!attempt.fault) best = std::min(best, attempt.reader->rank());
-    reached = std::max(reached, attempt.reader->progress());
-    attempts.push_back(std::move(attempt));
+    attempts.push_back(attempt(reading, layout, options, lines, best));
+    reached = std::max(reached, attempts.back().progress);
+    if (!attempts.back().fault) best = std::min(best, attempts.back().rank);
   }
   if (attempts.empty()) {
     return failed(
@@ -162,64 +143,6 @@ Expected<Dump> tried(const Layout& layout, const ReadOptions& options, Lines& li
 }
 
 }  // namespace
-
-std::optional<Fault> TextReader::read(Lines& lines, Rank worst) {
-  U64 foreign = 0, foreignAfter = 0;
-  std::string lastForeign;
-  lines.restart();
-  while (lines.next(line_)) {
-    const std::string_view text = line_.text;
-    reach(0);
-    const Taken taken = line_.hasPrefix && foreignAfter == 0 ? take(text) : Taken::no;
-    if (taken == Taken::yes && hasData() && firstLine_ == 0) firstLine_ = line_.number;
-    if (rank_ > worst) return fail("another reading is likelier; take that one");
-    if (taken == Taken::yes || text[0] == '#') continue;
-    if (taken == Taken::fault) return fault_;
-    if (line_.hasPrefix && takeMark(text)) continue;
-    const bool isBetween = hasData() && isMark(text);
-    if (!isBetween && isForeign(text)) {
-      ++foreign;
-      if (!hasData() || foreignAfter != 0) continue;
-      foreignAfter = line_.number;
-      lastForeign = text;
-      continue;
-    }
-    if (!line_.hasPrefix || isBetween) {
-      return fail(
-          "{} stands where data was expected; remove the line, or print the dump again whole",
-          quoted(text).view());
-    }
-    if (foreignAfter != 0) {
-      return fail("data after line {}, which is not data: {}; remove the lines between the data",
-                  foreignAfter, quoted(lastForeign).view());
-    }
-    return refusal(text).onLine(line_.number);
-  }
-  ++line_.number;  // faults of the whole got to the end
-  if (auto fault = finish()) return fault;
-  if (foreign != 0) {
-    dump.notes.push_back(
-        formatText("{} line{} around the data skipped", foreign, pluralEnd(foreign)));
-  }
-  return std::nullopt;
-}
-
-std::optional<Fault> TextReader::checkFirst() const {
-  if (!options_.first || options_.shared.first) return std::nullopt;
-  return Fault(Code::option, "$1 has no effect if the entries have their indexes; leave out $1")
-      .offer("first");
-}
-
-std::optional<Fault> TextReader::addEntries(const std::vector<U8>& bytes, U64 first) {
-  if (bytes.size() % stride_ != 0) return badSize(bytes.size(), stride_, layout_);
-  const U64 count = bytes.size() / stride_;
-  for (U64 i = 0; i < count; ++i) {
-    if (auto fault = addEntry(dump, layout_, options_, first + i, bytes.data() + i * stride_)) {
-      return fault;
-    }
-  }
-  return std::nullopt;
-}
 
 Expected<Dump> readText(const Layout& layout, const ReadOptions& options, std::string_view text) {
   Lines lines(text);

@@ -190,11 +190,7 @@ Done EntryReader::checkPlace() {
     return failed(
         Fault(Code::input, "an entry without index; give the index of the entry to change"));
   }
-  if (isNumbered && use_.options.first && !use_.options.shared.first) {
-    return failed(
-        Fault(Code::option, "$1 has no effect if the entries have their indexes; leave out $1")
-            .offer("first"));
-  }
+  if (const auto fault = checkFirst(use_.options); isNumbered && fault) return failed(*fault);
   if (!isNumbered) index_ = next_;
   if (!seen_.insert(*index_)) {
     return failed(
