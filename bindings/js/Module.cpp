@@ -1,6 +1,7 @@
 #include "js/module.h"
 
 #include "c/Calls.h"
+#include "core/Comparison.h"
 #include "core/Difference.h"
 #include "core/Documents.h"
 #include "core/ValuesReading.h"
@@ -53,6 +54,22 @@ velmar_code velmar_encode(const velmar_layout* layout, const char* const* values
   return VELMAR_OK;
 }
 
+void velmar_places(const velmar_layout* layout, uint32_t* places) {
+  const Catalogue::Table table = tableOf(layout);
+  const U32 count = table.fieldCount();
+  for (U32 i = 0; i < count; ++i) {
+    const Catalogue::BitRange own = table.range(i, chipOf(layout).number);
+    U32* const place = places + 3 * i;
+    place[0] = own.offset;
+    place[1] = own.width;
+    place[2] = 0;
+    for (U32* other = places; other != place; other += 3) {
+      if (other[0] >= place[0] + place[1] || place[0] >= other[0] + other[1]) continue;
+      if (place[1] != 0 && other[1] != 0) place[2] = other[2] = 1;
+    }
+  }
+}
+
 const char* velmar_value_text(const velmar_layout* layout, uint32_t field, const void* entry,
                               size_t entry_size) {
   static std::string text;
@@ -100,4 +117,19 @@ velmar_code velmar_diff_where(const velmar_dump* before, const velmar_dump* afte
   const auto format = is_csv != 0 ? Core::RowFormat::csv : Core::RowFormat::json;
   const Core::Difference found = differenceOf(before, after, options);
   return giveText(Core::differenceText(layout, found, format), text);
+}
+
+velmar_code velmar_compare_rows(uint32_t before, uint32_t after, uint32_t table, char** text) {
+  std::optional<Catalogue::Table> only;
+  if (table != VELMAR_NONE) only = Catalogue::table(table);
+  const auto changes =
+      Core::compareChips(Catalogue::chip(before), Catalogue::chip(after), 0, only, true);
+  if (!changes) return fail(changes.error());
+  std::string rows;
+  for (const Core::PartChange& each : *changes) {
+    rows += rows.empty() ? "[" : ",";
+    rows += Core::jsonList(
+        {each.table.name(), each.part, each.before.text(), each.after.text(), each.change});
+  }
+  return giveText(rows.empty() ? "[]" : rows + "]", text);
 }

@@ -15,6 +15,9 @@ extern "C" {
 /// bits disagree.
 VELMAR_API velmar_code velmar_encode(const velmar_layout* layout, const char* const* values,
                                      size_t count, void* entry, size_t entry_size);
+/// First bit, width and 1 for an overlap of each field of the table, three numbers each; the width of a
+/// field that the chip lacks is 0.
+VELMAR_API void velmar_places(const velmar_layout* layout, uint32_t* places);
 /// The value of a field as people read it: a number, or the ports of a bitmap such as "0-3,17". It is
 /// good until the next call.
 VELMAR_API const char* velmar_value_text(const velmar_layout* layout, uint32_t field,
@@ -30,6 +33,10 @@ VELMAR_API velmar_code velmar_differing(const velmar_dump* before, const velmar_
 VELMAR_API velmar_code velmar_diff_where(const velmar_dump* before, const velmar_dump* after,
                                          const char* const* conditions, size_t condition_count,
                                          uint32_t is_csv, char** text);
+/// What velmar_compare() gives as people read it, with a row for fields of a family that change alike:
+/// a JSON list of the texts table, part, old, new, change.
+VELMAR_API velmar_code velmar_compare_rows(uint32_t before, uint32_t after, uint32_t table,
+                                           char** text);
 
 #ifdef __cplusplus
 }  // extern "C"

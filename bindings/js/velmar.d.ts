@@ -142,6 +142,8 @@ export function dumpOf(layout: Layout, bytes: Bytes, indexes?: ArrayLike<number>
 /** What changes from one chip to another, in one table or in all. */
 export function compare(before: string | number, after: string | number, table?: string, variant?: number):
     {table: string; part: string; change: string; old: unknown; new: unknown}[];
+/** The same as people read it: table, part, old, new, change; fields of a family that change alike are one row. */
+export function compareRows(before: string | number, after: string | number, table?: string): string[][];
 /** The tables and chips that a dump fits, the likeliest first. */
 export function identify(input: Bytes | string, options?: ReadOptions & {table?: string; chip?: string | number}):
     {table: string; chips: string[]; entries: number; tableEntries: number; reason: string}[];

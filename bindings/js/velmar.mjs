@@ -53,6 +53,7 @@ export async function start(source) {
   c._initialize();
   scratch = c.malloc(scratchSize);
   texts.clear();
+  fields.clear();
   layouts.clear();
 }
 
@@ -102,7 +103,7 @@ function lastFault() {
   for (const option of at(8).split(";").filter(Boolean)) {
     const [name, values] = option.split("=");
     const own = camel(name);
-    choices[own] = values ? values.split("|") : [];
+    choices[own] = [...choices[own] ?? [], ...values ? values.split("|") : []];
     remedy = remedy.replaceAll(name, own);
   }
   const place = {
@@ -260,6 +261,24 @@ export function entriesAt(chip, address, variant = 0) {
   }
 }
 
+const fields = new Map();
+
+/** The fields of a table, on whatever chip. */
+function fieldsOf(table) {
+  if (!fields.has(table)) {
+    const {fieldCount} = structure("table", "velmar_table_info", table);
+    fields.set(table, Array.from({length: fieldCount}, (_, i) => fieldOf(table, i)));
+  }
+  return fields.get(table);
+}
+
+function fieldOf(table, i) {
+  const facts = structure("field", "velmar_field_info", table, i);
+  const {accessor: name, familyLetters, hardwareName, meaning, id, index, familyNumber} = facts;
+  const family = name.slice(0, familyLetters);
+  return {name, hardwareName, meaning, id, index, type: types[facts.type], family, familyNumber};
+}
+
 const layouts = new Map();
 const handles = new WeakMap();  // of layouts
 
@@ -292,27 +311,24 @@ class Layout {
       variant,
       variants: facts.variants === 0 ? "any" : "0 only",
       indexCount: facts.entries * facts.elements,
-      fields: this.#fields(structure("table", "velmar_table_info", table).fieldCount),
+      fields: Object.freeze(this.#fields(table)),
     });
-    Object.freeze(this.fields);
   }
 
-  #fields(count) {
-    const fields = [];
-    for (let i = 0; i < count; ++i) {
-      if (guarded(
-              "velmar_layout_field", [this.#handle, i, scratch, 4 * structures.field.length]) !== 0)
-        continue;
-      const {accessor: name, familyLetters, ...facts} = structureAt(structures.field, scratch);
-      fields.push({
-        name,
-        ...facts,
-        type: types[facts.type],
-        overlaps: facts.overlaps !== 0,
-        family: name.slice(0, familyLetters),
-      });
-    }
-    return fields;
+  #fields(table) {
+    const all = fieldsOf(table);
+    return allocating((room) => {
+      const at = room(12 * all.length);
+      c.velmar_places(this.#handle, at);
+      const places = new Uint32Array(c.memory.buffer, at, 3 * all.length);
+      const own = [];
+      for (let i = 0, to = 0; i < all.length; ++i, to += 3) {
+        if (places[to + 1] === 0) continue;
+        const place = {firstBit: places[to], bits: places[to + 1], overlaps: places[to + 2] !== 0};
+        own.push(Object.assign(place, all[i]));
+      }
+      return own;
+    });
   }
 
   /** A field by its accessor, hardware name or identifier. */
@@ -448,13 +464,11 @@ class Layout {
 
   /** The value of a field of one entry as a BigInt. */
   value(field, bytes) {
-    return allocating((room) => {
-      const size = Math.ceil(field.bits / 32);
-      const to = room(4 * size);
-      const at = put(room, bytes);
-      call("velmar_read_words", this.#handle, field.index, at, this.entryBytes, to, size);
-      return number(new Uint32Array(c.memory.buffer, to, size));
-    });
+    const size = Math.ceil(field.bits / 32);
+    const [entry, to] = [scratch + entryRoom, scratch + scratchSize / 2];
+    bytesAt(entry, this.entryBytes).set(bytes);
+    call("velmar_read_words", this.#handle, field.index, entry, this.entryBytes, to, size);
+    return number(new Uint32Array(c.memory.buffer, to, size));
   }
 }
 
@@ -684,6 +698,13 @@ export function compare(before, after, table, variant = 0) {
   const only = table === undefined ? none : findTable(table);
   return JSON.parse(document("velmar_compare", findChip(before), findChip(after), only, variant))
       .differences;
+}
+
+/** The same as people read it, [table, part, old, new, change]: fields of a family that change alike are
+ * one row. */
+export function compareRows(before, after, table) {
+  const only = table === undefined ? none : findTable(table);
+  return JSON.parse(document("velmar_compare_rows", findChip(before), findChip(after), only));
 }
 
 /** The tables and chips that a dump fits, the likeliest first. */

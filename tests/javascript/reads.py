@@ -20,8 +20,10 @@ def of_command(table, text):
     code, result, error = run("decode", table.name, "--chip", table.chip, "-f", "json", "-", data=text)
     if code != 0:
         fault = json.loads(error)
-        remedies = {re.sub("-(.)", lambda m: m[1].upper(), each["option"][2:]): each["choices"]
-                    for each in fault["remedies"]}
+        remedies = {}
+        for each in fault["remedies"]:
+            option = re.sub("-(.)", lambda m: m[1].upper(), each["option"][2:])
+            remedies.setdefault(option, []).extend(each["choices"])
         return {"refusal": [fault["code"], fault["place"].get("line"), remedies]}
     places = {field.name: field.offset for field in table.fields}
     entries = []
