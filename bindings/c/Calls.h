@@ -86,12 +86,16 @@ velmar_code takeOptions(const velmar_read_options* options, Core::ReadOptions& i
 /// memory.
 template <class Body>
 velmar_code allocating(const Body& body) {
+#ifndef __cpp_exceptions
+  return body();  // the C++ library ends the program
+#else
   try {
     return body();
   } catch (const std::bad_alloc&) {
     return fail(Fault(Code::memory, "there is no memory for the result")
                     .advise("free dumps and texts that are not needed any more"));
   }
+#endif
 }
 
 }  // namespace Binding

@@ -1,6 +1,8 @@
 #pragma once
 
-#include <mutex>
+#include <utility>
+
+#include "Lock.h"
 
 namespace Kiv {
 
@@ -13,21 +15,23 @@ class SinkSlot {
   explicit SinkSlot(Sink standard) : standard_(standard), sink_(standard), context_(nullptr) {}
 
   void sinkIs(Sink sink, void* context) {
-    const std::lock_guard<std::mutex> lock(mutex_);
+    const Lock lock(mutex_);
     sink_ = sink != nullptr ? sink : standard_;
     context_ = context;
   }
   void emit(const Record& record) {
-    std::unique_lock<std::mutex> lock(mutex_);
-    const Sink sink = sink_;
-    void* const context = context_;
-    lock.unlock();
+    const auto [sink, context] = current();
     sink(record, context);
   }
 
  private:
+  std::pair<Sink, void*> current() {
+    const Lock lock(mutex_);
+    return {sink_, context_};
+  }
+
   const Sink standard_;
-  std::mutex mutex_;
+  Mutex mutex_;
   Sink sink_;
   void* context_;
 };

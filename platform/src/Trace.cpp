@@ -4,10 +4,10 @@
 #include <charconv>
 #include <cstdio>
 #include <map>
-#include <mutex>
 #include <string>
 #include <vector>
 
+#include "Lock.h"
 #include "SinkSlot.h"
 
 namespace Kiv {
@@ -17,7 +17,7 @@ constexpr U32 levelsAtStart = 1U << 0;
 
 /// Levels by name, and the handles that follow them.
 struct Registry {
-  std::mutex mutex;
+  Mutex mutex;
   std::map<std::string, U32> levels;
   std::vector<TraceHandle*> handles;
 
@@ -46,21 +46,21 @@ TraceHandle::~TraceHandle() { TraceFacility::leave(*this); }
 void TraceHandle::join() { TraceFacility::join(*this); }
 
 void TraceFacility::join(TraceHandle& handle) {
-  const std::lock_guard<std::mutex> lock(registry().mutex);
+  const Lock lock(registry().mutex);
   if ((handle.levels_.load(std::memory_order_relaxed) & TraceHandle::notJoinedBit) == 0) return;
   registry().handles.push_back(&handle);
   handle.levels_.store(registry().levelsOf(handle.name()), std::memory_order_relaxed);
 }
 
 void TraceFacility::leave(TraceHandle& handle) {
-  const std::lock_guard<std::mutex> lock(registry().mutex);
+  const Lock lock(registry().mutex);
   auto& handles = registry().handles;
   handles.erase(std::remove(handles.begin(), handles.end(), &handle), handles.end());
 }
 
 bool TraceFacility::levelIs(const char* handle, U32 level, bool on) {
   if (level > maxLevel) return false;
-  const std::lock_guard<std::mutex> lock(registry().mutex);
+  const Lock lock(registry().mutex);
   U32& levels = registry().levelsOf(handle);
   levels = on ? levels | 1U << level : levels & ~(1U << level);
   for (TraceHandle* each : registry().handles) {
@@ -73,7 +73,7 @@ bool TraceFacility::levelIs(const char* handle, U32 level, bool on) {
 
 bool TraceFacility::level(const char* handle, U32 level) {
   if (level > maxLevel) return false;
-  const std::lock_guard<std::mutex> lock(registry().mutex);
+  const Lock lock(registry().mutex);
   const auto found = registry().levels.find(handle);
   const U32 levels = found == registry().levels.end() ? levelsAtStart : found->second;
   return (levels >> level & 1U) != 0;

@@ -81,6 +81,7 @@ class Browser:
             const box = document.querySelector("textarea");
             box.value = arguments[0];
             box.dispatchEvent(new Event("input"));
+            if (arguments[1] === null) return;
             document.querySelector(`input[value=${arguments[1]}]`).click();
             box.dispatchEvent(new Event("input"));""", text, order)
 

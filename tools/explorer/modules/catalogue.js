@@ -1,7 +1,7 @@
-// The catalogue as objects: chips, tables, and the layout of a table on a chip. Every fact comes
-// from the library's own catalogue, which the page carries in columns to stay small.
+// The catalogue as the views use it: tables, the layout of a table on a chip, its fields in groups. All
+// facts are the library's.
 
-import {bytesOf, largestOf, readBits, shareBits} from "./bits.js";
+import * as engine from "./engine.js";
 
 /** Something that a person gave and that cannot be done; the text names the remedy. */
 export class Refusal extends Error {}
@@ -20,70 +20,103 @@ const smallestFamily = 4;
 
 /** A table on one chip: sizes, addresses, and its fields in declaration order. */
 export class Layout {
-  constructor(table, chip, geometry, places) {
-    Object.assign(this, geometry, {table, chip});
-    this.entryBytes = 4 * this.words;
+  constructor(table, own) {
+    Object.assign(this, own, {own, table});
     this.isRegisterArray = table.isRegisterArray;
-    this.indexCount = this.isRegisterArray ? this.arrayElements : this.entries;
-    this.places = places;
-    this.fields = [];
-    table.fields.forEach((field, i) => {
-      const [offset, width] = [places.offsets[i], places.widths[i]];
-      if (width === 0) return;
-      this.fields.push(
-          {...field, offset, width, last: offset + width - 1, bits: bitsText(offset, width)});
-    });
+    this.fields = own.fields.map((field) => fieldOf(field));
     this.byName = new Map(this.fields.map((field) => [field.accessor, field]));
     this.groups = groupsOf(this.fields);
-    this.reservedMask = this.maskOfReserved();
-    this.reservedBytes = bytesOf(this.reservedMask, this.entryBytes);
-  }
-
-  maskOfReserved() {
-    let mask = largestOf(8 * this.entryBytes);
-    for (const field of this.fields) mask &= ~(largestOf(field.width) << BigInt(field.offset));
-    return mask;
+    this.key = keyOf(own);
+    this.mask = own.reservedMask();
   }
 
   find(name) {
-    return this.byName.get(name) ??
-        refuse(`${this.table.name} has no field ${quoted(name)} on ${
-            this.chip}; see the field table`);
+    return this.byName.get(this.own.field(name).name);
   }
 
   /** S-channel address of an entry, or of an element of a register array. */
   addressOf(index, identifier = 0) {
-    const step = this.isRegisterArray ? this.addrStride : 1;
-    return (this.base + identifier * this.identifierTerm + index * step) >>> 0;
-  }
-
-  /** The entries {index, identifier} that have an address. */
-  entriesAt(address) {
-    const step = this.isRegisterArray ? this.addrStride : 1;
-    const found = [];
-    for (let identifier = 0; identifier < this.identifiers; ++identifier) {
-      const distance = address - this.addressOf(0, identifier);
-      if (distance < 0 || (step === 0 ? distance !== 0 : distance % step !== 0)) continue;
-      const index = step === 0 ? 0 : distance / step;
-      if (index < this.indexCount) found.push({index, identifier});
-    }
-    return found;
+    return this.own.address(index, identifier);
   }
 
   /** The fields that share bits with a field. */
   overlapsOf(field) {
+    if (!field.overlaps) return [];
     return this.fields.filter((other) => other !== field && shareBits(other, field));
   }
 
-  /** Whether bits are set outside all fields; `start` is the first byte of the entry. */
-  hasOutsideBits(bytes, start) {
-    return this.reservedBytes.some((mask, i) => (bytes[start + i] & mask) !== 0);
+  /** The value of a field as a number, and as people read it. */
+  value(field, bytes) {
+    return this.own.value(field.own, bytes);
+  }
+  text(field, bytes) {
+    return this.own.text(field.own, bytes);
+  }
+
+  /** An entry with some fields set: numbers, or texts as people type them. */
+  encode(values, bytes) {
+    return this.own.encode(values, bytes ?? new Uint8Array(this.entryBytes));
   }
 
   /** The bits that are set outside all fields. */
-  outsideFields(bytes) {
-    return readBits(bytes, 0, 8 * this.entryBytes) & this.reservedMask;
+  outsideBits(bytes) {
+    const bits = [];
+    for (let i = 0; i < this.entryBytes; ++i) {
+      const outside = bytes[i] & this.mask[i];
+      for (let bit = 0; outside >> bit !== 0; ++bit)
+        if ((outside >> bit) & 1) bits.push(8 * i + bit);
+    }
+    return bits;
   }
+
+  /** What differs between two entries: [{name, old, now}], in hexadecimal. */
+  changes(old, now) {
+    const dumps = [old, now].map((bytes) => engine.dumpOf(this.own, bytes));
+    const [entry] = JSON.parse(dumps[0].diff(dumps[1])).entries;
+    for (const dump of dumps) dump.free();
+    return Object.entries(entry?.fields ?? {})
+        .map(([name, value]) => ({name, old: value.old.hex, now: value.new.hex}));
+  }
+}
+
+function fieldOf(own) {
+  const {name, firstBit, bits} = own;
+  return {
+    ...own,
+    own,
+    accessor: name,
+    offset: firstBit,
+    width: bits,
+    last: firstBit + bits - 1,
+    bits: bitsText(firstBit, bits),
+    isBitmap: own.type === "bitmap"
+  };
+}
+
+/** The same for layouts with all fields at the same places. */
+function keyOf(own) {
+  return [
+    own.entryBytes, ...own.fields.map(({index, firstBit, bits}) => `${index}.${firstBit}.${bits}`)
+  ].join();
+}
+
+/** Whether two ranges {offset, width} share a bit. */
+export function shareBits(a, b) {
+  return a.offset < b.offset + b.width && b.offset < a.offset + a.width;
+}
+
+/** An entry as people paste it: in bytes, 32-bit words, or as one number. */
+export function entryText(bytes, order = "bytes") {
+  const pairs = Array.from(bytes, (byte) => byte.toString(16).padStart(2, "0"));
+  if (order === "number") return "0x" + pairs.reverse().join("");
+  if (order === "bytes") return pairs.join(" ");
+  const words = [];
+  for (let i = 0; i < pairs.length; i += 4) words.push(pairs.slice(i, i + 4).reverse().join(""));
+  return words.join(" ");
+}
+
+export function hexText(value) {
+  return "0x" + value.toString(16);
 }
 
 /** As data sheets write it: "47:42", or "66" for one bit. */
@@ -112,26 +145,13 @@ export function rangesText(numbers) {
   return ranges.map(([a, b]) => (a === b ? `${a}` : `${a}-${b}`)).join(",") || "none";
 }
 
-/** Splits "spTreePort12" into its prefix and number; null without a number. */
-export function numberedName(name) {
-  const match = /^(.*[^0-9])([0-9]+)$/.exec(name);
-  return match && {prefix: match[1], number: Number(match[2])};
-}
-
-export function areOfOneFamily(a, b) {
-  const [first, second] = [numberedName(a.accessor), numberedName(b.accessor)];
-  return Boolean(first && second && first.prefix === second.prefix && a.meaning === b.meaning);
-}
-
 /** Fields in declaration order as groups of one, or of the members of a family. */
 function groupsOf(fields) {
   const groups = [];
   for (let begin = 0, end; begin < fields.length; begin = end) {
+    const {family, width} = fields[begin];
     end = begin + 1;
-    while (end < fields.length && fields[end].width === fields[begin].width &&
-           areOfOneFamily(fields[begin], fields[end])) {
-      ++end;
-    }
+    while (family && fields[end]?.family === family && fields[end].width === width) ++end;
     if (end - begin < smallestFamily) end = begin + 1;
     groups.push(groupOf(fields.slice(begin, end)));
   }
@@ -154,14 +174,25 @@ function groupOf(members) {
 }
 
 function familyName(members, key) {
-  const numbers = members.map((field) => numberedName(field.accessor).number);
-  return numberedName(members[0][key]).prefix + rangesText(numbers);
+  const {[key]: name, familyNumber} = members[0];
+  return name.slice(0, -`${familyNumber}`.length) +
+      rangesText(members.map((field) => field.familyNumber));
+}
+
+/** The values of a family: which ports have which, such as "0: 2-7; 3: 0-1". */
+export function familyText(layout, group, bytes) {
+  const ports = new Map();
+  for (const field of group.members) {
+    const value = layout.value(field, bytes);
+    ports.set(value, [...(ports.get(value) ?? []), field.familyNumber]);
+  }
+  return [...ports].map(([value, numbers]) => `${value}: ${rangesText(numbers)}`).join("; ");
 }
 
 /** Where the members of a family lie, in words: "port p at bit 2 × p". */
 export function familyRule(group) {
   const [first, second] = group.members;
-  const number = (field) => numberedName(field.accessor).number;
+  const number = (field) => field.familyNumber;
   const step = second.offset - first.offset;
   const isRegular = group.members.every(
       (field) => field.offset - first.offset === step * (number(field) - number(first)));
@@ -174,39 +205,13 @@ export function familyRule(group) {
 
 /** The catalogue of the page. */
 export class Catalogue {
-  constructor(data) {
-    this.version = data.version;
-    this.chips = data.chips.map(([name, number]) => ({name, number}));
-    this.tables = data.tables.map((table) => this.tableOf(table));
+  constructor() {
+    this.version = engine.version();
+    this.chips = engine.chips();
+    this.tables =
+        engine.tables().map((table) => ({...table, isRegisterArray: table.kind !== "table"}));
     this.byName = new Map(this.tables.map((table) => [table.name, table]));
-  }
-
-  tableOf(data) {
-    const table = {
-      name: data.name,
-      purpose: data.purpose,
-      isRegisterArray: data.kind === "registerArray"
-    };
-    table.fields = data.accessors.map((accessor, i) => ({
-                                        accessor,
-                                        hardwareName: data.hardwareNames[i],
-                                        meaning: data.meanings[data.meaning[i]],
-                                        id: data.ids[i],
-                                        type: data.types[data.type[i]],
-                                        isBitmap: data.types[data.type[i]].endsWith("Bitmap"),
-                                      }));
-    table.chips = [];
-    table.make = new Map();
-    for (const row of data.layouts) {
-      row.chips.forEach((number) => {
-        const chip = this.chips[number].name;
-        table.make.set(
-            chip, {row, geometry: data.geometries.find((one) => one.chips.includes(number))});
-      });
-    }
-    table.chips = this.chips.map((chip) => chip.name).filter((chip) => table.make.has(chip));
-    table.layouts = new Map();
-    return table;
+    this.layouts = new Map();
   }
 
   table(name) {
@@ -221,21 +226,20 @@ export class Catalogue {
 
   /** The layout of a table on a chip; refuses a table that the chip does not have. */
   layout(tableName, chip) {
-    const table = this.table(tableName);
-    if (!table.layouts.has(chip)) {
+    const key = `${tableName}/${chip}`;
+    if (!this.layouts.has(key)) {
+      const table = this.table(tableName);
       this.checkChip(chip);
-      const made = table.make.get(chip) ??
-          refuse(`${table.name} does not exist on ${chip}; it exists on ${table.chips.join(", ")}`);
-      const geometry =
-          Object.fromEntries(Object.entries(made.geometry).filter(([key]) => key !== "chips"));
-      table.layouts.set(chip, new Layout(table, chip, geometry, made.row));
+      if (!table.chips.includes(chip))
+        refuse(`${table.name} does not exist on ${chip}; it exists on ${table.chips.join(", ")}`);
+      this.layouts.set(key, new Layout(table, engine.layout(tableName, chip)));
     }
-    return table.layouts.get(chip);
+    return this.layouts.get(key);
   }
 
   /** The tables that a chip has, as layouts. */
   layoutsOn(chip) {
-    return this.tables.filter((table) => table.make.has(chip))
+    return this.tables.filter((table) => table.chips.includes(chip))
         .map((table) => this.layout(table.name, chip));
   }
 
@@ -243,10 +247,22 @@ export class Catalogue {
   chipGroups(table) {
     const groups = new Map();
     for (const chip of table.chips) {
-      const row = table.make.get(chip).row;
-      groups.set(row, [...(groups.get(row) ?? []), chip]);
+      const key = keyOf(engine.layout(table.name, chip));
+      groups.set(key, [...(groups.get(key) ?? []), chip]);
     }
     return [...groups.values()];
+  }
+
+  /** The fields of a table, each with the chips that have it. */
+  fieldsOf(table) {
+    const fields = new Map();
+    for (const chip of table.chips) {
+      for (const field of engine.layout(table.name, chip).fields) {
+        if (!fields.has(field.index)) fields.set(field.index, {field, chips: []});
+        fields.get(field.index).chips.push(chip);
+      }
+    }
+    return [...fields.values()].sort((a, b) => a.field.index - b.field.index);
   }
 }
 

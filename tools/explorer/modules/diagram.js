@@ -1,7 +1,6 @@
 // The bits of an entry as a drawing: rows of 32 bits, the highest bit on the left.
 
-import {shareBits} from "./bits.js";
-import {bitsText} from "./catalogue.js";
+import {bitsText, shareBits} from "./catalogue.js";
 import {svg} from "./elements.js";
 
 const bitWidth = 27;

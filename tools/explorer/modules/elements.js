@@ -1,6 +1,7 @@
 // Elements of the page. Texts are always text nodes: nothing from a file becomes markup.
 
 import {Refusal} from "./catalogue.js";
+import {remedyOf, VelmarError, words} from "./engine.js";
 
 /** An HTML element; properties that begin with "on" are listeners, null ones are left out. */
 export function h(tag, properties = {}, ...children) {
@@ -57,19 +58,38 @@ export function grid(caption, columns, rows) {
 
 /** What to tell a person of an error: the refusal, or that the page is at fault. */
 export function messageOf(error) {
-  return error instanceof Refusal ? error.message :
-                                    `this page is at fault (${error.message}); please report it`;
+  if (error instanceof Refusal) return error.message;
+  if (!(error instanceof VelmarError))
+    return `this page is at fault (${error.message}); please report it`;
+  const remedy = remedyOf(error);
+  return `${error.line ? `line ${error.line}: ` : ""}${error.text}${remedy ? `; ${remedy}` : ""}`;
 }
 
-/** Runs an action of a person; a refusal becomes the text of `place`. */
-export function attempt(place, action) {
+/** Runs an action of a person; a refusal becomes the text of `place`, and what mends it, by calling `mend`
+ * with an option and a value, its buttons. */
+export function attempt(place, action, mend) {
   try {
     place.textContent = "";
     return action();
   } catch (error) {
-    place.textContent = messageOf(error);
+    place.replaceChildren(messageOf(error), ...(mend ? remedyButtons(error, mend) : []));
     return undefined;
   }
+}
+
+/** A button for each choice of a refusal, and a field for a value that may be any. */
+export function remedyButtons(error, mend) {
+  const named =
+      Object.entries(error.choices ?? {}).filter(([option]) => Object.hasOwn(words, option));
+  const buttons = named.flatMap(([option, values]) => {
+    const button = (value) =>
+        h("button", {"data-remedy": option, value, onclick: () => mend(option, value)},
+          words[option][value] ?? value);
+    if (typeof words[option] !== "string") return values.map(button);
+    const input = h("input", {size: 12, onchange: () => mend(option, input.value)});
+    return [labelled(words[option], input)];
+  });
+  return buttons.length > 0 ? [h("span", {class: "remedies"}, "Read it as: ", buttons)] : [];
 }
 
 /** A place for refusals, which a screen reader reads out. */

@@ -1,23 +1,15 @@
 // The entries of one dump, or of two by their indexes: a grid, one in detail, a map of the table.
 
-import {readBits, readNumber} from "./bits.js";
-import {addressText} from "./catalogue.js";
-import {parseFilter} from "./condition.js";
-import {csvOf, diffCsvOf, diffJsonOf, diffOf, joinDumps, jsonOf} from "./dumps.js";
+import {addressText, entryText, familyText, hexText} from "./catalogue.js";
 import {attempt, choice, h, labelled, refusalPlace} from "./elements.js";
-import {entryText} from "./entryText.js";
 import {drawMap, mapLegend} from "./map.js";
 import {formatState} from "./state.js";
-import {changesOf, familyText, hexText, valueText} from "./values.js";
 
 const entryHeight = 24;
 const visibleRows = 22;
 const mostPrinted = 1000;
 /** Fields that are columns at first. */
 const firstColumns = 8;
-/** Fields of up to so many bits are read as numbers, which is quicker. */
-const numberWidth = 41;
-
 export class EntryGrid {
   constructor(view, dumps) {
     this.view = view;
@@ -26,9 +18,7 @@ export class EntryGrid {
     this.dumps = dumps;
     this.now = dumps[dumps.length - 1];
     this.isPair = dumps.length === 2;
-    this.rows = this.isPair ?
-        joinDumps(...dumps) :
-        Array.from(this.now.indexes, (index, row) => ({index, old: row, now: row, differs: false}));
+    this.rows = rowsOf(dumps);
     this.values = new Map();
     const {options} = view;
     const names = this.layout.groups.map((group) => group.name);
@@ -95,9 +85,9 @@ export class EntryGrid {
   exampleFilter() {
     const bitmap = this.layout.fields.find((field) => field.isBitmap);
     const number = this.layout.fields.find((field) => !field.isBitmap);
-    const parts = [number && `${number.accessor}==1`, bitmap && `${bitmap.accessor} has 21`].filter(
+    const parts = [number && `${number.accessor}=1`, bitmap && `${bitmap.accessor}~21`].filter(
         (part) => part);
-    return `${parts.join(" and ")}; index<100; nonzero`;
+    return `such as ${parts.join(" and ")}, index<100, nonzero`;
   }
 
   columnChoice(names) {
@@ -121,32 +111,32 @@ export class EntryGrid {
     return this.layout.groups.find((group) => group.name === name);
   }
 
-  /** The value of a group in a row of a dump; a family's is that of all its bits. */
-  valueOf(dump, row, group) {
-    return readBits(dump.entry(row), group.offset, group.width);
-  }
-
-  /** The values of a group for all rows, to sort and to colour by. */
+  /** The values of a group for all rows, to sort and to colour by; -1 for an entry that is missing. */
   valuesOf(name) {
     if (!this.values.has(name)) {
-      const group = this.group(name);
-      const {bytes, layout} = this.now;
-      const read = group.width <= numberWidth ?
-          (row) => readNumber(bytes, row * layout.entryBytes, group.offset, group.width) :
-          (row) => this.valueOf(this.now, row, group);
-      this.values.set(name, this.rows.map((row) => (row.now < 0 ? -1 : read(row.now))));
+      const {members} = this.group(name);
+      const columns = Object.values(
+          this.layout.own.columns(this.now.bytes, members.map((field) => field.accessor)));
+      const digits = Math.ceil(members[0].width / 4);
+      const valueAt = members.length === 1 ?
+          (at) => columns[0][at] :
+          (at) => BigInt(
+              "0x" +
+              columns.map((one) => one[at].toString(16).padStart(digits, "0")).reverse().join(""));
+      this.values.set(name, this.rows.map((row) => (row.now < 0 ? -1 : valueAt(row.now))));
     }
     return this.values.get(name);
   }
 
   filter() {
     const text = this.filterText.value;
-    const holds = attempt(this.problem, () => parseFilter(this.layout, text));
-    this.isRefused = !holds;
+    const conditions = text.trim() === "" ? [] : [text];
+    const found =
+        attempt(this.problem, () => this.dumps.map((dump) => new Set(dump.select(conditions))));
+    this.isRefused = !found;
     const changed = this.isPair && this.onlyChanged.checked;
-    this.shown = this.rows.filter((row) => holds && (!changed || row.differs) && [
-      [this.dumps[0], row.old], [this.now, row.now]
-    ].some(([dump, at]) => at >= 0 && holds(dump.entry(at), row.index)));
+    const isFound = ({old, now}) => found[0].has(old) || found[found.length - 1].has(now);
+    this.shown = this.rows.filter((row) => found && (!changed || row.differs) && isFound(row));
     const differing = this.rows.filter((row) => row.differs).length;
     this.status.textContent =
         (this.isPair ? `${differing} of ${this.rows.length} entries differ; ` : "") +
@@ -161,9 +151,7 @@ export class EntryGrid {
 
   /** Bits outside all fields are the sign of a wrong table or chip. */
   outsideText() {
-    const {layout, bytes, indexes} = this.now;
-    const count =
-        indexes.filter((_, row) => layout.hasOutsideBits(bytes, row * layout.entryBytes)).length;
+    const count = this.now.select(["reserved"]).length;
     return count === 0 ? "" : `; ${count} with bits set outside all fields: check table and chip`;
   }
 
@@ -267,18 +255,26 @@ export class EntryGrid {
 
   cellText(row, group) {
     const [dump, at] = row.now >= 0 ? [this.now, row.now] : [this.dumps[0], row.old];
-    return group.isFamily ? familyText(group, dump.entry(at)) :
-                            valueText(group.members[0], this.valueOf(dump, at, group));
+    const entry = dump.entry(at);
+    return group.isFamily ? familyText(this.layout, group, entry) :
+                            this.layout.text(group.members[0], entry);
   }
 
   changeText(row) {
     if (!row.differs) return "";
     if (row.old < 0 || row.now < 0) return row.old < 0 ? "only in the second" : "only in the first";
-    const changes = changesOf(this.layout, this.dumps[0].entry(row.old), this.now.entry(row.now));
+    const [old, now] = [this.dumps[0].entry(row.old), this.now.entry(row.now)];
+    const changes = this.layout.changes(old, now);
     const texts = changes.slice(0, 3).map(
-        ({field, old, now}) =>
-            `${field.accessor} ${valueText(field, old)} → ${valueText(field, now)}`);
+        (change) => `${change.name} ${this.textOf(change, old, change.old)} → ${
+            this.textOf(change, now, change.now)}`);
     return texts.join("; ") + (changes.length > 3 ? `; ${changes.length - 3} more` : "");
+  }
+
+  /** A value of what changed: of a field, or of the bits outside all fields. */
+  textOf({name}, entry, hex) {
+    const field = this.layout.byName.get(name);
+    return field ? this.layout.text(field, entry) : hex;
   }
 
   key(event) {
@@ -332,11 +328,11 @@ export class EntryGrid {
         },
           this.isPair ? `${side}: open with its bits` : "Open with its bits");
     const [old, now] = [entries[0].bytes, entries[entries.length - 1].bytes];
-    const changed =
-        new Map(changesOf(this.layout, old, now).map((change) => [change.field.accessor, change]));
+    const changes = this.layout.changes(old, now);
+    const changed = new Map(changes.map((change) => [change.name, change]));
+    const outside = changes.filter(({name}) => !this.layout.byName.has(name));
     const rows = [
-      ...this.layout.fields,
-      ...[...changed.values()].map(({field}) => field).filter((field) => field.isOutside)
+      ...this.layout.fields, ...outside.map(({name}) => ({accessor: name, bits: ""}))
     ].map((field) => this.fieldRow(field, old, now, changed.get(field.accessor)));
     const missing = this.isPair && entries.length === 1 ? h("p", {}, this.changeText(row)) : null;
     return [
@@ -348,23 +344,23 @@ export class EntryGrid {
   }
 
   fieldRow(field, old, now, change) {
-    const value = change ? change.now : readBits(now, field.offset, field.width);
+    const value = change ? change.now : hexText(this.layout.value(field, now));
     return h(
         "tr", {
           "data-field": field.accessor,
           "data-bits": field.bits,
-          "data-value": hexText(value),
-          "data-old": change ? hexText(change.old) : null,
+          "data-value": value,
+          "data-old": change ? change.old : null,
           class: change ? "differs" : "",
         },
         h("th", {scope: "row"}, field.accessor), h("td", {class: "number"}, field.bits),
         h("td", {},
           change ?
               [
-                h("del", {}, valueText(field, change.old)), " → ",
-                h("ins", {}, valueText(field, change.now))
+                h("del", {}, this.textOf(change, old, change.old)), " → ",
+                h("ins", {}, this.textOf(change, now, change.now))
               ] :
-              valueText(field, value)));
+              this.layout.text(field, now)));
   }
 
   drawMap() {
@@ -376,12 +372,16 @@ export class EntryGrid {
         (!group             ? ["the same", "differs"][value] :
              value === -1   ? "missing" :
              group.isFamily ? hexText(value) :
-                              valueText(group.members[0], BigInt(value)));
+                              this.textOfValue(group.members[0], value));
     const cells =
         this.rows.map((row, i) => ({index: row.index, key: keys[i], isShown: isShown.has(row)}));
     this.map = drawMap(this.canvas, cells, this.layout.indexCount);
     this.canvas.setAttribute("aria-label", `One cell for each entry, coloured by ${this.colorBy}`);
     this.legend.replaceChildren(...mapLegend(this.map, textOf));
+  }
+
+  textOfValue(field, value) {
+    return this.layout.text(field, this.layout.encode({[field.accessor]: BigInt(value)}));
   }
 
   openCell(event) {
@@ -393,12 +393,10 @@ export class EntryGrid {
   /** Saves what is shown: the entries of a dump, or what changed from one to the other. */
   save(kind) {
     if (this.isRefused) return;
-    const rows = this.shown.map((row) => row.now).sort((a, b) => a - b);
-    const isShown = new Set(this.shown.map((row) => row.index));
-    const changes =
-        this.isPair ? diffOf(...this.dumps).filter((row) => isShown.has(row.index)) : null;
-    const text = this.isPair ? {json: diffJsonOf, csv: diffCsvOf}[kind](this.layout, changes) :
-                               {json: jsonOf, csv: csvOf}[kind](this.now, rows);
+    const positions = this.shown.map((row) => row.now).sort((a, b) => a - b);
+    const where = this.filterText.value.trim() === "" ? [] : [this.filterText.value];
+    const text = this.isPair ? this.dumps[0].diff(this.now, {where, csv: kind === "csv"}) :
+                               this.now[kind]({positions});
     const url = URL.createObjectURL(
         new Blob([text], {type: kind === "json" ? "application/json" : "text/csv"}));
     h("a", {
@@ -408,4 +406,16 @@ export class EntryGrid {
     }).click();
     setTimeout(() => URL.revokeObjectURL(url), 10000);
   }
+}
+
+/** The entries of one dump, or of two by their indexes: {index, old, now, differs}, positions or -1. */
+function rowsOf(dumps) {
+  const positions =
+      dumps.map((dump) => new Map(Array.from(dump.indexes, (index, at) => [index, at])));
+  const differing = new Set(dumps.length === 2 ? dumps[0].differing(dumps[1]) : []);
+  const indexes = [...new Set(dumps.flatMap((dump) => [...dump.indexes]))].sort((a, b) => a - b);
+  return indexes.map((index) => {
+    const [old, now = old] = positions.map((of) => of.get(index) ?? -1);
+    return {index, old, now, differs: differing.has(index)};
+  });
 }

@@ -54,8 +54,7 @@ export function resultsOf(page, query) {
 /** What can be looked for, with examples of the first table. */
 function notFoundText(catalogue, query) {
   const [table] = catalogue.tables;
-  const [field] = table.fields;
-  const {base} = catalogue.layout(table.name, table.chips[0]);
+  const {base, fields: [field]} = catalogue.layout(table.name, table.chips[0]);
   return `Nothing is called ${quoted(query.trim())}. Try a table (${table.name}), a field (${
       field.accessor}), a hardware name (${field.hardwareName}), an identifier (${
       field.id}), words of a meaning (${field.meaning}), or an address (${addressText(base)}).`;
@@ -64,7 +63,7 @@ function notFoundText(catalogue, query) {
 /** Opens on a chip that the query names, on the chosen one, or on the first that has it. */
 function resultOf(page, item, chips) {
   const chip = [...chips, page.chip].find((one) => item.chips.includes(one)) ?? item.chips[0];
-  const parts = [item.table.name, chip, ...(item.field ? [item.field.accessor] : [])];
+  const parts = [item.table.name, chip, ...(item.field ? [item.field.name] : [])];
   return h(
       "a", {href: formatState({view: "table", parts}), class: "result"}, h("b", {}, item.name),
       h("span", {}, item.detail),

@@ -2,27 +2,27 @@
 
 import {Catalogue} from "./catalogue.js";
 import {compareView} from "./compareView.js";
-import {compareChips} from "./comparison.js";
-import {readDump} from "./dumpReaders.js";
-import {diffOf} from "./dumps.js";
 import {dumpView} from "./dumpView.js";
 import {choice, h, messageOf, roving} from "./elements.js";
+import * as engine from "./engine.js";
 import {homeView, resultsOf} from "./homeView.js";
 import {searchItems} from "./search.js";
 import {formatState, parseState} from "./state.js";
 import {TableView} from "./tableView.js";
-import {bytesFrom, decodeEntry, encodeEntry} from "./values.js";
 
 const byId = (id) => document.getElementById(id);
-const catalogue = new Catalogue(JSON.parse(byId("catalogue").textContent));
+const catalogue = new Catalogue();
 
 const page = {
   catalogue,
-  items: searchItems(catalogue),
+  get items() {
+    return this.found ??= searchItems(catalogue);
+  },
   chip: catalogue.chips[catalogue.chips.length - 1].name,
   /** The entry that was shown last, to be kept where the table stays. */
   entry: null,
   dumps: {files: [null, null]},
+  shown: null,
 
   go(state) {
     this.flush();
@@ -180,19 +180,36 @@ addEventListener("click", (event) => event.target.closest("a") && page.flush(), 
 addEventListener("beforeprint", () => page.printed?.(true));
 addEventListener("afterprint", () => page.printed?.(false));
 
+const layoutOf = (table, chip) => catalogue.layout(table, chip).own;
+
+/** What a drop of files with a table and a chip does. */
+async function open(files, {table, chip} = {}) {
+  page.dumps.files = [files[0], files[1]].map(
+      (file) => file ? {name: file.name, bytes: file.bytes, options: {}} : null);
+  history.pushState(
+      null, "", formatState({view: "dumps", parts: table ? [table, chip].filter(Boolean) : []}));
+  showState();
+  const shown = byId("view");
+  if (shown.querySelector(".entries")) return;
+  throw new Error(shown.querySelector(".refusal:not(:empty)")?.textContent ?? shown.textContent);
+}
+
 /** For scripts; the comment at the top of the page describes it. */
 window.velmar = {
   chips: () => catalogue.chips.map((chip) => chip.name),
-  tables: (chip) => catalogue.layoutsOn(chip).map((layout) => layout.table.name),
-  decode: (table, chip, bytes) => decodeEntry(catalogue.layout(table, chip), bytesFrom(bytes)),
-  encode: (table, chip, values, base) => encodeEntry(
-      catalogue.layout(table, chip), values, base === undefined ? undefined : bytesFrom(base)),
-  compare: (oldChip, newChip, table) => compareChips(catalogue, oldChip, newChip, table ?? null),
+  tables: (chip) =>
+      catalogue.tables.filter((table) => table.chips.includes(chip)).map(({name}) => name),
+  decode: (table, chip, bytes) =>
+      JSON.parse(engine.dumpOf(layoutOf(table, chip), bytes).json()).entries[0].fields,
+  encode: (table, chip, values, base) => layoutOf(table, chip).encode(values, base),
+  compare: (oldChip, newChip, table) => engine.compare(oldChip, newChip, table ?? undefined),
   diff: (table, chip, old, now) => {
-    const layout = catalogue.layout(table, chip);
-    const [before, after] = [old, now].map((bytes) => readDump(bytesFrom(bytes), "raw", layout));
-    return diffOf(before, after);
+    const [before, after] = [old, now].map((bytes) => engine.dumpOf(layoutOf(table, chip), bytes));
+    return JSON.parse(before.diff(after)).entries;
   },
+  open,
 };
 
 showState();
+// The first search finds what it needs.
+requestIdleCallback(() => page.items);

@@ -1,5 +1,7 @@
 // The search over tables, fields and addresses.
 
+import {entriesAt} from "./engine.js";
+
 /** Lower case, without underscores and hyphens. */
 function simplified(text) {
   return text.toLowerCase().replace(/[_-]/g, "");
@@ -17,23 +19,22 @@ export function searchItems(catalogue) {
       names: [simplified(table.name)],
       text: simplified(`${table.name} ${table.purpose}`),
     });
-    for (const field of table.fields) items.push(fieldItem(table, field));
+    for (const {field, chips} of catalogue.fieldsOf(table))
+      items.push(fieldItem(table, field, chips));
   }
   return items.filter((item) => item.chips.length > 0);
 }
 
-function fieldItem(table, field) {
-  const at = table.fields.indexOf(field);
-  const chips = table.chips.filter((chip) => table.make.get(chip).row.widths[at] !== 0);
+function fieldItem(table, field, chips) {
   return {
     table,
     field,
     chips,
-    name: `${table.name}.${field.accessor}`,
+    name: `${table.name}.${field.name}`,
     detail: `${field.hardwareName}, identifier ${field.id}: ${field.meaning}`,
-    names: [simplified(field.accessor), simplified(field.hardwareName), String(field.id)],
-    text: simplified(`${table.name} ${field.accessor} ${field.hardwareName} identifier ${
-        field.id} ${field.meaning}`),
+    names: [simplified(field.name), simplified(field.hardwareName), String(field.id)],
+    text: simplified(`${table.name} ${field.name} ${field.hardwareName} identifier ${field.id} ${
+        field.meaning}`),
   };
 }
 
@@ -95,7 +96,7 @@ export function addressIn(query) {
 
 /** Every entry that has an address: [{layout, index, identifier}], on one chip or on all. */
 export function findAddress(catalogue, address, chips) {
-  return chips.flatMap(
-      (chip) => catalogue.layoutsOn(chip).flatMap(
-          (layout) => layout.entriesAt(address).map((entry) => ({layout, ...entry}))));
+  const placeOf = (chip) => ({table, index, identifier}) =>
+      ({layout: catalogue.layout(table, chip), index, identifier});
+  return chips.flatMap((chip) => entriesAt(chip, address).map(placeOf(chip)));
 }

@@ -1,12 +1,23 @@
 // A table on a chip: its facts, its bits, its fields, and an entry that is decoded and changed.
 
-import {readBits, setBits, writeBits} from "./bits.js";
-import {addressText, blockText, familyRule, numberedName, rangesText} from "./catalogue.js";
+import {addressText, blockText, entryText, familyRule, hexText, rangesText, refuse} from "./catalogue.js";
 import {diagramOf, numberedGroups} from "./diagram.js";
 import {attempt, grid, h, labelled, refusalPlace, roving} from "./elements.js";
-import {entryText, orderOf, orders, parseEntry} from "./entryText.js";
+import {read} from "./engine.js";
 import {formatState} from "./state.js";
-import {checked, hexText, parseValue, valueText} from "./values.js";
+
+/** How the digits of an entry may be read. */
+const orders = {
+  bytes: "bytes, the first byte first",
+  words: "32-bit words, the first word first",
+  number: "one number, the highest digit first",
+};
+/** What a reading calls them. */
+const hexOrders = {
+  bytes: "bytes",
+  words: "words",
+  number: "int"
+};
 
 export class TableView {
   /** `page` has the catalogue, and `replace` for a state that the person reached by editing. */
@@ -33,10 +44,10 @@ export class TableView {
   }
 
   /** The entry that was shown before stays where its bits mean the same. */
-  keepEntry({table, chip, places, bytes, order}) {
+  keepEntry({table, chip, key, bytes, order}) {
     if (table !== this.layout.table.name) return;
     this.order = order;
-    if (places === this.layout.places)
+    if (key === this.layout.key)
       this.set(bytes);
     else
       this.problem.textContent =
@@ -76,7 +87,7 @@ export class TableView {
                        .find((group) => group.includes(layout.chip))
                        .filter((chip) => chip !== layout.chip);
     const count =
-        layout.isRegisterArray ? `${layout.arrayElements} elements` : `${layout.entries} entries`;
+        layout.isRegisterArray ? `${layout.elements} elements` : `${layout.entries} entries`;
     const facts = {
       "Entry": `${layout.entryBytes} bytes, ${layout.words} word${layout.words === 1 ? "" : "s"}`,
       "Size": `${count}${layout.isRegisterArray ? " of a register array" : ""}`,
@@ -95,10 +106,10 @@ export class TableView {
 
   addressRule() {
     const layout = this.layout;
-    const step = layout.isRegisterArray ? ` + ${layout.addrStride} × element` : " + index";
-    const identifier = layout.identifierTerm === 0 || layout.identifiers === 1 ?
+    const step = layout.isRegisterArray ? ` + ${layout.elementStep} × element` : " + index";
+    const identifier = layout.identifierStep === 0 || layout.identifiers === 1 ?
         "" :
-        ` + ${layout.identifierTerm} × instance identifier`;
+        ` + ${layout.identifierStep} × instance identifier`;
     return addressText(layout.base) + step + identifier;
   }
 
@@ -139,7 +150,7 @@ export class TableView {
             labelled(`Instance identifier (0 to ${layout.identifiers - 1})`, identifier) :
             null,
         "→", result,
-        layout.identifiers > 1 && layout.identifierTerm === 0 ?
+        layout.identifiers > 1 && layout.identifierStep === 0 ?
             h("span", {class: "note"}, "All instances have the same address.") :
             null,
         problem);
@@ -188,11 +199,22 @@ export class TableView {
   readText() {
     if (this.text.value.trim() === "") return this.clear();
     this.isPasted = true;
-    const bytes = attempt(this.problem, () => {
-      this.setOrder(this.order ?? orderOf(this.text.value));
-      return parseEntry(this.text.value, this.order, this.layout.entryBytes);
+    const bytes = attempt(this.problem, () => this.entryOf(this.text.value), (option, value) => {
+      this.setOrder(
+          Object.keys(hexOrders).find((order) => hexOrders[order] === value) ?? this.order);
+      this.readText();
     });
     return this.show(bytes ?? null);
+  }
+
+  /** The bytes of the one entry of a text. */
+  entryOf(text) {
+    const options = this.order ? {hexOrder: hexOrders[this.order]} : {};
+    const dump = read(this.layout.own, text, options);
+    if (dump.count !== 1) refuse(`the text has ${dump.count} entries; paste one, or look at dumps`);
+    const entry = dump.entry(0).slice();
+    dump.free();
+    return entry;
   }
 
   setOrder(order) {
@@ -227,8 +249,8 @@ export class TableView {
   /** Shows an entry's values, or none. */
   show(bytes) {
     this.bytes = bytes;
-    const {table, chip, places} = this.layout;
-    if (bytes) this.page.entry = {table: table.name, chip, places, bytes, order: this.order};
+    const {table, chip, key} = this.layout;
+    if (bytes) this.page.entry = {table: table.name, chip, key, bytes, order: this.order};
     for (const cell of this.cells.values()) cell.show(bytes);
     this.strip.replaceChildren(...(
         bytes ? Array.from(
@@ -237,18 +259,17 @@ export class TableView {
                         h("span", {"data-byte": i, title: `byte ${i}, bits ${8 * i + 7}:${8 * i}`},
                           byte.toString(16).padStart(2, "0"))) :
                 []));
-    const outside = bytes ? setBits(this.layout.outsideFields(bytes)) : [];
+    const outside = bytes ? this.layout.outsideBits(bytes) : [];
     this.outside.textContent =
         outside.length === 0 ? "" : `Bits set outside all fields: ${rangesText(outside)}`;
     this.light(this.selected, "selected");
     this.remember();
   }
 
-  /** Writes a field of the entry; without an entry, of one that is all zero. */
+  /** Writes a field of the entry, a number or what a person typed; without an entry, of one that is all
+   * zero. */
   write(field, value) {
-    const bytes = Uint8Array.from(this.bytes ?? new Uint8Array(this.layout.entryBytes));
-    writeBits(bytes, field.offset, field.width, checked(field, value));
-    this.set(bytes);
+    this.set(this.layout.encode({[field.accessor]: value}, this.bytes));
   }
 
   state() {
@@ -414,19 +435,20 @@ class ValueCell {
   }
 
   change() {
-    if (this.input.value.trim() === "" && !this.view.bytes) return;
-    const value = attempt(this.problem, () => parseValue(this.field, this.input.value));
-    this.input.setAttribute("aria-invalid", value === undefined);
-    if (value !== undefined && !(this.view.bytes && value === this.value))
-      this.view.write(this.field, value);
+    const text = this.input.value.trim();
+    if (text === "" && !this.view.bytes) return;
+    const {layout, bytes} = this.view;
+    const entry = attempt(this.problem, () => layout.encode({[this.field.accessor]: text}, bytes));
+    this.input.setAttribute("aria-invalid", entry === undefined);
+    if (entry && !(bytes && layout.value(this.field, entry) === this.value)) this.view.set(entry);
   }
 
   show(bytes) {
     const field = this.field;
-    this.value = bytes ? readBits(bytes, field.offset, field.width) : null;
+    this.value = bytes ? this.view.layout.value(field, bytes) : null;
     this.problem.textContent = "";
     this.input.removeAttribute("aria-invalid");
-    this.input.value = bytes ? valueText(field, this.value) : "";
+    this.input.value = bytes ? this.view.layout.text(field, bytes) : "";
     this.hex.textContent = bytes && field.width <= 64 ? hexText(this.value) : "";
     if (bytes)
       this.row.dataset.value = hexText(this.value);
@@ -488,7 +510,7 @@ class PortCell {
       onclick: () => view.write(field, ((this.value ?? 0n) + 1n) % (1n << BigInt(field.width))),
       onkeydown: (event) => this.key(event),
     });
-    this.port = numberedName(field.accessor).number;
+    this.port = field.familyNumber;
     this.show(null);
   }
 
@@ -499,7 +521,7 @@ class PortCell {
 
   show(bytes) {
     const field = this.field;
-    this.value = bytes ? readBits(bytes, field.offset, field.width) : null;
+    this.value = bytes ? this.view.layout.value(field, bytes) : null;
     this.element.replaceChildren(`${this.port} `, ...(bytes ? [h("b", {}, `${this.value}`)] : []));
     this.element.title = `${field.accessor}, bits ${field.bits}${bytes ? `: ${this.value}` : ""}`;
     if (bytes)
