@@ -44,6 +44,10 @@ RATIOS = [
     ("encode/8192 VLANs", "encode/floor", 1.35),
     ("read back/8192 VLANs", "read back/floor", None),
     ("walk/generic", "walk/floor", 1.45),
+    ("states/136", "states/floor 136", 1.5),
+    ("states/272", "states/floor 272", 1.5),
+    ("bus/read", "bus/map look-up, read", 1.5),
+    ("bus/write", "bus/map look-up, write", 1.5),
     ("copy/routine 12", "copy/nothing 12", 1.4),
     ("copy/routine 272", "copy/nothing 272", 4.0),
 ]

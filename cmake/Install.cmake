@@ -3,7 +3,7 @@
 
 include(CMakePackageConfigHelpers)
 
-install(TARGETS VelmarMetaInfo
+install(TARGETS VelmarMetaInfo VelmarTesting
   EXPORT VelmarMetaInfoTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)

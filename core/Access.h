@@ -45,24 +45,18 @@ inline void fieldMask(const Catalogue::Table& table, const Catalogue::Chip& chip
 }
 
 /// Number of entries of a table, or of elements of a register array: one of the two is 1.
-inline U32 indexCount(const Catalogue::Geometry& geometry) {
-  return geometry.entries * geometry.arrayElements;
-}
+inline U32 indexCount(const Catalogue::Geometry& geometry) { return geometry.indexCount(); }
 
 /// Address of an entry of a table, or of an element of a register array.
 inline U32 addressOf(const Catalogue::Geometry& geometry, U32 index, U32 identifier) {
-  return geometry.addrStride == 0 ? geometry.addressOf(index, 0, identifier)
-                                  : geometry.addressOf(0, index, identifier);
+  return geometry.addressOfIndex(index, identifier);
 }
 
 /// The entry or element that has an address with an identifier.
 inline std::optional<U32> indexAt(const Catalogue::Geometry& geometry, U32 address,
                                   U32 identifier) {
-  const U32 step = geometry.addrStride == 0 ? 1 : geometry.addrStride;
-  const U32 first = addressOf(geometry, 0, identifier);
-  if (address < first || (address - first) % step != 0) return std::nullopt;
-  const U32 index = (address - first) / step;
-  return index < indexCount(geometry) ? std::optional<U32>(index) : std::nullopt;
+  const U32 index = geometry.indexAt(address, identifier);
+  return index < geometry.indexCount() ? std::optional<U32>(index) : std::nullopt;
 }
 
 }  // namespace Core

@@ -19,6 +19,9 @@ struct FieldPlace {
   U32 index = 0;  ///< among the fields of the table
 
   const char* name() const { return field.accessor; }
+  operator Catalogue::BitRange() const {  // NOLINT(google-explicit-constructor): its bits
+    return {static_cast<U16>(offset), static_cast<U16>(width)};
+  }
   bool isOfFamily() const { return family.prefixLength != 0; }
   /// Such as "spTreePort"; empty for a field alone.
   std::string_view prefix() const { return {field.accessor, family.prefixLength}; }

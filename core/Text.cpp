@@ -86,13 +86,7 @@ std::string join(const std::vector<std::string>& parts, std::string_view separat
 
 std::string rangesText(std::vector<U32> numbers) {
   std::sort(numbers.begin(), numbers.end());
-  std::string text;
-  for (size_t first = 0, next; first < numbers.size(); first = next) {
-    for (next = first + 1; next < numbers.size() && numbers[next] - numbers[next - 1] <= 1;) ++next;
-    text += (text.empty() ? "" : ",") + std::to_string(numbers[first]);
-    if (numbers[next - 1] != numbers[first]) text += '-' + std::to_string(numbers[next - 1]);
-  }
-  return text;
+  return Velmar::rangesText(numbers);
 }
 
 }  // namespace Core

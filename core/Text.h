@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "AsicUtils/Types.h"
+#include "Velmar/FieldValue.h"
 #include "core/Formatting.h"
 
 namespace Velmar {

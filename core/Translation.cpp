@@ -1,43 +1,39 @@
 #include "core/Translation.h"
 
 #include <algorithm>
+#include <optional>
 
-#include "core/EntryBuilder.h"
+#include "Velmar/Generic.h"
 
 namespace Velmar {
 namespace Core {
 namespace {
 
-/// Makes entries for another chip, field by field, and collects what gets lost.
+/// Moves entries to another chip, and collects what gets lost.
 class Translator {
  public:
-  Translator(const Layout& from, const Layout& to) : from_(from), to_(to), builder_(to) {
-    for (const FieldPlace& place : from.fields()) {
-      const auto same = std::find_if(
-          to.fields().begin(), to.fields().end(),
-          [&place](const FieldPlace& other) { return other.field.id == place.field.id; });
-      pairs_.push_back({&place, same == to.fields().end() ? nullptr : &*same});
-    }
+  Translator(const Layout& from, const Layout& to)
+      : from_(from), to_(to), bytes_(to.entryBytes()), places_(from.table().fieldCount()) {
+    for (const FieldPlace& place : from.fields()) places_[place.index] = &place;
   }
 
   /// The bytes of the entry on the other chip.
   const std::vector<U8>& translate(U32 index, const U8* entry) {
-    builder_.startFromZero();
-    for (const Pair& pair : pairs_) {
-      const Value value = Value::read(*pair.place, entry, from_.entryBytes());
-      if (!value.isZero()) move(pair, value, index);
+    const U32 chip = from_.chip().number;
+    for (const Velmar::Loss& loss :
+         translateEntry(from_.table(), chip, entry, to_.chip().number, bytes_.data())) {
+      lose(loss, index);
     }
-    if (from_.hasReservedBits(entry)) lose(nullptr, Reason::outsideFields, index);
-    return builder_.bytes();
+    return bytes_;
   }
 
-  void loseEntry(U32 index) { lose(nullptr, Reason::beyondEnd, index); }
+  void loseEntry(U32 index) { lose(std::nullopt, index); }
 
   std::vector<Loss> losses() const {
     std::vector<Loss> result;
     const auto areAlike = [this](size_t a, size_t b) {
-      return found_[a].place != nullptr && found_[b].place != nullptr &&
-             found_[b].place->isOfFamilyOf(*found_[a].place) &&
+      return placeOf(found_[a]) != nullptr && placeOf(found_[b]) != nullptr &&
+             placeOf(found_[b])->isOfFamilyOf(*placeOf(found_[a])) &&
              textOf(found_[a]) == textOf(found_[b]) && found_[a].indexes == found_[b].indexes;
     };
     for (const std::vector<size_t>& group : joined(found_.size(), areAlike)) {
@@ -48,68 +44,44 @@ class Translator {
   }
 
  private:
-  struct Pair {
-    const FieldPlace* place;
-    const FieldPlace* other;  ///< on the other chip; null: it has none
-  };
-  enum class Reason { noField, tooLarge, sharesBits, outsideFields, beyondEnd };
   struct Found {
-    const FieldPlace* place;
-    const FieldPlace* other;
-    Reason reason;
+    std::optional<Velmar::Loss> loss;  ///< nothing: the other chip has no such entry
     std::vector<U32> indexes;
   };
 
-  void move(const Pair& pair, const Value& value, U32 index) {
-    if (pair.other == nullptr) return lose(&pair, Reason::noField, index);
-    const std::optional<Value> fitting = value.resized(pair.other->width);
-    if (!fitting) return lose(&pair, Reason::tooLarge, index);
-    if (!builder_.set({*pair.other, *fitting})) lose(&pair, Reason::sharesBits, index);
-  }
-
-  void lose(const Pair* pair, Reason reason, U32 index) {
-    const FieldPlace* const place = pair == nullptr ? nullptr : pair->place;
-    const auto known = std::find_if(found_.begin(), found_.end(), [&](const Found& one) {
-      return one.place == place && one.reason == reason;
-    });
+  void lose(const std::optional<Velmar::Loss>& loss, U32 index) {
+    const auto known = std::find_if(found_.begin(), found_.end(),
+                                    [&](const Found& one) { return one.loss == loss; });
     if (known == found_.end()) {
-      found_.push_back({place, pair == nullptr ? nullptr : pair->other, reason, {index}});
+      found_.push_back({loss, {index}});
     } else {
       known->indexes.push_back(index);
     }
   }
 
+  /// The field that is lost; null for reserved bits and whole entries.
+  const FieldPlace* placeOf(const Found& found) const {
+    return found.loss && found.loss->field < places_.size() ? places_[found.loss->field] : nullptr;
+  }
+
   std::string nameOf(const std::vector<size_t>& group) const {
     const Found& first = found_[group.front()];
-    if (first.reason == Reason::outsideFields) return "outsideFields";
-    if (first.reason == Reason::beyondEnd) return "(entry)";
+    if (!first.loss) return "(entry)";
+    if (placeOf(first) == nullptr) return "outsideFields";
     FieldGroup fields;
-    for (const size_t i : group) fields.members.push_back(*found_[i].place);
+    for (const size_t i : group) fields.members.push_back(*placeOf(found_[i]));
     return fields.name();
   }
 
   std::string textOf(const Found& found) const {
-    const char* const chip = to_.chip().name;
-    switch (found.reason) {
-      case Reason::noField:
-        return formatText("{} has no such field on {}", to_.name(), chip);
-      case Reason::tooLarge:
-        return formatText("too large for {} bit{} on {}", found.other->width,
-                          pluralEnd(found.other->width), chip);
-      case Reason::sharesBits:
-        return formatText("it shares bits with others on {}", chip);
-      case Reason::outsideFields:
-        return "bits outside all fields have no name";
-      case Reason::beyondEnd:
-        break;
-    }
-    return formatText("{} has {} entries", chip, to_.indexCount());
+    if (found.loss) return lossText(to_.table(), *found.loss, to_.chip());
+    return formatText("{} has {} entries", to_.chip().name, to_.indexCount());
   }
 
   const Layout& from_;
   const Layout& to_;
-  EntryBuilder builder_;
-  std::vector<Pair> pairs_;
+  std::vector<U8> bytes_;
+  std::vector<const FieldPlace*> places_;  ///< by the field's index
   std::vector<Found> found_;
 };
 

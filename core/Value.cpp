@@ -75,126 +75,6 @@ Expected<Value> parsePorts(const FieldPlace& place, std::string_view text) {
 
 }  // namespace
 
-Value::Value(U32 width) : width_(width) {
-  for (U32 i = 0; i < wordCount(); ++i) words_[i] = 0;
-}
-
-Value Value::read(const FieldPlace& place, const U8* entry, U32 entryBytes) {
-  Value value(place.width);
-  readBits(entry, entryBytes, place.offset, place.width, value.words_.data(),
-           4 * value.wordCount());
-  return value;
-}
-
-void Value::write(const FieldPlace& place, U8* entry, U32 entryBytes) const {
-  writeBits(entry, entryBytes, place.offset, place.width, words_.data(), 4 * wordCount());
-}
-
-bool Value::isZero() const {
-  for (U32 i = 0; i < wordCount(); ++i) {
-    if (words_[i] != 0) return false;
-  }
-  return true;
-}
-
-std::optional<Value> Value::resized(U32 width) const {
-  Value value(width);
-  if (nextBit(std::min(width, width_)) != width_) return std::nullopt;
-  for (U32 i = 0; i < std::min(wordCount(), value.wordCount()); ++i) value.words_[i] = words_[i];
-  return value;
-}
-
-bool operator==(const Value& a, const Value& b) {
-  if (a.width_ != b.width_) return false;
-  for (U32 i = 0; i < a.wordCount(); ++i) {
-    if (a.words_[i] != b.words_[i]) return false;
-  }
-  return true;
-}
-
-bool operator<(const Value& a, const Value& b) {
-  for (U32 i = a.wordCount(); i-- > 0;) {
-    if (a.words_[i] != b.words_[i]) return a.words_[i] < b.words_[i];
-  }
-  return false;
-}
-
-bool Value::contains(const Value& other) const {
-  Value both = *this;
-  both.add(other);
-  return both == *this;
-}
-
-bool Value::overlaps(const Value& other) const {
-  Value rest = *this;
-  rest.remove(other);
-  return rest != *this;
-}
-
-void Value::add(const Value& other) {
-  for (U32 i = 0; i < wordCount(); ++i) words_[i] |= other.words_[i];
-}
-
-void Value::remove(const Value& other) {
-  for (U32 i = 0; i < wordCount(); ++i) words_[i] &= ~other.words_[i];
-}
-
-std::string Value::hexDigits() const {
-  char digits[8 * maxWords];
-  char* const end = digits + 8 * wordCount();
-  char* at = end;
-  for (U32 i = 0; i < wordCount(); ++i) {
-    for (U32 shift = 0; shift < 32; shift += 4) *--at = "0123456789abcdef"[words_[i] >> shift & 15];
-  }
-  while (at + 1 < end && *at == '0') ++at;
-  return {at, end};
-}
-
-std::optional<U64> Value::number() const {
-  for (U32 i = 2; i < wordCount(); ++i) {
-    if (words_[i] != 0) return std::nullopt;
-  }
-  const U64 high = wordCount() > 1 ? words_[1] : 0;
-  return high << 32 | words_[0];
-}
-
-std::vector<U32> Value::ports() const {
-  std::vector<U32> ports;
-  for (U32 bit = nextBit(0); bit < width_; bit = nextBit(bit + 1)) ports.push_back(bit);
-  return ports;
-}
-
-std::string Value::portRanges() const { return isZero() ? "none" : rangesText(ports()); }
-
-U32 Value::nextBit(U32 bit) const {
-  while (bit < width_) {
-    const U32 rest = words_[bit / 32] >> bit % 32;
-    if (rest != 0) return std::min(width_, bit + static_cast<U32>(__builtin_ctz(rest)));
-    bit = (bit / 32 + 1) * 32;
-  }
-  return width_;
-}
-
-void Value::setBit(U32 bit) { words_[bit / 32] |= 1U << bit % 32; }
-
-bool Value::setHexDigits(std::string_view digits) {
-  U32 bit = 0;
-  for (size_t i = digits.size(); i-- > 0; bit += 4) {
-    const U32 digit = static_cast<U32>(hexDigit(digits[i]));
-    if (digit == 0) continue;
-    if (bit >= width_ || (width_ - bit < 4 && digit >> (width_ - bit) != 0)) return false;
-    words_[bit / 32] |= digit << bit % 32;
-  }
-  return true;
-}
-
-bool Value::setNumber(U64 number) {
-  if (width_ < 64 && number >> width_ != 0) return false;
-  words_[0] = static_cast<U32>(number);
-  if (wordCount() > 1) words_[1] = static_cast<U32>(number >> 32);
-  return true;
-}
-
 U64 readScalar(const FieldPlace& place, const U8* entry, U32 entryBytes) {
   U64 value = 0;
   readBits(entry, entryBytes, place.offset, place.width, &value, sizeof(value));
@@ -244,11 +124,6 @@ std::string reservedBits(const Layout& layout, const U8* entry) {
   std::vector<U8> bits = layout.reservedMask();
   for (size_t i = 0; i < bits.size(); ++i) bits[i] = static_cast<U8>(bits[i] & entry[i]);
   return Value::read(layout.wholeEntry(), bits.data(), layout.entryBytes()).hex();
-}
-
-std::string plainText(const FieldPlace& place, const Value& value) {
-  if (place.isBitmap()) return value.portRanges();
-  return place.width <= exactBits ? std::to_string(*value.number()) : value.hex();
 }
 
 }  // namespace Core

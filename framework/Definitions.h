@@ -12,6 +12,22 @@
 // ViewFields.
 // `scripts/expand <Class>` prints the expansion for a class.
 
+namespace Velmar {
+namespace Framework {
+
+/// The data of a view class.
+template <class View>
+struct ClassDataOf;
+
+}  // namespace Framework
+
+template <class View>
+Catalogue::Table Catalogue::Table::of() {
+  return Table(Framework::ClassDataOf<View>::data);
+}
+
+}  // namespace Velmar
+
 // clang-format off
 
 /// The call site of the enclosing member.
@@ -47,6 +63,14 @@
   constexpr Framework::ClassData classData_##CLASS = Framework::makeClassData(                 \
       #CLASS, __LINE__, KIND, about, Framework::idRangeOf(names).first, tableArrays,           \
       tableFacts);
+
+/// The class's table in the catalogue.
+#define VELMAR_DEFINE_TABLE_OF(CLASS)                                      \
+  template <>                                                              \
+  struct Framework::ClassDataOf<CLASS> {                                   \
+    static constexpr const Framework::ClassData& data = classData_##CLASS; \
+  };                                                                       \
+  template VELMAR_EXPORT Catalogue::Table Catalogue::Table::of<CLASS>();
 
 /// What the engine's templates read of the class.
 #define VELMAR_DEFINE_VIEW_DATA(CLASS)                                     \
@@ -143,6 +167,7 @@
 #define VELMAR_DEFINE_VIEW(CLASS, KIND, RAW, FIELDS, SPANS, about, layout, chips, chipFacts)    \
   VELMAR_DEFINE_DATA(CLASS, KIND, RAW, FIELDS, SPANS, about, layout, chips, chipFacts)          \
   VELMAR_DEFINE_VIEW_DATA(CLASS)                                                                \
+  VELMAR_DEFINE_TABLE_OF(CLASS)                                                                 \
   VELMAR_DEFINE_CONSTRUCTION(CLASS, KIND)                                                       \
   FIELDS(VELMAR_DEFINE_FIELD)                                                                   \
   VELMAR_DEFINE_GENERIC_ACCESS(CLASS, RAW)                                                      \

@@ -16,6 +16,8 @@ namespace Framework {
 /// Geometry and address of one row. The names are those of the public members that return them.
 struct RowFacts : Geometry {
   const AsicUtils::EntrySpan* span = nullptr;
+  U16 portField = 0;  ///< the first field of the class's port family
+  U16 ports = 0;      ///< fields of the family; 0: it has none on the row
 
   static constexpr U32 index_min = 0;
   static constexpr U32 arrayIndex_min = 0;
@@ -239,6 +241,16 @@ constexpr auto makeFacts(Kind kind, const FieldName (&names)[fields], const Clas
   }
   for (U32 field = 0; field < fields; ++field) {
     facts.ofField[field] = makeFieldFacts(names[field], fieldRows);
+  }
+  for (U32 field = fields; field-- > 0;) {
+    const FieldFacts& ofField = facts.ofField[field];
+    if (ofField.prefixLength == 0) continue;
+    for (U32 row = 0; row < rows; ++row) {
+      const auto& ranges = fieldRowOf(fieldRows, ofField.id).ranges;
+      if (!isPresent(ranges[chipRows[row].column])) continue;
+      facts.ofRow[row].portField = static_cast<U16>(field);
+      ++facts.ofRow[row].ports;
+    }
   }
   return facts;
 }

@@ -7,6 +7,7 @@ namespace Velmar {
 
 namespace Framework {
 struct ClassData;
+class TableAccess;
 }  // namespace Framework
 
 /// Everything that the library knows, as data: every chip, class and field, with layout, geometry
@@ -74,11 +75,30 @@ struct Geometry {
   constexpr U32 addressOf(U32 entry, U32 element, U32 identifier) const {
     return base + identifier * identifierTerm + entry + element * addrStride;
   }
+
+  /// Number of entries of a table, or of elements of a register array: one of the two is 1.
+  constexpr U32 indexCount() const { return entries * arrayElements; }
+  /// S-channel address of an entry of a table, or of an element of a register array.
+  constexpr U32 addressOfIndex(U32 index, U32 identifier) const {
+    return addrStride == 0 ? addressOf(index, 0, identifier) : addressOf(0, index, identifier);
+  }
+  /// The entry or element that has an address with an identifier; indexCount() if none has.
+  constexpr U32 indexAt(U32 address, U32 identifier) const {
+    const U32 step = addrStride == 0 ? 1 : addrStride;
+    const U32 first = addressOfIndex(0, identifier);
+    if (address < first || (address - first) % step != 0) return indexCount();
+    const U32 index = (address - first) / step;
+    return index < indexCount() ? index : indexCount();
+  }
 };
 
 /// One view class. A small value; copy it freely.
 class VELMAR_EXPORT Table {
  public:
+  /// The table of a view class: `Table::of<VlanEntry>()`. Other types do not link.
+  template <class View>
+  static Table of();
+
   const char* name() const;     ///< class name, such as "VlanEntry"
   const char* purpose() const;  ///< its contents, in a few words
   Kind kind() const;
@@ -105,6 +125,7 @@ class VELMAR_EXPORT Table {
 
  private:
   friend VELMAR_EXPORT Table table(U32 index);
+  friend class Framework::TableAccess;
   explicit Table(const Framework::ClassData& data) : data_(&data) {}
 
   const Framework::ClassData* data_;
