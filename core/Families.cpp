@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/Value.h"
+
 namespace Velmar {
 namespace Core {
 
@@ -37,6 +39,22 @@ std::string FieldGroup::bits() const {
     all.width = end - all.offset;
   }
   return all.bits();
+}
+
+std::string FieldGroup::valuesOf(const U8* entry, U32 entryBytes) const {
+  std::vector<U64> values;
+  for (const FieldPlace& place : members) {
+    values.push_back(readScalar(place, entry, entryBytes));
+  }
+  std::string text;
+  for (const auto& alike :
+       joined(values.size(), [&values](size_t a, size_t b) { return values[a] == values[b]; })) {
+    std::vector<U32> numbers;
+    for (const size_t i : alike) numbers.push_back(members[i].family.number);
+    text += formatText("{}{}: {}", text.empty() ? "" : "  ", values[alike.front()],
+                       rangesText(numbers));
+  }
+  return text;
 }
 
 std::vector<FieldGroup> grouped(const std::vector<FieldPlace>& fields, bool asFamilies) {
@@ -89,6 +107,16 @@ Expected<std::vector<FieldPlace>> findFields(const Layout& layout, std::string_v
     found.push_back(**place);
   }
   return found;
+}
+
+Expected<std::vector<FieldPlace>> findFieldsOrFamily(const Layout& layout, std::string_view name) {
+  const std::string simple = simplified(name);
+  std::vector<FieldPlace> family;
+  for (const FieldPlace& place : layout.fields()) {
+    if (place.isOfFamily() && simplified(place.prefix()) == simple) family.push_back(place);
+  }
+  if (family.empty()) return findFields(layout, name);
+  return family;
 }
 
 }  // namespace Core

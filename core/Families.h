@@ -26,6 +26,8 @@ struct FieldGroup {
   std::vector<U32> ids() const;
   /// The bits from the first to the last member's, as FieldPlace::bits() has them.
   std::string bits() const;
+  /// The values of a family, the fields of one value together: "3: 1-9,11-20  0: 0,10".
+  std::string valuesOf(const U8* entry, U32 entryBytes) const;
 };
 
 /// Fields as groups, in the order given: those of one family and width that follow each other share
@@ -55,6 +57,9 @@ std::vector<std::vector<size_t>> joined(size_t count, const AreAlike& areAlike) 
 /// The fields that a typed name stands for: a field, numbered fields such as "spTreePort0-3", or all
 /// that match a name with * and ?. A fault if there is none.
 Expected<std::vector<FieldPlace>> findFields(const Layout& layout, std::string_view name);
+
+/// The same; the name of a family stands for all its fields.
+Expected<std::vector<FieldPlace>> findFieldsOrFamily(const Layout& layout, std::string_view name);
 
 }  // namespace Core
 }  // namespace Velmar

@@ -58,7 +58,7 @@ class velmar_field(ctypes.Structure):
     _fields_ = [("accessor", c_char_p), ("hardware_name", c_char_p), ("meaning", c_char_p),
                 ("index", c_uint32), ("id", c_uint32), ("type", c_uint32), ("first_bit", c_uint32),
                 ("bits", c_uint32), ("overlaps", c_uint32), ("family_letters", c_uint32),
-                ("family_number", c_uint32)]
+                ("family_number", c_uint32), ("family_first", c_uint32), ("family_fields", c_uint32)]
 
 
 class velmar_layout_facts(ctypes.Structure):
