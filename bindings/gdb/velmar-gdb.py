@@ -39,7 +39,7 @@ def field_texts(layout, entry):
 
 def read(layout, address):
     memory = gdb.selected_inferior().read_memory(address, layout.entry_bytes)
-    return field_texts(layout, layout.decode(memory)[0])
+    return field_texts(layout, layout.decode(memory, expand=True)[0])
 
 
 def class_of(view):
