@@ -30,9 +30,8 @@ velmar_code checkAlike(const Core::Layout& a, const Core::Layout& b) {
 }
 
 /// The text that `writer` makes of what changed.
-template <class Writer>
 velmar_code giveDifference(const velmar_dump* before, const velmar_dump* after, char** text,
-                           Writer writer) {
+                           std::string (*writer)(const Core::Layout&, const Core::Difference&)) {
   if (const auto code =
           checkPointers({{before, "the dump"}, {after, "the other dump"}, {text, "the text"}}))
     return code;
@@ -96,9 +95,10 @@ velmar_code velmar_entries_json(const velmar_dump* dump, const uint32_t* positio
 }
 
 velmar_code velmar_diff(const velmar_dump* before, const velmar_dump* after, char** text) {
-  return giveDifference(before, after, text, [](const auto& layout, const auto& found) {
-    return Core::differenceText(layout, found, Core::RowFormat::json);
-  });
+  return giveDifference(before, after, text,
+                        [](const Core::Layout& layout, const Core::Difference& found) {
+                          return Core::differenceText(layout, found, Core::RowFormat::json);
+                        });
 }
 
 velmar_code velmar_diff_text(const velmar_dump* before, const velmar_dump* after, char** text) {

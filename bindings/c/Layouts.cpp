@@ -22,30 +22,26 @@ velmar_code checkMask(const velmar_layout* layout, const U8* mask, size_t size) 
   return checkSize("the mask", size, 4U * geometryOf(layout).words);
 }
 
-struct FamilyFacts {
-  U32 first;   ///< index of its first field; of a field alone its own
-  U32 fields;  ///< 0 for a field alone
-};
-
-/// The family of a field: its fields that a chip has, or that any chip has.
-FamilyFacts familyOf(const Catalogue::Table& table, U32 field, std::optional<U32> chip) {
-  const U32 length = table.family(field).prefixLength;
-  const char* const prefix = table.field(field).accessor;
-  FamilyFacts facts{field, 0};
-  for (U32 i = 0; length != 0 && i < table.fieldCount(); ++i) {
-    if (table.family(i).prefixLength != length || (chip && table.range(i, *chip).width == 0))
-      continue;
-    if (std::memcmp(table.field(i).accessor, prefix, length) != 0) continue;
-    if (facts.fields++ == 0) facts.first = i;
-  }
-  return facts;
+bool areOfOneFamily(const Catalogue::Table& table, U32 a, U32 b) {
+  const U32 length = table.family(a).prefixLength;
+  return length != 0 && table.family(b).prefixLength == length &&
+         std::memcmp(table.field(a).accessor, table.field(b).accessor, length) == 0;
 }
 
-/// A field of a table, without its bits; its family on a chip, or on all together.
-velmar_field fieldFacts(const Catalogue::Table& table, U32 index, std::optional<U32> chip) {
+/// The family of a field: its fields that a chip has, or that any chip has.
+void addFamily(velmar_field& facts, const Catalogue::Table& table, std::optional<U32> chip) {
+  facts.family_first = facts.index;
+  for (U32 i = 0; facts.family_letters != 0 && i < table.fieldCount(); ++i) {
+    if ((chip && table.range(i, *chip).width == 0) || !areOfOneFamily(table, facts.index, i))
+      continue;
+    if (facts.family_fields++ == 0) facts.family_first = i;
+  }
+}
+
+/// A field of a table, without its bits and its family.
+velmar_field fieldFacts(const Catalogue::Table& table, U32 index) {
   const Catalogue::Field field = table.field(index);
   const Catalogue::Family family = table.family(index);
-  const FamilyFacts all = familyOf(table, index, chip);
   return {field.accessor,
           field.hardwareName,
           field.meaning,
@@ -57,8 +53,8 @@ velmar_field fieldFacts(const Catalogue::Table& table, U32 index, std::optional<
           field.overlaps,
           family.prefixLength,
           family.number,
-          all.first,
-          all.fields};
+          0,
+          0};
 }
 
 constexpr size_t firstFieldSize = offsetof(velmar_field, family_first);
@@ -77,11 +73,18 @@ void forEachShared(const velmar_layout* layout, U32 field, Use use) {
   }
 }
 
-/// A field with its bits on a chip, which has it.
-velmar_field fieldOn(const velmar_layout* layout, U32 field) {
+/// A field with its bits on a chip, which has it. `earlier`: one that is known, perhaps of its family.
+velmar_field fieldOn(const velmar_layout* layout, U32 field, const velmar_field& earlier = {}) {
+  const Catalogue::Table table = tableOf(layout);
   const U32 chip = chipOf(layout).number;
-  const Catalogue::BitRange range = tableOf(layout).range(field, chip);
-  velmar_field facts = fieldFacts(tableOf(layout), field, chip);
+  const Catalogue::BitRange range = table.range(field, chip);
+  velmar_field facts = fieldFacts(table, field);
+  if (earlier.family_fields != 0 && areOfOneFamily(table, earlier.index, field)) {
+    facts.family_first = earlier.family_first;
+    facts.family_fields = earlier.family_fields;
+  } else {
+    addFamily(facts, table, chip);
+  }
   facts.first_bit = range.offset;
   facts.bits = range.width;
   facts.overlaps = 0;
@@ -135,7 +138,9 @@ velmar_code velmar_field_info(uint32_t table, uint32_t field, velmar_field* info
   if (const auto code = checkTable(table)) return code;
   const Catalogue::Table found = Catalogue::table(table);
   if (const auto code = checkIndex("field", field, found.fieldCount())) return code;
-  return give(fieldFacts(found, field, std::nullopt), info, size, firstFieldSize);
+  velmar_field facts = fieldFacts(found, field);
+  addFamily(facts, found, std::nullopt);
+  return give(facts, info, size, firstFieldSize);
 }
 
 velmar_code velmar_find_chip(const char* name, uint32_t* chip) {
@@ -155,7 +160,7 @@ velmar_code velmar_find_field(const velmar_layout* layout, const char* name, uin
   auto found = Core::findField(tableOf(layout), chipOf(layout), name);
   // What the core advises for a family are many fields, too.
   if (!found && found.error().code == Code::ambiguous) {
-    found.error().advise("give one of them by its number, or ask velmar_find_fields()");
+    found.error().advise("give one of them, with its number");
   }
   return take(found, *field);
 }
@@ -230,10 +235,12 @@ velmar_code velmar_fields_of(const velmar_layout* layout, velmar_field* fields, 
   const U32 own = geometryOf(layout).fieldCount;
   if (const auto code = checkSize("the array", count, own, "fields")) return code;
   U8* into = reinterpret_cast<U8*>(fields);
+  velmar_field facts{};
   for (U32 i = 0; i < tableOf(layout).fieldCount(); ++i) {
     if (tableOf(layout).range(i, chipOf(layout).number).width == 0) continue;
+    facts = fieldOn(layout, i, facts);
     velmar_field* const one = reinterpret_cast<velmar_field*>(into);
-    if (const auto code = give(fieldOn(layout, i), one, size, firstFieldSize)) return code;
+    if (const auto code = give(facts, one, size, firstFieldSize)) return code;
     into += size;
   }
   return VELMAR_OK;
