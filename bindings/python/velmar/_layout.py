@@ -206,16 +206,18 @@ class Layout(metaclass=Brief):
           family                (n, fields) uint8; with `expand` each field by itself
         Bits outside all fields are in no column; decode() shows them. ImportError: there is no numpy.
         """
-        import numpy  # noqa: F401, before all else
+        import numpy
         if dtype not in (None, "smallest"):
             raise Error(f"dtype has no choice {dtype!r}; give \"smallest\" or None")
         _, raw = self._entries(data)
         if fields is None:
-            return {part.name: self._column(part, raw, dtype)
-                    for part in (self.fields if expand else self._parts)}
-        names = cast(Iterable[FieldName], fields) if is_list(fields) else [cast(FieldName, fields)]
-        chosen = [part for name in names for part in self._named(name, expand)]
-        return {part.name: self._column(part, raw, dtype) for part in chosen}
+            chosen: Iterable[Part] = self.fields if expand else self._parts
+        elif isinstance(fields, str) or not is_list(fields):
+            chosen = self._named(cast(FieldName, fields), expand)
+        else:
+            names = cast(Iterable[FieldName], fields)
+            chosen = [part for name in names for part in self._named(name, expand)]
+        return {part.name: self._column(numpy, part, raw, dtype) for part in chosen}
 
     def encode(self, values: Mapping[Any, Any], base: Optional[Data] = None) -> bytes:
         """The bytes of an entry with these values, which are as those of decode(). Fields that are not
@@ -229,16 +231,18 @@ class Layout(metaclass=Brief):
         raw = bytes(self.entry_bytes) if base is None else self._entries(base)[1]
         if len(raw) != self.entry_bytes:
             raise Error(f"the base has {len(raw)} bytes; give one entry of {self.entry_bytes} bytes")
-        texts: Dict[Any, str] = {}
+        texts: Dict[Any, bytes] = {}
         for name, value in values.items():
             if name == OUTSIDE:
-                texts[name] = f"{OUTSIDE}={number_text(OUTSIDE, value or 0)}"
+                texts[name] = f"{OUTSIDE}={number_text(OUTSIDE, value or 0)}".encode()
                 continue
-            for field, one in self._given(name, value):
+            known = self._by_name.get(name) if isinstance(name, str) else None
+            given = [(known, value)] if isinstance(known, Field) else self._given(name, value)
+            for field, one in given:
                 key = field.name if field.family else (name, field.name)
-                texts[key] = f"{field.name}={value_text(field, one)}"
+                texts[key] = f"{field.name}={value_text(field, one)}".encode()
         entry = ctypes.create_string_buffer(raw, self.entry_bytes)
-        array = (ctypes.c_char_p * len(texts))(*(text(each) for each in texts.values()))
+        array = (ctypes.c_char_p * len(texts))(*texts.values())
         call("velmar_encode", self._handle, array, len(texts), entry, self.entry_bytes)
         return entry.raw
 
@@ -266,10 +270,10 @@ class Layout(metaclass=Brief):
         for part, array in given:
             if isinstance(part, Field) and not part.family and part.name in written:
                 raise Error(f"{part.name} is given twice; give it once")
-            written[part.name] = part, self._write_column(part, array, entries)
+            written[part.name] = part, self._write_column(numpy, part, array, entries)
         for part, column in written.values():
             if isinstance(part, Field) and part.overlaps and not numpy.array_equal(
-                    self._column(part, entries.tobytes(), None), column):
+                    self._column(numpy, part, entries.tobytes(), None), column):
                 raise Error(f"{part.name} shares bits with another field and their values disagree; give "
                             "one of them, or values that agree")
         changed = entries.tobytes()
@@ -336,7 +340,7 @@ class Layout(metaclass=Brief):
 
     def _named(self, name: FieldName, expand: bool = False) -> Sequence[Part]:
         """The parts that a name stands for; all fields of a family are the family."""
-        known = name_of(name, "field")
+        known = name if isinstance(name, str) else name_of(name, "field")
         found = self._by_name.get(known)
         if found is None:
             indexes, count = (ctypes.c_uint32 * len(self.fields))(), ctypes.c_size_t()
@@ -444,8 +448,7 @@ class Layout(metaclass=Brief):
         return (int.from_bytes(raw[i:i + size], "little") & self._reserved
                 for i in range(0, len(raw), size))
 
-    def _column(self, part: Part, raw: bytes, dtype: Optional[str]) -> numpy.ndarray[Any, Any]:
-        import numpy
+    def _column(self, numpy: Any, part: Part, raw: bytes, dtype: Optional[str]) -> Any:
         shape, kind = _form(part, len(raw) // self.entry_bytes)
         column = numpy.empty(shape, kind)
         self._move("read", part, raw, len(raw), column.ctypes.data, column.size)
@@ -461,10 +464,8 @@ class Layout(metaclass=Brief):
             return column.view(numpy.int64)
         return column.astype(numpy.min_scalar_type((1 << part.bits) - 1))
 
-    def _write_column(self, part: Part, given: numpy.ndarray[Any, Any],
-                      entries: numpy.ndarray[Any, Any]) -> numpy.ndarray[Any, Any]:
+    def _write_column(self, numpy: Any, part: Part, given: Any, entries: Any) -> Any:
         """Writes a column; returns it as it is read again."""
-        import numpy
         shape, kind = _form(part, entries.size // self.entry_bytes)
         form, most = shape, numpy.iinfo(kind).max
         is_bitmap = isinstance(part, Field) and part.type == "bitmap"
@@ -474,16 +475,19 @@ class Layout(metaclass=Brief):
             raise Error(f"{part.name}: an array of the shape {given.shape}; give one of {form}, or a number")
         if given.dtype.kind not in "biu" and given.size:
             raise WrongType(f"{part.name}: an array of {given.dtype}; give one of integers")
-        if given.size and (given.min() < 0 or given.max() > most):
-            raise Error(f"{part.name}: {given.min() if given.min() < 0 else given.max()} does not fit; give "
-                        f"0 to {most} at most")
-        column = numpy.broadcast_to(given, form)
+        # What is too large for a field of up to 64 bits, the library says.
+        lowest = given.min() if given.size and given.dtype.kind == "i" else 0
+        highest = given.max() if given.size and kind != "uint64" else 0
+        if lowest < 0 or highest > most:
+            raise Error(f"{part.name}: {min(lowest, 0) or highest} does not fit; give 0 to {most} at most")
+        column = given if given.ndim else numpy.broadcast_to(given, form)
         if is_bitmap:
             values = numpy.zeros(shape, kind)
             packed = numpy.packbits(column.astype(bool), axis=1, bitorder="little")
             values.view(numpy.uint8)[:, :packed.shape[1]] = packed
         else:
-            values = numpy.ascontiguousarray(column, kind)
+            same = column.view(kind) if column.dtype == numpy.int64 and kind == "uint64" else column
+            values = numpy.ascontiguousarray(same, kind)
         self._move("write", part, entries.ctypes.data, entries.size, values.ctypes.data, values.size)
         return column
 

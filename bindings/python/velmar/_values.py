@@ -61,7 +61,7 @@ def value_text(field: Field, value: Any) -> str:
 
 
 def number_text(name: str, value: Any) -> str:
-    number = integer(value, name)
+    number = value if type(value) is int else integer(value, name)
     if number < 0:
         raise Error(f"{name}: {number if number > -1 << 64 else 'it'} is negative; give an int from 0 on")
     # Python refuses to write thousands of decimal digits.
