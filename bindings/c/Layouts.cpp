@@ -172,8 +172,8 @@ velmar_code velmar_find_fields(const velmar_layout* layout, const char* name, ui
                                        {fields, "the array"},
                                        {count, "the count"}}))
     return code;
-  const U32 most = geometryOf(layout).fieldCount;
-  if (room < most) return checkSize("the array", room, most, "fields");
+  const U32 fieldCount = geometryOf(layout).fieldCount;
+  if (room < fieldCount) return checkSize("the array", room, fieldCount, "fields");
   return allocating([&] {
     const auto own = Core::Layout::of(tableOf(layout), chipOf(layout), 0);
     if (!own) return fail(own.error());
