@@ -12,18 +12,25 @@ namespace {
 /// The entries of a dump by ascending index.
 class Ordered {
  public:
-  explicit Ordered(const Dump& dump) : dump_(dump), positions_(dump.count()) {
+  explicit Ordered(const Dump& dump) : dump_(dump) {
+    if (dump.isConsecutive()) return;
+    positions_.resize(dump.count());
     for (size_t i = 0; i < positions_.size(); ++i) positions_[i] = i;
     const auto isBefore = [&dump](size_t a, size_t b) { return dump.index(a) < dump.index(b); };
-    if (std::is_sorted(positions_.begin(), positions_.end(), isBefore)) return;
     std::sort(positions_.begin(), positions_.end(), isBefore);
   }
 
-  bool hasEntry() const { return next_ < positions_.size(); }
-  U32 index() const { return dump_.index(positions_[next_]); }
-  const U8* take() { return dump_.bytes(positions_[next_++]); }
+  bool hasEntry() const { return next_ < dump_.count(); }
+  U32 index() const { return dump_.index(position()); }
+  const U8* take() {
+    const U8* const bytes = dump_.bytes(position());
+    ++next_;
+    return bytes;
+  }
 
  private:
+  size_t position() const { return positions_.empty() ? next_ : positions_[next_]; }
+
   const Dump& dump_;
   std::vector<size_t> positions_;
   size_t next_ = 0;

@@ -35,6 +35,8 @@ class Dump {
   void add(U32 index, const U8* bytes);
 
   size_t count() const { return count_; }
+  /// Whether the indexes follow each other in ascending order.
+  bool isConsecutive() const { return indexes_.empty(); }
   U32 index(size_t i) const {
     return indexes_.empty() ? first_ + static_cast<U32>(i) : indexes_[i];
   }

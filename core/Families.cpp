@@ -54,6 +54,14 @@ std::vector<std::pair<U64, std::vector<U32>>> FieldGroup::numbersByValue(const U
   return values;
 }
 
+std::string FieldGroup::valuesOf(const U8* entry, U32 entryBytes) const {
+  std::string text;
+  for (const auto& [value, numbers] : numbersByValue(entry, entryBytes)) {
+    text += formatText("{}{}: {}", text.empty() ? "" : "  ", value, rangesText(numbers));
+  }
+  return text;
+}
+
 std::vector<FieldGroup> grouped(const std::vector<FieldPlace>& fields, bool asFamilies) {
   std::vector<FieldGroup> groups;
   for (size_t begin = 0; begin < fields.size();) {

@@ -29,6 +29,8 @@ struct FieldGroup {
   /// The values in an entry, each with the numbers of its fields, in the order of the first ones.
   std::vector<std::pair<U64, std::vector<U32>>> numbersByValue(const U8* entry,
                                                                U32 entryBytes) const;
+  /// The values of a family, the fields of one value together: "3: 1-9,11-20  0: 0,10".
+  std::string valuesOf(const U8* entry, U32 entryBytes) const;
 };
 
 /// Fields as groups, in the order given: those of one family and width that follow each other share

@@ -4,6 +4,7 @@
 #include "core/Comparison.h"
 #include "core/Difference.h"
 #include "core/Documents.h"
+#include "core/EntryLines.h"
 #include "core/Identification.h"
 #include "core/Translation.h"
 
@@ -26,6 +27,20 @@ velmar_code checkAlike(const Core::Layout& a, const Core::Layout& b) {
   return fail(Fault(Code::input, "the dumps are of {}, variant {}, and of {}, variant {}",
                     a.shown(), a.variant(), b.shown(), b.variant())
                   .advise("give two dumps of one table, chip and variant"));
+}
+
+/// The text that `writer` makes of what changed.
+velmar_code giveDifference(const velmar_dump* before, const velmar_dump* after, char** text,
+                           std::string (*writer)(const Core::Layout&, const Core::Difference&)) {
+  if (const auto code =
+          checkPointers({{before, "the dump"}, {after, "the other dump"}, {text, "the text"}}))
+    return code;
+  if (const auto code = checkAlike(before->layout, after->layout)) return code;
+  return allocating([&] {
+    const Core::DifferenceOptions options;
+    const auto found = Core::difference(before->layout, before->entries, after->entries, options);
+    return giveText(writer(before->layout, found), text);
+  });
 }
 
 Core::JsonFrame translationFrame(const Core::Layout& from, const Core::Layout& to) {
@@ -80,15 +95,27 @@ velmar_code velmar_entries_json(const velmar_dump* dump, const uint32_t* positio
 }
 
 velmar_code velmar_diff(const velmar_dump* before, const velmar_dump* after, char** text) {
+  return giveDifference(before, after, text,
+                        [](const Core::Layout& layout, const Core::Difference& found) {
+                          return Core::differenceText(layout, found, Core::RowFormat::json);
+                        });
+}
+
+velmar_code velmar_diff_text(const velmar_dump* before, const velmar_dump* after, char** text) {
+  return giveDifference(before, after, text, Core::differenceLines);
+}
+
+velmar_code velmar_entry_text(const velmar_layout* layout, const void* entry, size_t entry_size,
+                              char** text) {
   if (const auto code =
-          checkPointers({{before, "the dump"}, {after, "the other dump"}, {text, "the text"}}))
+          checkPointers({{layout, "the layout"}, {entry, "the entry"}, {text, "the text"}}))
     return code;
-  if (const auto code = checkAlike(before->layout, after->layout)) return code;
+  if (const auto code = checkSize("the entry", entry_size, 4U * geometryOf(layout).words))
+    return code;
   return allocating([&] {
-    const Core::Layout& layout = before->layout;
-    const Core::DifferenceOptions options;
-    const auto found = Core::difference(layout, before->entries, after->entries, options);
-    return giveText(Core::differenceText(layout, found, Core::RowFormat::json), text);
+    const auto own = Core::Layout::of(tableOf(layout), chipOf(layout), 0);
+    if (!own) return fail(own.error());
+    return giveText(Core::entryLines(*own, static_cast<const U8*>(entry)), text);
   });
 }
 

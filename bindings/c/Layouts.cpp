@@ -1,5 +1,6 @@
 #include "Velmar/Version.h"
 #include "c/Calls.h"
+#include "core/Families.h"
 
 using namespace Velmar;
 using namespace Velmar::Binding;
@@ -21,7 +22,23 @@ velmar_code checkMask(const velmar_layout* layout, const U8* mask, size_t size) 
   return checkSize("the mask", size, 4U * geometryOf(layout).words);
 }
 
-/// A field of a table, without its bits.
+bool areOfOneFamily(const Catalogue::Table& table, U32 a, U32 b) {
+  const U32 length = table.family(a).prefixLength;
+  return length != 0 && table.family(b).prefixLength == length &&
+         std::memcmp(table.field(a).accessor, table.field(b).accessor, length) == 0;
+}
+
+/// The family of a field: its fields that a chip has, or that any chip has.
+void addFamily(velmar_field& facts, const Catalogue::Table& table, std::optional<U32> chip) {
+  facts.family_first = facts.index;
+  for (U32 i = 0; facts.family_letters != 0 && i < table.fieldCount(); ++i) {
+    if ((chip && table.range(i, *chip).width == 0) || !areOfOneFamily(table, facts.index, i))
+      continue;
+    if (facts.family_fields++ == 0) facts.family_first = i;
+  }
+}
+
+/// A field of a table, without its bits and its family.
 velmar_field fieldFacts(const Catalogue::Table& table, U32 index) {
   const Catalogue::Field field = table.field(index);
   const Catalogue::Family family = table.family(index);
@@ -35,8 +52,12 @@ velmar_field fieldFacts(const Catalogue::Table& table, U32 index) {
           0,
           field.overlaps,
           family.prefixLength,
-          family.number};
+          family.number,
+          0,
+          0};
 }
+
+constexpr size_t firstFieldSize = offsetof(velmar_field, family_first);
 
 /// Calls `use` with each range of bits that a field has in common with another field of the chip.
 template <class Use>
@@ -50,6 +71,25 @@ void forEachShared(const velmar_layout* layout, U32 field, Use use) {
     const U32 end = std::min<U32>(own.offset + own.width, other.offset + other.width);
     if (i != field && begin < end) use(begin, end);
   }
+}
+
+/// A field with its bits on a chip, which has it. `earlier`: one that is known, perhaps of its family.
+velmar_field fieldOn(const velmar_layout* layout, U32 field, const velmar_field& earlier = {}) {
+  const Catalogue::Table table = tableOf(layout);
+  const U32 chip = chipOf(layout).number;
+  const Catalogue::BitRange range = table.range(field, chip);
+  velmar_field facts = fieldFacts(table, field);
+  if (earlier.family_fields != 0 && areOfOneFamily(table, earlier.index, field)) {
+    facts.family_first = earlier.family_first;
+    facts.family_fields = earlier.family_fields;
+  } else {
+    addFamily(facts, table, chip);
+  }
+  facts.first_bit = range.offset;
+  facts.bits = range.width;
+  facts.overlaps = 0;
+  forEachShared(layout, field, [&facts](U32, U32) { facts.overlaps = 1; });
+  return facts;
 }
 
 }  // namespace
@@ -98,7 +138,9 @@ velmar_code velmar_field_info(uint32_t table, uint32_t field, velmar_field* info
   if (const auto code = checkTable(table)) return code;
   const Catalogue::Table found = Catalogue::table(table);
   if (const auto code = checkIndex("field", field, found.fieldCount())) return code;
-  return give(fieldFacts(found, field), info, size);
+  velmar_field facts = fieldFacts(found, field);
+  addFamily(facts, found, std::nullopt);
+  return give(facts, info, size, firstFieldSize);
 }
 
 velmar_code velmar_find_chip(const char* name, uint32_t* chip) {
@@ -115,7 +157,32 @@ velmar_code velmar_find_field(const velmar_layout* layout, const char* name, uin
   if (const auto code =
           checkPointers({{layout, "the layout"}, {name, "the name"}, {field, "the field"}}))
     return code;
-  return take(Core::findField(tableOf(layout), chipOf(layout), name), *field);
+  auto found = Core::findField(tableOf(layout), chipOf(layout), name);
+  // What the core advises for a family are many fields, too.
+  if (!found && found.error().code == Code::ambiguous) {
+    found.error().advise("give one of them, with its number");
+  }
+  return take(found, *field);
+}
+
+velmar_code velmar_find_fields(const velmar_layout* layout, const char* name, uint32_t* fields,
+                               size_t room, size_t* count) {
+  if (const auto code = checkPointers({{layout, "the layout"},
+                                       {name, "the name"},
+                                       {fields, "the array"},
+                                       {count, "the count"}}))
+    return code;
+  const U32 fieldCount = geometryOf(layout).fieldCount;
+  if (room < fieldCount) return checkSize("the array", room, fieldCount, "fields");
+  return allocating([&] {
+    const auto own = Core::Layout::of(tableOf(layout), chipOf(layout), 0);
+    if (!own) return fail(own.error());
+    const auto found = Core::findMembers(*own, name);
+    if (!found) return fail(found.error());
+    for (size_t i = 0; i < found->size(); ++i) fields[i] = (*found)[i].index;
+    *count = found->size();
+    return VELMAR_OK;
+  });
 }
 
 velmar_code velmar_field_of_id(const velmar_layout* layout, uint32_t id, uint32_t* field) {
@@ -159,13 +226,24 @@ velmar_code velmar_layout_info(const velmar_layout* layout, velmar_layout_facts*
 velmar_code velmar_layout_field(const velmar_layout* layout, uint32_t field, velmar_field* info,
                                 size_t size) {
   if (const auto code = checkField(layout, field)) return code;
-  const Catalogue::BitRange range = tableOf(layout).range(field, chipOf(layout).number);
-  velmar_field facts = fieldFacts(tableOf(layout), field);
-  facts.first_bit = range.offset;
-  facts.bits = range.width;
-  facts.overlaps = 0;
-  forEachShared(layout, field, [&facts](U32, U32) { facts.overlaps = 1; });
-  return give(facts, info, size);
+  return give(fieldOn(layout, field), info, size, firstFieldSize);
+}
+
+velmar_code velmar_fields_of(const velmar_layout* layout, velmar_field* fields, size_t size,
+                             size_t count) {
+  if (const auto code = checkPointers({{layout, "the layout"}, {fields, "the array"}})) return code;
+  const U32 own = geometryOf(layout).fieldCount;
+  if (const auto code = checkSize("the array", count, own, "fields")) return code;
+  U8* into = reinterpret_cast<U8*>(fields);
+  velmar_field facts{};
+  for (U32 i = 0; i < tableOf(layout).fieldCount(); ++i) {
+    if (tableOf(layout).range(i, chipOf(layout).number).width == 0) continue;
+    facts = fieldOn(layout, i, facts);
+    velmar_field* const one = reinterpret_cast<velmar_field*>(into);
+    if (const auto code = give(facts, one, size, firstFieldSize)) return code;
+    into += size;
+  }
+  return VELMAR_OK;
 }
 
 velmar_code velmar_field_mask(const velmar_layout* layout, uint8_t* mask, size_t size) {

@@ -26,16 +26,18 @@
 extern "C" {
 #endif
 
+#ifndef VELMAR_API
 #define VELMAR_API __attribute__((visibility("default")))
+#endif
 
 /// What a call returns. A later release may add codes.
 typedef enum velmar_code {
   VELMAR_OK = 0,
-  VELMAR_NULL = 1,         ///< a pointer is NULL
-  VELMAR_SIZE = 2,         ///< a buffer is too short or too long
-  VELMAR_INDEX = 3,        ///< no chip, table, field, entry, element or identifier has the number
-  VELMAR_UNKNOWN = 4,      ///< no chip, table or field has the name or identifier
-  VELMAR_AMBIGUOUS = 5,    ///< several chips or fields have the name, or several readings fit a text
+  VELMAR_NULL = 1,       ///< a pointer is NULL
+  VELMAR_SIZE = 2,       ///< a buffer is too short or too long
+  VELMAR_INDEX = 3,      ///< no chip, table, field, entry, element or identifier has the number
+  VELMAR_UNKNOWN = 4,    ///< no chip, table or field has the name or identifier
+  VELMAR_AMBIGUOUS = 5,  ///< several chips or fields have the name, or several readings fit a text
   VELMAR_NOT_ON_CHIP = 6,  ///< the chip does not have the table or the field
   VELMAR_VARIANT = 7,      ///< the table on the chip does not have the variant
   VELMAR_VALUE = 8,        ///< the value has more bits than the field
@@ -121,6 +123,9 @@ typedef struct velmar_field {
       family_letters;  ///< letters of `accessor` before its number, for a field of a family such as
                        ///< spTreePort0, spTreePort1 ...; 0 for a field alone
   uint32_t family_number;  ///< its number in the family
+  uint32_t family_first;   ///< index of the first field of the family; of a field alone its own
+  uint32_t
+      family_fields;  ///< number of fields of the family that the chip has; 0 for a field alone
 } velmar_field;
 
 /// Which variants a table on a chip has.
@@ -159,8 +164,8 @@ VELMAR_API uint32_t velmar_chip_count(void);
 VELMAR_API uint32_t velmar_table_count(void);
 VELMAR_API velmar_code velmar_chip_info(uint32_t chip, velmar_chip* info, size_t size);
 VELMAR_API velmar_code velmar_table_info(uint32_t table, velmar_table* info, size_t size);
-/// A field of a table, whatever the chip: `first_bit` and `bits` are 0, `overlaps` is that of all
-/// chips.
+/// A field of a table, whatever the chip: `first_bit` and `bits` are 0, `overlaps` and the family are
+/// those of all chips.
 VELMAR_API velmar_code velmar_field_info(uint32_t table, uint32_t field, velmar_field* info,
                                          size_t size);
 
@@ -176,6 +181,11 @@ VELMAR_API velmar_code velmar_find_table(const char* name, uint32_t* table);
 /// VELMAR_NOT_ON_CHIP: only other chips have it. VELMAR_AMBIGUOUS: a family of fields has the name.
 VELMAR_API velmar_code velmar_find_field(const velmar_layout* layout, const char* name,
                                          uint32_t* field);
+/// All fields of a name: a field, a family such as "spTreePort", a part of it such as "spTreePort0-3",
+/// or those that match a name with * and ?. `fields` has room for `room` indexes, at least the number of
+/// fields of the layout, otherwise VELMAR_SIZE; `count` is how many are written.
+VELMAR_API velmar_code velmar_find_fields(const velmar_layout* layout, const char* name,
+                                          uint32_t* fields, size_t room, size_t* count);
 /// The field of an identifier.
 VELMAR_API velmar_code velmar_field_of_id(const velmar_layout* layout, uint32_t id,
                                           uint32_t* field);
@@ -193,6 +203,10 @@ VELMAR_API velmar_code velmar_layout_info(const velmar_layout* layout, velmar_la
 /// A field with its bits on the chip, and whether it shares bits there.
 VELMAR_API velmar_code velmar_layout_field(const velmar_layout* layout, uint32_t field,
                                            velmar_field* info, size_t size);
+/// All fields that the chip has, in ascending order of their indexes. `size` is that of one structure,
+/// `count` the number of fields of the layout, otherwise VELMAR_SIZE.
+VELMAR_API velmar_code velmar_fields_of(const velmar_layout* layout, velmar_field* fields,
+                                        size_t size, size_t count);
 /// Sets the bits of `mask` that belong to a field of the chip, and clears the others, the reserved
 /// bits. `size` is `entry_bytes`.
 VELMAR_API velmar_code velmar_field_mask(const velmar_layout* layout, uint8_t* mask, size_t size);
@@ -224,8 +238,17 @@ VELMAR_API velmar_code velmar_read_words(const velmar_layout* layout, uint32_t f
 VELMAR_API velmar_code velmar_write_words(const velmar_layout* layout, uint32_t field, void* entry,
                                           size_t entry_size, const uint32_t* words, size_t count);
 
+/// Sets fields of an entry as the verb encode of the command does: `values` are `count` texts such as
+/// "stg=5", "portBitmap=0-3,17", "portBitmap+=20", "spTreePort0-3=3" or "outsideFields=0x1", which sets
+/// the bits outside all fields. Other fields stay. VELMAR_VALUE: a value does not fit, a field is given
+/// twice with two values, or values of fields that share bits disagree.
+VELMAR_API velmar_code velmar_encode(const velmar_layout* layout, const char* const* values,
+                                     size_t count, void* entry, size_t entry_size);
+
 // A column: one field of all entries of a dump. VELMAR_SIZE: `dump_size` bytes are not a whole
-// number of entries, or are more than the table has, or `count` does not go with them.
+// number of entries, or are more than the table has, or `count` does not go with them. A column of 0
+// entries takes NULL pointers. A write changes the bits of the field alone, or nothing if one of the
+// values does not fit: VELMAR_VALUE, with the entry in velmar_last_fault(), counted from 0.
 
 /// A field of up to 64 bits as `count` numbers, one for each entry; for a wider one VELMAR_WIDE.
 VELMAR_API velmar_code velmar_read_column(const velmar_layout* layout, uint32_t field,
@@ -236,6 +259,20 @@ VELMAR_API velmar_code velmar_read_column(const velmar_layout* layout, uint32_t 
 VELMAR_API velmar_code velmar_read_word_column(const velmar_layout* layout, uint32_t field,
                                                const void* dump, size_t dump_size, uint32_t* words,
                                                size_t count);
+/// Several fields of up to 8 bits, such as those of a family, as `count` bytes: one for each of the
+/// `field_count` fields for the first entry, then for the second, and so on. VELMAR_WIDE: a field has
+/// more bits.
+VELMAR_API velmar_code velmar_read_fields(const velmar_layout* layout, const uint32_t* fields,
+                                          size_t field_count, const void* dump, size_t dump_size,
+                                          uint8_t* values, size_t count);
+VELMAR_API velmar_code velmar_write_column(const velmar_layout* layout, uint32_t field, void* dump,
+                                           size_t dump_size, const uint64_t* values, size_t count);
+VELMAR_API velmar_code velmar_write_word_column(const velmar_layout* layout, uint32_t field,
+                                                void* dump, size_t dump_size, const uint32_t* words,
+                                                size_t count);
+VELMAR_API velmar_code velmar_write_fields(const velmar_layout* layout, const uint32_t* fields,
+                                           size_t field_count, void* dump, size_t dump_size,
+                                           const uint8_t* values, size_t count);
 
 // Addresses on the S-channel.
 
@@ -310,33 +347,41 @@ VELMAR_API velmar_code velmar_select(const velmar_dump* dump, const char* const*
                                      size_t condition_count, const char* indexes, uint32_t nonzero,
                                      uint32_t* positions, size_t room, size_t* count);
 
-// Documents: JSON that ends in a zero character, in the forms of docs/schema. Each text is freed with
-// velmar_text_free().
+// Documents: JSON that ends in a zero character, in the forms of docs/schema, and text for people. Each
+// is freed with velmar_text_free().
 
 VELMAR_API void velmar_text_free(char* text);
 /// The values of all fields, as "velmar-entries": of the entries at `count` positions, or of all if
 /// `positions` is NULL and `count` 0. `plain` not 0: numbers, lists of ports and hexadecimal text alone.
 VELMAR_API velmar_code velmar_entries_json(const velmar_dump* dump, const uint32_t* positions,
                                            size_t count, uint32_t plain, char** text);
+/// The values of an entry for people, a line such as "stg = 5" for each field, or for a family of fields
+/// "spTreePort = {3: 0-7  0: 8-159}".
+VELMAR_API velmar_code velmar_entry_text(const velmar_layout* layout, const void* entry,
+                                         size_t entry_size, char** text);
+/// What velmar_diff() says for people, a line such as "20: stg = 2 -> 7" for each field that differs,
+/// or for those of a family that change alike, and such as "21: only in OLD" for an entry.
+VELMAR_API velmar_code velmar_diff_text(const velmar_dump* before, const velmar_dump* after,
+                                        char** text);
 /// What changed between two dumps of one layout and variant, as "velmar-diff". Entries are matched by
 /// their indexes. VELMAR_INPUT: the dumps are of different tables, chips or variants.
 VELMAR_API velmar_code velmar_diff(const velmar_dump* before, const velmar_dump* after,
-                                         char** text);
+                                   char** text);
 /// What changes from one chip to another, as "velmar-comparison": in one table, or in all for
 /// VELMAR_NONE.
 VELMAR_API velmar_code velmar_compare(uint32_t before, uint32_t after, uint32_t table,
-                                         uint32_t variant, char** text);
+                                      uint32_t variant, char** text);
 /// The tables and chips that a dump fits, the likeliest first, as "velmar-identification". `table` and
 /// `chip` are the only ones that are tried, or VELMAR_NONE. The variant is 0. VELMAR_INPUT: there is
 /// nothing to read, or too much.
 VELMAR_API velmar_code velmar_identify(const void* bytes, size_t size,
-                                             const velmar_read_options* options, uint32_t table, uint32_t chip,
-                                             char** text);
+                                       const velmar_read_options* options, uint32_t table,
+                                       uint32_t chip, char** text);
 /// Moves the entries of a dump to another chip, each field to its place there. Fields that only that
 /// chip has are zero. `translated` is a dump like any other, or has no entry if none can be moved.
 /// `losses` is what it does not hold, as "velmar-translation"; its list is empty if nothing is lost.
 VELMAR_API velmar_code velmar_translate(const velmar_dump* dump, uint32_t chip,
-                                          velmar_dump** translated, char** losses);
+                                        velmar_dump** translated, char** losses);
 
 #ifdef __cplusplus
 }  // extern "C"

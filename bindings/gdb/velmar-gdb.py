@@ -13,41 +13,26 @@ import re
 
 import gdb
 import gdb.printing
-
-
-def value_text(field, value):
-    if field.type == "bitmap":
-        return velmar.ranges(value)
-    return f"{value:#x}" if field.type == "Raw128" else str(value)
-
-
-def field_texts(layout, entry):
-    """Pairs such as ("stg", "5"); a family is one, ("spTreePort", "{3: 0-7  0: 8-159}")."""
-    texts = {}
-    for field in layout.fields:
-        text = value_text(field, entry[field.name])
-        if field.family:
-            texts.setdefault(field.family, {}).setdefault(text, []).append(field.number)
-        else:
-            texts[field.name] = text
-    if "outsideFields" in entry:
-        texts["outsideFields"] = f"{entry['outsideFields']:#x}"
-    for name, text in texts.items():
-        yield name, text if isinstance(text, str) else "{" + "  ".join(
-            f"{value}: {velmar.ranges(numbers)}" for value, numbers in text.items()) + "}"
+import gdb.xmethod
 
 
 def read(layout, address):
+    """Pairs such as ("stg", "5") or ("spTreePort", "{3: 0-7  0: 8-159}")."""
     memory = gdb.selected_inferior().read_memory(address, layout.entry_bytes)
-    return field_texts(layout, layout.decode(memory)[0])
+    return [tuple(line.split(" = ", 1)) for line in layout.text(memory).splitlines()]
+
+
+def pointer_at(address):
+    """A word of the program."""
+    size = gdb.lookup_type("unsigned long").sizeof
+    return int.from_bytes(gdb.selected_inferior().read_memory(address, size).tobytes(), "little")
 
 
 def class_of(view):
     """The class of an object, also of one that its type calls a base."""
     if view.address is None:
         raise velmar.Error("it is not in memory")
-    pointer = gdb.lookup_type("unsigned long").pointer()
-    table = int(view.address.cast(pointer).dereference())
+    table = pointer_at(int(view.address))
     symbol = gdb.execute(f"info symbol {table:#x}", to_string=True)
     name = re.match(r"vtable for Velmar::(\w+) ", symbol)
     if not name and symbol.startswith("vtable for "):
@@ -85,7 +70,7 @@ class ViewPrinter:
                 self.text += f" variant {variant}"
             if size < layout.entry_bytes:
                 raise velmar.Error(f"the buffer has {size} bytes, not {layout.entry_bytes}")
-            self.fields = list(read(layout, address))
+            self.fields = read(layout, address)
         except (velmar.Error, gdb.error) as error:
             self.text = f"{getattr(self, 'text', 'view')}: {error}"
 
@@ -95,19 +80,178 @@ class ViewPrinter:
     def children(self):
         return iter(self.fields)
 
+    def whole(self):
+        """All of it as one text."""
+        fields = ", ".join(f"{name} = {text}" for name, text in self.fields)
+        return f"{self.text} = {{{fields}}}" if fields else self.text
 
-class Views(gdb.printing.PrettyPrinter):
+
+class HolderPrinter:
+    """An object with a view as a member, whose type gdb does not know: the other members as gdb has them."""
+
+    def __init__(self, holder):
+        self.holder = holder
+
+    def to_string(self):
+        return None
+
+    def children(self):
+        for field in self.holder.type.strip_typedefs().fields():
+            if not hasattr(field, "bitpos"):
+                continue  # static
+            member = self.holder[field]
+            name = f"<{field.name}>" if field.is_base_class else field.name
+            yield name, ViewPrinter(member).whole() if is_unknown_view(field.type) else member
+
+
+class VectorPrinter:
+    """A vector of views whose type gdb does not know."""
+
+    def __init__(self, vector):
+        try:
+            self.views = elements(vector)
+            self.text = f"std::vector of length {len(self.views)}"
+        except (velmar.Error, gdb.error) as error:
+            self.views, self.text = [], f"std::vector: {error}"
+
+    def to_string(self):
+        return self.text
+
+    def children(self):
+        return ((f"[{i}]", ViewPrinter(view).whole()) for i, view in enumerate(self.views))
+
+
+class BitmapPrinter:
+    """Ports as ranges."""
+
+    def __init__(self, bitmap):
+        self.bitmap = bitmap
+
+    def to_string(self):
+        try:
+            count, heap = int(self.bitmap["wordCount_"]), self.bitmap["heap_"]
+            words = heap if heap else self.bitmap["inline_"].address
+            if count > 1 << 16 or words is None:
+                return f"{count} words of ports; it may not be constructed yet, or be overwritten"
+            memory = gdb.selected_inferior().read_memory(int(words), 4 * count).tobytes()
+        except gdb.error as error:
+            return str(error)
+        bits = int.from_bytes(memory, "little")
+        return velmar.ranges([port for port in range(32 * count) if bits >> port & 1])
+
+
+def elements(vector):
+    """The views of a vector. How far they are apart is what repeats the pointer that each begins with."""
+    part = vector["_M_impl"]
+    begin, end = int(part["_M_start"]), int(part["_M_finish"])
+    if begin == end:
+        return []
+    table = pointer_at(begin)
+    word = gdb.lookup_type("unsigned long").sizeof
+    for step in range(2 * word, min(end - begin, 1 << 10) + 1, word):
+        places = range(begin, end, step)
+        if (end - begin) % step == 0 and all(pointer_at(at) == table for at in places):
+            kind = part["_M_start"].type
+            return [gdb.Value(at).cast(kind).dereference() for at in places]
+    raise velmar.Error("gdb does not know the size of its views; compile the program with "
+                       "-femit-class-debug-always")
+
+
+def bare(kind):
+    return kind.strip_typedefs().unqualified()
+
+
+def is_view(kind):
+    return bool(VIEWS.fullmatch(bare(kind).name or ""))
+
+
+def is_unknown_view(kind):
+    """Whether the program's debug information leaves the class to the library, which has none."""
+    return is_view(kind) and not bare(kind).fields()
+
+
+def is_vector(kind):
+    name = bare(kind).name or ""
+    return name.startswith("std::vector<Velmar::") and is_unknown_view(kind.strip_typedefs().template_argument(0))
+
+
+class Printers(gdb.printing.PrettyPrinter):
     def __init__(self):
         super().__init__("velmar")
-        tables = "|".join(table.name for table in velmar.tables())
-        self.names = re.compile(rf"Velmar::({tables})|AsicUtils::(Bcm)?AsicBase")
 
     def __call__(self, value):
         # A reference too: what it refers to has no complete type, and gdb would say only that.
         if value.type.code in (gdb.TYPE_CODE_REF, gdb.TYPE_CODE_RVALUE_REF):
             value = value.referenced_value()
-        name = value.type.strip_typedefs().unqualified().name
-        return ViewPrinter(value) if name and self.names.fullmatch(name) else None
+        kind = bare(value.type)
+        if is_view(kind):
+            return ViewPrinter(value)
+        if kind.code != gdb.TYPE_CODE_STRUCT:
+            return None
+        fields = kind.fields()
+        if kind.name == "Oru::PerUnitBitmap":
+            return BitmapPrinter(value) if {"wordCount_", "heap_", "inline_"} <= {
+                field.name for field in fields} else None
+        if is_vector(kind):
+            return VectorPrinter(value)
+        return HolderPrinter(value) if any(is_unknown_view(field.type) for field in fields) else None
+
+
+class VectorMethods(gdb.xmethod.XMethodMatcher):
+    """What the C++ library's own script makes of such a vector needs the size of a view."""
+
+    class Worker(gdb.xmethod.XMethodWorker):
+        def __init__(self, name, kind):
+            self.name, self.kind = name, kind
+
+        def get_arg_types(self):
+            return gdb.lookup_type("unsigned long") if self.name in ("operator[]", "at") else None
+
+        def get_result_type(self, *_):
+            return gdb.lookup_type("unsigned long") if self.name == "size" else self.kind
+
+        def __call__(self, vector, index=0):
+            try:
+                views = elements(vector)
+            except (velmar.Error, gdb.error) as error:
+                gdb.write(f"{error}\n")
+                views = []
+            if self.name == "size":
+                return len(views)
+            at = len(views) - 1 if self.name == "back" else int(index)
+            # gdb says itself what is wrong with address 0; a failure here would be a Python text.
+            return views[at] if 0 <= at < len(views) else (
+                gdb.Value(0).cast(self.kind.pointer()).dereference())
+
+    def __init__(self):
+        super().__init__("velmar")
+        self.methods = [gdb.xmethod.XMethod(name)
+                        for name in ("operator[]", "at", "front", "back", "size")]
+
+    def match(self, class_type, method_name):
+        known = any(method.name == method_name and method.enabled for method in self.methods)
+        if not known or not is_vector(class_type):
+            return None
+        return self.Worker(method_name, class_type.strip_typedefs().template_argument(0))
+
+
+def show_locals():
+    """What "info locals" leaves out."""
+    block = gdb.selected_frame().block()
+    while block and not block.is_static and not block.is_global:
+        for symbol in block:
+            if symbol.is_variable and not symbol.is_argument and is_unknown_view(symbol.type):
+                view = symbol.value(gdb.selected_frame())
+                gdb.write(f"{symbol.name} = {ViewPrinter(view).whole()}\n")
+        if block.function:
+            return
+        block = block.superblock
+
+
+def variant_of(text):
+    if not text.isdigit():
+        raise velmar.Error(f"the variant {text} is not a number; give 0 to 255")
+    return int(text)
 
 
 class DecodeBytes(gdb.Command):
@@ -128,12 +272,12 @@ class DecodeBytes(gdb.Command):
                 value = value.referenced_value()
             is_array = value.type.strip_typedefs().code == gdb.TYPE_CODE_ARRAY
             address = int(value.address if is_array else value)
-            layout = velmar.layout(*arguments[1:3], *map(int, arguments[3:]))
+            layout = velmar.layout(*arguments[1:3], *map(variant_of, arguments[3:]))
             if is_array and value.type.sizeof < layout.entry_bytes:
                 raise velmar.Error(f"{arguments[0]} has {value.type.sizeof} bytes, but an entry has "
                                    f"{layout.entry_bytes}; give the address of a whole entry")
-            fields = list(read(layout, address))
-        except (ValueError, OverflowError, gdb.error) as error:
+            fields = read(layout, address % (1 << 64))
+        except (velmar.Error, gdb.error) as error:
             raise gdb.GdbError(str(error))
         print(layout.table, layout.chip)
         for name, text in fields:
@@ -147,5 +291,11 @@ except ImportError as error:
               if isinstance(error, ModuleNotFoundError) else "")
     print(f"views are not shown by their fields: {error}{remedy}")
 else:
-    gdb.printing.register_pretty_printer(gdb.current_objfile(), Views(), replace=True)
+    VIEWS = re.compile("Velmar::({})|AsicUtils::(Bcm)?AsicBase".format(
+        "|".join(table.name for table in velmar.tables())))
+    # Those of the program come before those of the C++ library, which do not know the views.
+    place = gdb.current_objfile() or next(iter(gdb.objfiles()), None)
+    gdb.printing.register_pretty_printer(place, Printers(), replace=True)
+    gdb.xmethod.register_xmethod_matcher(place, VectorMethods(), replace=True)
     DecodeBytes()
+    gdb.execute("define info hookpost-locals\npython show_locals()\nend")

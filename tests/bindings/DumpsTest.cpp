@@ -163,6 +163,34 @@ TEST(Dumps, documentsHoldWhatWasAsked) {
   EXPECT_EQ(selected(translated.get(), {"mplsEnable=1"}, "5", 0), (std::vector<U32>{0}));
 }
 
+TEST(Entries, areEncodedAndShown) {
+  const velmar_layout* layout = layoutOf("VlanStg", "BCM56980_A0");
+  U8 entry[48] = {};
+  const char* const values[] = {"spTreePort*=1", "spTreePort0-3=1"};
+  const char* const wrong[] = {"spTreePort159=2", "spTreePort0=4"};
+  char* text = nullptr;
+  ASSERT_EQ(velmar_encode(layout, values, 2, entry, sizeof entry), VELMAR_OK) << velmar_message();
+  const std::string before(entry, entry + sizeof entry);
+  EXPECT_EQ(velmar_encode(layout, wrong, 2, entry, sizeof entry), VELMAR_VALUE);
+  EXPECT_EQ(lastFault().field, std::string("spTreePort0"));
+  EXPECT_EQ(std::string(entry, entry + sizeof entry), before);
+  ASSERT_EQ(velmar_encode(layout, wrong, 1, entry, sizeof entry), VELMAR_OK) << velmar_message();
+  ASSERT_EQ(velmar_entry_text(layout, entry, sizeof entry, &text), VELMAR_OK);
+  EXPECT_EQ(taken(text), "spTreePort = {1: 0-158  2: 159}\n");
+  const DumpPointer old = dumpOf(layout, before);
+  entry[0] = 0;
+  const std::string after(entry, entry + sizeof entry);
+  const DumpPointer now = dumpOf(layout, after);
+  ASSERT_EQ(velmar_diff_text(old.get(), now.get(), &text), VELMAR_OK);
+  EXPECT_EQ(taken(text), "0: spTreePort0-3 = 1 -> 0\n0: spTreePort159 = 1 -> 2\n");
+  const DumpPointer four = dumpOf(layoutOf("VlanMpls"), fourEntries);
+  const DumpPointer one = dumpOf(layoutOf("VlanMpls"), "9: 00000001\n");
+  ASSERT_EQ(velmar_diff_text(four.get(), one.get(), &text), VELMAR_OK);
+  const std::string lines = taken(text);
+  EXPECT_EQ(lines.substr(0, 14), "5: only in OLD");
+  EXPECT_NE(lines.find("\n9: "), std::string::npos) << lines;
+}
+
 TEST(Faults, haveAPlaceAndChoices) {
   struct Case {
     const char* table;
@@ -218,7 +246,7 @@ TEST(Faults, wrongArgumentsAreRefused) {
   const DumpPointer owner = dumpOf(layout, fourEntries);
   const DumpPointer other = dumpOf(layoutOf("VlanEntry"), std::string(16, '\1'));
   const velmar_dump* dump = owner.get();
-  const U8 bytes[8] = {1, 0, 0, 0, 2};
+  U8 bytes[8] = {1, 0, 0, 0, 2};
   const U32 twice[] = {3, 3};
   const U32 late[] = {0, 1 << 30};
   const char* const conditions[] = {"mplsEnable=1", nullptr};
@@ -282,6 +310,20 @@ TEST(Faults, wrongArgumentsAreRefused) {
       {VELMAR_NULL, velmar_identify(nullptr, 8, nullptr, VELMAR_NONE, VELMAR_NONE, &text)},
       {VELMAR_INPUT, velmar_identify(bytes, 0, nullptr, VELMAR_NONE, VELMAR_NONE, &text)},
       {VELMAR_INDEX, velmar_identify(bytes, 8, nullptr, 1000, VELMAR_NONE, &text)},
+      {VELMAR_NULL, velmar_diff_text(dump, nullptr, &text)},
+      {VELMAR_INPUT, velmar_diff_text(dump, other.get(), &text)},
+      {VELMAR_NULL, velmar_entry_text(layout, bytes, 4, nullptr)},
+      {VELMAR_SIZE, velmar_entry_text(layout, bytes, 8, &text)},
+      {VELMAR_NULL, velmar_encode(layout, conditions, 2, bytes, 4)},
+      {VELMAR_NULL, velmar_encode(layout, nullptr, 1, bytes, 4)},
+      {VELMAR_SIZE, velmar_encode(layout, conditions, 1, bytes, 8)},
+      {VELMAR_UNKNOWN, velmar_encode(layout, unknown, 1, bytes, 4)},
+      {VELMAR_SIZE, velmar_find_fields(layout, "*", positions, 1, &count)},
+      {VELMAR_UNKNOWN, velmar_find_fields(layout, "*x*y*", positions, 4, &count)},
+      {VELMAR_NULL, velmar_find_fields(layout, nullptr, positions, 4, &count)},
+      {VELMAR_INDEX, velmar_read_fields(layout, late + 1, 1, bytes, 4, bytes, 1)},
+      {VELMAR_NULL, velmar_read_fields(layout, nullptr, 1, bytes, 4, bytes, 1)},
+      {VELMAR_NULL, velmar_fields_of(layout, nullptr, sizeof(velmar_field), 1)},
       {VELMAR_NULL, velmar_translate(nullptr, 0, &made, &text)},
       {VELMAR_NULL, velmar_translate(dump, 0, nullptr, &text)},
       {VELMAR_NULL, velmar_translate(dump, 0, &made, nullptr)},
@@ -409,6 +451,21 @@ TEST(Faults, memoryMayRunOutAnywhere) {
     std::size_t count = 0;
     return velmar_select(dump, conditions, 1, "5-9", 1, positions, 4, &count);
   });
+  expectMemoryFaults("encode", [&] {
+    U8 entry[4] = {};
+    return velmar_encode(layout, conditions, 1, entry, sizeof entry);
+  });
+  expectMemoryFaults("find fields", [&] {
+    U32 fields[8];
+    std::size_t count = 0;
+    return velmar_find_fields(layout, "*", fields, 8, &count);
+  });
+  expectMemoryFaults("text", writing([&](char** text) {
+                       const U8 entry[4] = {1};
+                       return velmar_entry_text(layout, entry, sizeof entry, text);
+                     }));
+  expectMemoryFaults("difference text",
+                     writing([&](char** text) { return velmar_diff_text(dump, dump, text); }));
   expectMemoryFaults("entries", writing([&](char** text) {
                        return velmar_entries_json(dump, nullptr, 0, 0, text);
                      }));

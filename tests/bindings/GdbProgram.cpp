@@ -1,7 +1,9 @@
 // A program for the tests of gdb: it stops with views of several kinds in memory.
 
 #include <cstdlib>
+#include <vector>
 
+#include "Oru/PerUnitBitmap.h"
 #include "Velmar/EgrVlanEntry.h"
 #include "Velmar/IngVpVlanMembershipEccEntry.h"
 #include "Velmar/VlanEntry.h"
@@ -21,6 +23,15 @@ struct Held {
   explicit Held(ChipType_ chip, U16 length = size) : view(chip, bytes, length, false, 0) {}
 };
 
+struct Named {
+  int id = 3;
+};
+struct Port : Named {
+  Velmar::VlanEntry view;
+  int number = 7;
+  explicit Port(const Velmar::VlanEntry& of) : view(of) {}
+};
+
 }  // namespace
 
 int main() {
@@ -37,5 +48,14 @@ int main() {
   Held<Velmar::IngVpVlanMembershipEccEntry, 12> raw(BCM56470_A0);
   raw.bytes[10] = 3;
   Held<Velmar::VlanEntry, 16> cut(BCM56990_B0, 8);
-  return stop(vlan, &egress.view);
+  const Port port(vlan);
+  const std::vector<Port> ports{port};
+  const std::vector<Velmar::VlanEntry> vec{vlan, cut.view, vlan};
+  const std::vector<Velmar::VlanEntry> none;
+  Oru::PerUnitBitmap members(64);
+  members.set(3);
+  members.set(4);
+  Oru::PerUnitBitmap many(400);
+  many.set(399);
+  return stop(vec[0], &egress.view) + static_cast<int>(ports.size() + none.size());
 }

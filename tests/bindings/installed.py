@@ -26,6 +26,16 @@ SHOWN = (
     ("velmar-decode egress.bytes EgrVlan 56980", "EgrVlanEntry BCM56980_A0\n  valid = 0\n  stg = 0\n"
                                                  "  utPortBitmap = 0-3,17\n  portBitmap = none"),
     ("velmar-decode &bytes[0] vlan 33", "VlanEntry BCM56990_B0\n(.*\n)*  fidId = 100"),
+    ("print port", r"{<(\(anonymous namespace\)::)?Named> = {id = 3}, view = VlanEntry BCM56990_B0 = {.*"
+                   "stg = 5, .*}, number = 7}"),
+    ("print ports", ".*of length 1.* = {.*view = VlanEntry BCM56990_B0 = {.*}, number = 7}}"),
+    ("print vec", ".*of length 3.*VlanEntry .*stg = 5, .*BCM56990_B0: the buffer has 8 bytes, not 16.*"
+                  "VlanEntry .*stg = 5, .*}"),
+    ("print none", ".*of length 0"),
+    ("print vec[2]", "VlanEntry BCM56990_B0 = {.*stg = 5, .*}"),
+    ("print members", "3-4\n"),
+    ("print many", "399\n"),
+    ("info locals", "(.*\n)*vlan = VlanEntry BCM56990_B0 = {.*stg = 5, .*}\n"),
     ("frame function stop", ""),
     ("print vlan", "VlanEntry BCM56990_B0 = {.*stg = 5, .*"),
     ("print *base", "EgrVlanEntry BCM56980_A0 = {.*utPortBitmap = 0-3,17, .*}"),
@@ -35,14 +45,16 @@ REFUSED = (
     ("velmar-decode base vlna 33", "unknown table \"vlna\"; did you mean VlanEntry"),
     ("velmar-decode nosuch vlan 33", 'No symbol "nosuch" in current context.'),
     ("velmar-decode base vlan", "give velmar-decode ADDRESS TABLE CHIP"),
-    ("velmar-decode base vlan 33 one", "invalid literal"),
+    ("velmar-decode base vlan 33 one", "the variant one is not a number; give 0 to 255"),
+    ("velmar-decode 'base vlan 33", "give velmar-decode ADDRESS TABLE CHIP"),
 )
 
 
 def gdb(program, prefix, commands, *more):
     """What gdb prints for each of the commands."""
-    scripts = f"{prefix}/share/gdb/auto-load"
-    words = ["gdb", "-nx", "-batch", "-iex", f"set auto-load safe-path {prefix}",
+    system = "/usr/share/gdb/auto-load"  # with the script of the C++ library
+    scripts = f"{prefix}/share/gdb/auto-load:{system}"
+    words = ["gdb", "-nx", "-batch", "-iex", f"set auto-load safe-path {prefix}:{system}:/usr/share/gcc",
              "-iex", f"set auto-load scripts-directory {scripts}", program, *more]
     for number, command in enumerate(commands):
         words += ["-ex", f"echo <{number}>\\n", "-ex", command]
@@ -58,13 +70,16 @@ def check_views(what, printed):
     for (command, expected), text in zip(SHOWN, printed):
         text = re.sub(r"^\$\d+ = (\(.*?&\) @0x\w+: )?", "", text)
         check(re.match(expected, text), f"{what}: {command}:\n{text}")
+        check("Python" not in text and "Traceback" not in text, f"{what}: {command}: raw Python:\n{text}")
     check(len(printed) == len(SHOWN), f"{what}: {len(printed)} answers")
 
 
 def check_gdb(program, prefix, work):
     commands = [command for command, _ in SHOWN]
+    with open(f"{source}/tests/bindings/GdbProgram.cpp", encoding="utf-8") as file:
+        constructed = next(i for i, line in enumerate(file, 1) if " vlan(" in line)
     core = os.path.join(work, "core")
-    text = gdb(program, prefix, ["break 28", "run", "print vlan", "continue", f"gcore {core}"])
+    text = gdb(program, prefix, [f"break {constructed}", "run", "print vlan", "continue", f"gcore {core}"])
     check("not a view; it may not be constructed" in text[2], f"before construction: {text[2]}")
     check_views("core", gdb(program, prefix, ["frame function main"] + commands, core)[1:])
     stopped = gdb(program, prefix, ["run", "frame function main"] + commands +

@@ -40,7 +40,7 @@ def random_value(field):
 
 def check_decode(where, layout, target, dump):
     document = json.loads(run("decode", *target, "-", "--input", "raw", "-f", "json", data=dump)[1])
-    decoded = layout.decode(dump)
+    decoded = layout.decode(dump, expand=True)
     for index, (entry, expected) in enumerate(zip(decoded, document["entries"])):
         fields = {name: plain(value) for name, value in expected["fields"].items()}
         if "outsideFields" in expected:
@@ -51,8 +51,13 @@ def check_decode(where, layout, target, dump):
         check((layout, index, 0) in [(place.layout, place.index, place.identifier)
                                      for place in velmar.find(address, layout.chip)],
               f"{where}: {address:#x} is not found")
-    back = b"".join(map(layout.encode, decoded))
-    check(back == dump and len(decoded) == len(document["entries"]), f"{where}: encode of decode")
+    short = layout.decode(dump)
+    for family in layout.families:
+        check([[entry[field.name] for field in family.fields] for entry in decoded] ==
+              [entry[family.name] for entry in short], f"{where}: {family}")
+    for entries in (decoded, short):
+        check(b"".join(map(layout.encode, entries)) == dump and len(entries) == len(document["entries"]),
+              f"{where}: encode of decode")
 
 
 def check_encode(where, layout, target, base):
@@ -86,7 +91,7 @@ def check_select(where, layout, target, dump):
     """A dump in text, and its entries that fit a condition."""
     text = run("encode", *target, "--base", "-", "--input", "raw", "-f", "hex", data=dump)[1]
     field = random.choice(layout.fields)
-    condition = f"{field.name}={as_text(layout.decode(dump)[0][field.name])}"
+    condition = f"{field.name}={as_text(layout.decode(dump, expand=True)[0][field.name])}"
     document = json.loads(run("decode", *target, "-", "--where", condition, "-f", "json", data=text)[1])
     with tempfile.NamedTemporaryFile() as file:
         file.write(text)
@@ -95,7 +100,7 @@ def check_select(where, layout, target, dump):
         selected = velmar.load(file.name, layout.table, layout.chip, where=condition)
     check(list(selected.indexes) == [entry["index"] for entry in document["entries"]],
           f"{where}: {condition}: {selected.indexes}, the command has {document}")
-    check([entry[field.name] for entry in layout.decode(selected)] ==
+    check([entry[field.name] for entry in layout.decode(selected, expand=True)] ==
           [plain(entry["fields"][field.name]) for entry in document["entries"]],
           f"{where}: {condition}")
 
@@ -118,7 +123,7 @@ def check_translate(where, layout, dump):
     check([(index, int(row["address"], 16)) for index, row in zip(translated.indexes, rows)] ==
           [(row["index"], translated.layout.address(row["index"])) for row in rows] and
           [{name: plain(value) for name, value in row["fields"].items()} for row in rows] ==
-          translated.layout.decode(translated), f"{where} to {other}: {translated}, {expected}")
+          translated.layout.decode(translated, expand=True), f"{where} to {other}: {translated}, {expected}")
     lines = [line for line in lost.splitlines() if line.startswith("velmar: lost: ")]
     check([line.split(": ")[2:4] for line in lines] ==
           [[loss["field"], loss["reason"] + "; in " + line.split("; in ")[1].split(": ")[0]]
@@ -189,6 +194,7 @@ check([(row["index"], row["change"]) for row in mpls.diff(dump, bytes(24))] ==
 
 ecc = velmar.layout("IngVpVlanMembershipEcc", "56470")
 member = velmar.layout("IngVpVlanMembership", "56470")
+groups = velmar.layout("VlanStg", "56980")
 for call, message in (
         (lambda: vlan.decode(data[:-1]), "give whole entries of 16 bytes"),
         (lambda: vlan.decode(data + data), "give at most 8192"),
@@ -201,18 +207,25 @@ for call, message in (
         (lambda: velmar.layout("VlanStgB", 33).field("SP_TREE_PORT"), "are many fields"),
         (lambda: velmar.layout("VlanStgB", 33).field("spTreePort1"), "has no field"),
         (lambda: vlan.encode({"stg": 64}), 'stg: value "64" does not fit; the field has 6 bits'),
-        (lambda: vlan.encode({"stg": 1 << 64}), "stg: value 0x10000000000000000 does not fit"),
+        (lambda: vlan.encode({"stg": 1 << 64}), 'stg: value "0x10000000000000000" does not fit'),
         (lambda: vlan.encode({"stg": -1}), "-1 is negative"),
         (lambda: vlan.encode({"stg": 1.0}), "1.0 is not a number"),
         (lambda: vlan.encode({"sgt": 1}), "did you mean stg"),
         (lambda: vlan.encode({"stg": 1, "STG": 2}), "stg is given twice"),
         (lambda: vlan.encode({}, data[:32]), "give one entry"),
         (lambda: vlan.encode({"outsideFields": 1}), "bits inside fields"),
-        (lambda: vlan.encode({"outsideFields": 1 << 128}), "beyond the entry"),
+        (lambda: vlan.encode({"outsideFields": 1 << 128}), "does not fit; the field has 128 bits"),
         (lambda: ecc.encode({"eccData": 1 << 82}), "eccData: value .* does not fit"),
         (lambda: member.encode({"key": 0, "vlan": 1}), "key and vlan share bits"),
         (lambda: egress.encode({"portBitmap": [160]}), "no port 160; .* ports 0 to 159"),
-        (lambda: egress.encode({"portBitmap": [True, False]}), "True is not a port"),
+        (lambda: egress.encode({"portBitmap": [True, False]}), "a row of 2 booleans; give one of 160"),
+        (lambda: egress.encode({"portBitmap": [True] * 159 + [1]}), "numbers and booleans are mixed"),
+        (lambda: egress.encode({"portBitmap": [3, 1, 3]}), "port 3 is given twice"),
+        (lambda: egress.encode({"portBitmap": [-1]}), "port -1 is negative"),
+        (lambda: groups.encode({"spTreePort": [1] * 159}), "159 values; give 160"),
+        (lambda: groups.encode({"spTreePort": [4] * 160}), "spTreePort0: .* largest value is 3"),
+        (lambda: groups.encode({"spTreePort0-161": 1}), "has no field"),
+        (lambda: velmar.ranges([True, 2]), "numbers and booleans are mixed"),
         (lambda: egress.encode({"portBitmap": 3}), "3 is not ports"),
         (lambda: egress.encode({"portBitmap": "0-3"}), "'0-3' is not ports"),
         (lambda: vlan.address(1 << 32), "not a number of 32 bits"),

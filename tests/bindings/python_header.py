@@ -21,7 +21,7 @@ NUMBERS = {"uint8_t": ctypes.c_uint8, "uint32_t": ctypes.c_uint32, "uint64_t": c
            "size_t": ctypes.c_size_t, "velmar_code": ctypes.c_int, "void": None}
 # The module passes these as addresses: buffers of any kind, and layouts.
 ADDRESSES = {"void", "uint8_t", "uint64_t", "velmar_layout", "velmar_dump"}
-ARRAYS = {"words", "mask", "bytes", "indexes", "positions"}
+ARRAYS = {"words", "mask", "bytes", "indexes", "positions", "fields"}
 
 
 def ctype(declaration):
@@ -37,7 +37,7 @@ def ctype(declaration):
         return NUMBERS[kind]
     if stars == 2:
         return ctypes.POINTER(ctypes.c_void_p)
-    if kind in ADDRESSES or name in ARRAYS:
+    if kind in ADDRESSES or name in ARRAYS and kind in NUMBERS:
         return ctypes.c_void_p
     return ctypes.POINTER(NUMBERS.get(kind) or getattr(_library, kind))
 
@@ -46,6 +46,8 @@ functions = {}
 for result, name, arguments in re.findall(r"VELMAR_API ([\w* ]+?) ?(velmar_\w+)\(([^)]*)\);", text):
     arguments = [" ".join(each.split()) for each in arguments.split(",")]
     functions[name] = result, [each for each in arguments if each != "void"]
+with open(os.path.join(module.source, "bindings", "c", "velmar.map"), encoding="utf-8") as file:
+    check(set(re.findall(r"velmar_\w+(?=;)", file.read())) == set(functions), "velmar.map has other names")
 check(len(functions) > 20, f"functions are lost: {len(functions)}")
 for name, (result, arguments) in _library.FUNCTIONS.items():
     expected = ctype(functions[name][0]), [ctype(each) for each in functions[name][1]]

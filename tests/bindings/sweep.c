@@ -133,6 +133,113 @@ static void checkWrites(Sweep* sweep, const velmar_layout* layout, const velmar_
   EXPECT(memcmp(after, entry, entryBytes) == 0);
 }
 
+/// Writes columns of random values: as entry by entry, or nothing if the last one does not fit.
+static void checkColumnWrites(Sweep* sweep, const velmar_layout* layout, const velmar_field* field,
+                              const uint8_t* dump, size_t entryBytes, size_t entries) {
+  const size_t words = (field->bits + 31) / 32;
+  const size_t size = entries * entryBytes;
+  uint8_t expected[dumpEntries * mostBytes], after[dumpEntries * mostBytes];
+  uint32_t values[dumpEntries * mostBytes / 4] = {0};
+  uint64_t numbers[dumpEntries] = {0};
+  memcpy(expected, dump, size);
+  memcpy(after, dump, size);
+  for (size_t i = 0; i < entries; ++i) {
+    uint32_t* const value = values + i * words;
+    fill(sweep, value, 4 * words);
+    if (field->bits % 32 != 0) value[words - 1] &= (1U << field->bits % 32) - 1;
+    if (words <= 2) memcpy(numbers + i, value, 4 * words);
+    EXPECT_CODE(VELMAR_OK, velmar_write_words(layout, field->index, expected + i * entryBytes,
+                                              entryBytes, value, words));
+  }
+  EXPECT_CODE(VELMAR_OK,
+              velmar_write_word_column(layout, field->index, after, size, values, entries * words));
+  EXPECT(memcmp(after, expected, size) == 0);
+  memcpy(after, dump, size);
+  EXPECT_CODE(words > 2 ? VELMAR_WIDE : VELMAR_OK,
+              velmar_write_column(layout, field->index, after, size, numbers, entries));
+  EXPECT(memcmp(after, words > 2 ? dump : expected, size) == 0);
+  if (field->bits % 32 == 0) return;
+  memcpy(after, dump, size);
+  values[entries * words - 1] |= UINT32_C(1) << 31;
+  numbers[entries - 1] |= UINT64_C(1) << 63;
+  velmar_fault fault;
+  EXPECT_CODE(VELMAR_VALUE,
+              velmar_write_word_column(layout, field->index, after, size, values, entries * words));
+  EXPECT_CODE(words > 2 ? VELMAR_WIDE : VELMAR_VALUE,
+              velmar_write_column(layout, field->index, after, size, numbers, entries));
+  EXPECT(velmar_last_fault(&fault, sizeof fault) == VELMAR_OK &&
+         (words > 2 || fault.entry == entries - 1));
+  EXPECT(memcmp(after, dump, size) == 0);
+}
+
+/// Fields of up to 8 bits at once, in any order, against columns of each.
+static void checkFieldsAtOnce(Sweep* sweep, const velmar_layout* layout, const velmar_field* fields,
+                              size_t count, const uint8_t* dump, size_t entryBytes,
+                              size_t entries) {
+  uint32_t chosen[mostFields];
+  static _Thread_local uint8_t values[dumpEntries * mostFields];
+  uint8_t after[dumpEntries * mostBytes];
+  const size_t size = entries * entryBytes;
+  const size_t start = (size_t)nextRandom(sweep) % count;
+  size_t own = 0;
+  for (size_t i = start; i < count; ++i) {
+    if (fields[i].bits <= 8) chosen[own++] = fields[i].index;
+  }
+  if (own == 0) return;
+  EXPECT_CODE(VELMAR_OK,
+              velmar_read_fields(layout, chosen, own, dump, size, values, own * entries));
+  for (size_t i = 0; i < own; ++i) {
+    uint64_t numbers[dumpEntries];
+    EXPECT_CODE(VELMAR_OK, velmar_read_column(layout, chosen[i], dump, size, numbers, entries));
+    for (size_t at = 0; at < entries; ++at) EXPECT(values[at * own + i] == numbers[at]);
+  }
+  fill(sweep, after, size);
+  EXPECT_CODE(VELMAR_OK,
+              velmar_write_fields(layout, chosen, own, after, size, values, own * entries));
+  for (size_t i = 0; i < own; ++i) {
+    uint64_t before[dumpEntries], now[dumpEntries];
+    EXPECT(velmar_read_column(layout, chosen[i], dump, size, before, entries) == VELMAR_OK);
+    EXPECT(velmar_read_column(layout, chosen[i], after, size, now, entries) == VELMAR_OK);
+    EXPECT(memcmp(before, now, entries * sizeof *now) == 0);
+  }
+  uint64_t number;
+  EXPECT(velmar_read(layout, chosen[own - 1], dump, entryBytes, &number) == VELMAR_OK);
+  values[own * entries - 1] = 255;
+  memcpy(after, dump, size);
+  const velmar_code code =
+      velmar_write_fields(layout, chosen, own, after, size, values, own * entries);
+  EXPECT(code == VELMAR_VALUE || code == VELMAR_OK);
+  EXPECT(code == VELMAR_OK || memcmp(after, dump, size) == 0);
+  EXPECT_CODE(VELMAR_SIZE,
+              velmar_read_fields(layout, chosen, own, dump, size, values, own * entries - 1));
+}
+
+/// All fields in one call; a family by its name has as many fields as each of them says.
+static void checkFields(Sweep* sweep, const velmar_layout* layout, const velmar_field* fields,
+                        size_t count) {
+  velmar_field all[mostFields];
+  uint32_t found[mostFields];
+  size_t number = 0;
+  char name[64];
+  EXPECT_CODE(VELMAR_SIZE, velmar_fields_of(layout, all, sizeof *all, count + 1));
+  EXPECT_CODE(VELMAR_OK, velmar_fields_of(layout, all, sizeof *all, count));
+  for (size_t i = 0; i < count; ++i) {
+    const velmar_field* field = &fields[i];
+    EXPECT(memcmp(&all[i], field, sizeof *field) == 0);
+    EXPECT_CODE(VELMAR_OK,
+                velmar_find_fields(layout, field->hardware_name, found, mostFields, &number));
+    EXPECT(number == 1 && found[0] == field->index);
+    if (field->family_letters == 0) EXPECT(field->family_first == field->index);
+    if (field->family_letters == 0 || field->family_first != field->index) continue;
+    snprintf(name, sizeof name, "%.*s", (int)field->family_letters, field->accessor);
+    EXPECT_CODE(VELMAR_OK, velmar_find_fields(layout, name, found, mostFields, &number));
+    EXPECT(number == field->family_fields && found[0] == field->index && number > 1);
+    snprintf(name, sizeof name, "%s-%u", field->accessor, field->family_number + 3);
+    EXPECT_CODE(VELMAR_OK, velmar_find_fields(layout, name, found, mostFields, &number));
+    EXPECT(number == 4 && found[3] == field->index + 3);
+  }
+}
+
 /// Whether a field and the one after it have numbered names of one kind, and one meaning.
 static int areOfOneFamily(uint32_t table, uint32_t first) {
   velmar_field pair[2];
@@ -239,6 +346,7 @@ static void checkLayout(Sweep* sweep, const velmar_layout* layout, uint32_t allF
       fields[count++] = field;
       checkReads(sweep, layout, &field, dump, facts.entry_bytes, entries);
       checkWrites(sweep, layout, &field, dump, facts.entry_bytes);
+      checkColumnWrites(sweep, layout, &field, dump, facts.entry_bytes, entries);
       checkNames(sweep, layout, facts.table, &field);
       continue;
     }
@@ -249,6 +357,8 @@ static void checkLayout(Sweep* sweep, const velmar_layout* layout, uint32_t allF
     EXPECT_CODE(VELMAR_NOT_ON_CHIP, velmar_find_field(layout, field.accessor, &i));
   }
   EXPECT(count == facts.fields);
+  checkFields(sweep, layout, fields, count);
+  checkFieldsAtOnce(sweep, layout, fields, count, dump, facts.entry_bytes, entries);
   checkMasks(sweep, layout, fields, count, facts.entry_bytes);
   checkAddresses(sweep, layout, &facts);
 }
@@ -326,6 +436,16 @@ static void checkSizes(Sweep* sweep, const velmar_layout* layout, uint32_t field
     EXPECT_CODE(VELMAR_SIZE, velmar_write_words(layout, field, dump, entryBytes, words, count));
     EXPECT_CODE(VELMAR_SIZE, velmar_read_column(layout, field, dump, entryBytes, values, count));
   }
+  EXPECT_CODE(VELMAR_OK, velmar_read_column(layout, field, NULL, 0, NULL, 0));
+  EXPECT_CODE(VELMAR_OK, velmar_write_column(layout, field, NULL, 0, NULL, 0));
+  EXPECT_CODE(VELMAR_OK, velmar_read_fields(layout, &field, 1, NULL, 0, NULL, 0));
+  EXPECT_CODE(VELMAR_NULL, velmar_read_column(layout, field, NULL, 0, NULL, 1));
+  EXPECT_CODE(VELMAR_NULL, velmar_write_column(layout, field, NULL, entryBytes, values, 1));
+  velmar_field facts = {NULL, NULL, NULL, 0, 0, 0, 0, 0, 0, 0, 0, 77, 77};
+  const size_t earlier = offsetof(velmar_field, family_first);
+  EXPECT_CODE(VELMAR_SIZE, velmar_layout_field(layout, field, &facts, earlier - 1));
+  EXPECT_CODE(VELMAR_OK, velmar_layout_field(layout, field, &facts, earlier));
+  EXPECT(facts.accessor != NULL && facts.family_first == 77);
   EXPECT((entries + 1) * entryBytes <= sizeof dump);
   EXPECT_CODE(VELMAR_OK,
               velmar_read_column(layout, field, dump, entries * entryBytes, values, entries));
@@ -381,6 +501,7 @@ static void checkRareCodes(Sweep* sweep) {
     snprintf(name, sizeof name, "%.*s", (int)field.family_letters, field.accessor);
     if (field.family_letters != 0) {
       EXPECT_CODE(VELMAR_AMBIGUOUS, velmar_find_field(layout, name, &number));
+      EXPECT(strstr(velmar_message(), "with its number") != NULL);
       ++families;
     }
     snprintf(name, sizeof name, "%.*s", (int)(strlen(chip.name) - 3), chip.name);

@@ -9,31 +9,30 @@ from typing import Any, Dict, Iterable, List, Optional, Tuple, Union
 
 from . import _library
 from ._layout import Dump, layout
-from ._library import Error, find, text, unsigned
+from ._library import Error, WrongType, text, unsigned
+from ._records import ChipName, TableName, find_chip, find_table
+from ._values import raw_bytes
 
 _LONGEST = 64 << 20  # bytes of a dump
 
 Path = Union[str, "os.PathLike[str]"]
 
 
-def load(path: Path, table: str, chip: Union[str, int], variant: int = 0, *,
+def load(path: Path, table: TableName, chip: ChipName, variant: int = 0, *,
          where: Union[str, Iterable[str]] = (), input: str = "auto",
          hex_order: Optional[str] = None, byte_order: Optional[str] = None,
          stride: Optional[int] = None, first: Optional[int] = None,
          origin: Optional[int] = None) -> Dump:
     """Reads a dump of at most 64 MiB in any notation. The path "-" is standard input.
-
-    where         conditions, as Layout.select() takes them: only the entries that fit
-    input         "raw", "hex", "xxd", "hexdump", "od", "json" or "csv"; "auto" recognizes it
-    hex_order     hexadecimal digits are "bytes" (the first byte first), "words" (the first word first)
-                  or "int" (one number for each entry, the highest digit first); None: by their groups
-    byte_order    the byte of each 32-bit word that comes first: "little" (None) the lowest, "big"
-    stride        bytes from an entry to the next; None: those of an entry
-    first         index of the first entry of a partial dump
-    origin        address of entry 0, for a dump whose lines begin with addresses
-    Returns a Dump: layout, indexes and bytes of the entries, and notes.
-    Error: the file cannot be read, it is no dump of the table, or it may be read in several ways: then
-    `choices` of the error are the keywords that say which is meant. Its text begins with the path.
+    where        conditions, as Layout.select() takes them: only the entries that fit
+    input        "raw", "hex", "xxd", "hexdump", "od", "json" or "csv"; "auto" recognizes it
+    hex_order    hexadecimal digits are "bytes" (the first byte first), "words" (the first word first)
+                 or "int" (one number for each entry, the highest digit first); None: by their groups
+    byte_order   the byte of each 32-bit word that comes first: "little" (None) the lowest, "big"
+    stride       bytes from an entry to the next; None: those of an entry
+    first        index of the first entry of a partial dump
+    origin       address of entry 0, for a dump whose lines begin with addresses
+    What may be read in several ways is refused: `choices` of the Error are the keywords that say which.
     """
     of = layout(table, chip, variant)
     options = _options(input, hex_order, byte_order, stride, first, origin)
@@ -42,60 +41,53 @@ def load(path: Path, table: str, chip: Union[str, int], variant: int = 0, *,
     with _library.made("velmar_dump_read", of._handle, options, raw, len(raw),
                        source=name) as handle:
         dump = of._from_dump(handle, raw)
-    conditions = [where] if isinstance(where, str) else list(where)
-    return of.select(dump, conditions) if conditions else dump
+    return dump if where == () else of.select(dump, where)
 
 
-def identify(data: Union[Path, bytes, bytearray, memoryview], table: Optional[str] = None,
-             chip: Union[str, int, None] = None, **options: Any) -> List[Dict[str, Any]]:
+def identify(data: Union[Path, bytes, bytearray, memoryview], table: Optional[TableName] = None,
+             chip: Optional[ChipName] = None, **options: Any) -> List[Dict[str, Any]]:
     """The tables and chips that a dump fits, the likeliest first; empty if none fits.
-
     data: a path, as load() takes it, or the bytes of a dump. A table or chip that is given is the only
-    one that is tried; the options are those of load(): input, hex_order, byte_order, stride, first and
-    origin. A row is {"table": "VlanEntry", "chips": ["BCM56990_B0"], "entries": 8192, "tableEntries":
-    8192, "reason": "..."}.
-    Error: unknown name, the chip does not have the table, the file cannot be read or is empty.
+    one that is tried; options as for load(). A row is {"table": "VlanEntry", "chips": ["BCM56990_B0"],
+    "entries": 8192, "tableEntries": 8192, "reason": "..."}.
     """
     own = _options(**options)
-    of_table = _library.NONE if table is None else find("velmar_find_table", text(table))
-    of_chip = _library.NONE if chip is None else find("velmar_find_chip", text(str(chip)))
-    name, raw = _contents(data) if isinstance(data, (str, os.PathLike)) else ("", bytes(data))
+    of_table = _library.NONE if table is None else find_table(table)
+    of_chip = _library.NONE if chip is None else find_chip(chip)
+    name, raw = _contents(data) if isinstance(data, (str, os.PathLike)) else ("", raw_bytes(data))
     fits: List[Dict[str, Any]] = _library.document(
         "velmar_identify", raw, len(raw), own, of_table, of_chip,
         source=name)["fits"]
     return fits
 
 
-def compare(a: Union[str, int], b: Union[str, int], table: Optional[str] = None,
+def compare(a: ChipName, b: ChipName, table: Optional[TableName] = None,
             variant: int = 0) -> List[Dict[str, Any]]:
-    """What changes from chip a to chip b: the rows of "velmar compare --format json".
-
-    A row is {"table": "VlanEntry", "part": "stg", "change": "moved", "old": {"offset": 42,
-    "width": 6}, "new": {...}}. "change" is "added", "gone", "changed", "moved", "resized" or "moved
-    and resized". "part" is a field, or in parentheses a fact of the table such as "(entries)". "old"
-    and "new" are None where there is nothing, a number or a text for such a fact.
-    Error: unknown name, the variant, or a table that neither chip has.
+    """What changes from chip a to chip b: the rows of "velmar compare --format json":
+    {"table": "VlanEntry", "part": "stg", "change": "moved", "old": {"offset": 42, "width": 6}, "new":
+    {...}}. "change" may also be "added", "gone", "changed", "resized" or "moved and resized". "part" is
+    a field, or a fact of the table such as "(entries)"; then "old" and "new" are numbers or texts.
     """
-    of_table = _library.NONE if table is None else find("velmar_find_table", text(table))
-    chips = [find("velmar_find_chip", text(str(chip))) for chip in (a, b)]
+    of_table = _library.NONE if table is None else find_table(table)
+    chips = [find_chip(chip) for chip in (a, b)]
     rows: List[Dict[str, Any]] = _library.document("velmar_compare", *chips, of_table,
                                                    unsigned(variant, "variant"))["differences"]
     return rows
 
 
-def translate(dump: Dump, chip: Union[str, int]) -> Tuple[Dump, List[Dict[str, Any]]]:
+def translate(dump: Dump, chip: ChipName) -> Tuple[Dump, List[Dict[str, Any]]]:
     """Moves the entries of a dump to another chip, each field to its place there.
-
     Returns the dump of the other chip and what it does not hold: {"field": "portBitmap", "reason":
-    "...", "entries": [5, 7]} for each field that is lost; no row if nothing is. Fields that only the
-    other chip has are zero. A dump of bytes: layout.select(data).
-    Error: unknown chip, or it does not have the table or the variant.
+    "...", "entries": [5, 7]} for each field that is lost. Fields that only the other chip has are zero. A
+    dump of bytes: layout.select(data).
     """
+    if not isinstance(dump, Dump):
+        raise WrongType(f"{dump!r} is not a dump; give layout.select(data)")
     to = layout(dump.layout.table, chip, dump.layout.variant)
     moved = ctypes.c_void_p()
     with dump.layout._as_dump(dump) as handle:
         document = _library.document("velmar_translate", handle,
-                                     find("velmar_find_chip", text(str(chip))), ctypes.byref(moved))
+                                     find_chip(chip), ctypes.byref(moved))
     try:
         return to._from_dump(moved), document["losses"]
     finally:
@@ -121,7 +113,10 @@ def _options(input: str = "auto", hex_order: Optional[str] = None, byte_order: O
 
 def _contents(path: Path) -> Tuple[str, bytes]:
     """The name for messages, and what the file holds."""
-    name = os.fsdecode(path)
+    try:
+        name = os.fsdecode(path)
+    except TypeError:
+        raise WrongType(f"{path!r} is not a path; give a str") from None
     try:
         if name == "-":
             name, raw = "standard input", sys.stdin.buffer.read(_LONGEST + 1)

@@ -1,65 +1,44 @@
-"""Layouts: the entries of one table on one chip, from bytes and to bytes."""
+"""Layouts and dumps: the entries of one table on one chip, from bytes and to bytes."""
 
 from __future__ import annotations
 
 import ctypes
 import dataclasses
 import functools
-import operator
 from dataclasses import dataclass
-from typing import (TYPE_CHECKING, Any, ContextManager, Dict, Iterable, List, Mapping, Optional,
-                    Sequence, Tuple, Union, cast)
+from typing import (TYPE_CHECKING, Any, ContextManager, Dict, Iterable, Iterator, List, Mapping,
+                    Optional, Sequence, Tuple, Union, cast)
 
-from . import _library
-from ._library import Error, call, chip_name, find, info, shown, table_name, text, unsigned
+from . import _library, _show
+from ._library import (Brief, Error, WrongPosition, WrongType, call, find, info, integer, text,
+                       unsigned)
+from ._records import (ChipName, Family, Field, FieldName, TableName, chip_name, name_of,
+                       table_name)
+from ._values import is_list, number_text, ports_of, raw_bytes, value_text
 
 if TYPE_CHECKING:
     import numpy
+    import pandas
 
-#: What a field of a decoded entry holds: a number, or the ports of a bitmap in ascending order.
+#: What a field of a decoded entry holds: a number, or the ports of a bitmap in ascending order; a family
+#: holds the numbers of its fields.
 Value = Union[int, List[int]]
-#: A decoded entry: field name -> value, and "outsideFields" if such bits are set.
+#: A decoded entry: name of a field or family -> value, and "outsideFields" if such bits are set.
 Entry = Dict[str, Value]
+Part = Union[Field, Family]
 
 OUTSIDE = "outsideFields"
 
 
-@dataclass(frozen=True)
-class Field:
-    """A field of a layout: `bits` bits of the entry, from bit `first_bit` on.
-
-    name                 accessor such as "fidId": the key in decoded entries
-    hardware_name, meaning
-                         such as "FID_ID", and a few words
-    index, id            in the table's list of fields, the same on every chip; identifier, which
-                         never changes
-    type                 "U8", "U16", "U32", "U64", "Raw128" or "bitmap"
-    overlaps             whether it shares bits with another field of the chip
-    family, number       "spTreePort" and 3 for spTreePort3; "" and None for a field alone
-    """
-
-    name: str
-    hardware_name: str
-    meaning: str
-    index: int
-    id: int
-    type: str
-    first_bit: int
-    bits: int
-    overlaps: bool
-    family: str
-    number: Optional[int]
-
-
-@dataclass(frozen=True)
-class Dump:
+@dataclass(frozen=True, eq=False)
+class Dump(metaclass=Brief):
     """Entries with their indexes, as load() reads them. The methods of its layout take it.
-
     layout     of the entries
     indexes    index of each entry in the table, or of each element of a register array
-    data       bytes of the entries, without gaps; of a raw dump without a stride all bytes that were
-               read, not copied
+    data       bytes of the entries, without gaps
     notes      what was left out of the input, or is worth saying, one sentence each
+    It is a sequence: len(dump), dump[3] is the entry at position 3 as decode() gives it, dump[3:5] a
+    dump, "for entry in dump". Dumps are equal if layouts, indexes and bytes are.
     """
 
     layout: Layout
@@ -67,13 +46,49 @@ class Dump:
     data: bytes = dataclasses.field(repr=False)
     notes: Tuple[str, ...] = ()
 
+    def where(self, *conditions: str) -> Dump:
+        """The entries for which all conditions hold; see Layout.select()."""
+        return self.layout.select(self, conditions)
+
+    def __len__(self) -> int:
+        return len(self.layout._entries(self)[0])
+
+    def __getitem__(self, position: Any) -> Any:
+        indexes, raw = self.layout._entries(self)
+        size = self.layout.entry_bytes
+        if isinstance(position, slice):
+            chosen = range(len(indexes))[position]
+            return Dump(self.layout, indexes[position],
+                        b"".join(raw[i * size:(i + 1) * size] for i in chosen), self.notes)
+        at = integer(position, "position")
+        if not -len(indexes) <= at < len(indexes):
+            raise WrongPosition(f"the dump has no position {at}; it has {len(indexes)} entries")
+        at %= len(indexes)
+        return self.layout.decode(raw[at * size:(at + 1) * size])[0]
+
+    def __iter__(self) -> Iterator[Entry]:
+        return iter(self.layout.decode(self))
+
+    def __eq__(self, other: object) -> bool:
+        if not isinstance(other, Dump):
+            return NotImplemented
+        mine, theirs = self.layout._entries(self), other.layout._entries(other)
+        return (self.layout._key == other.layout._key and list(mine[0]) == list(theirs[0]) and
+                mine[1] == theirs[1])
+
+    def __hash__(self) -> int:
+        return hash((self.layout._key, self.layout._entries(self)[1]))
+
+    def _repr_html_(self) -> str:
+        return _show.dump(self)
+
 
 #: Entries without gaps, the first of index 0; or a dump, whose entries have indexes.
-Data = Union[bytes, bytearray, memoryview, "numpy.ndarray", Dump]
+Data = Union[bytes, bytearray, memoryview, "numpy.ndarray", "ctypes.Array", Dump]
 
 
 @dataclass(frozen=True)
-class Place:
+class Place(metaclass=Brief):
     """An entry that has an address: layout, index of the entry or element, instance identifier."""
 
     layout: Layout
@@ -81,55 +96,74 @@ class Place:
     identifier: int
 
 
-class Layout:
+@dataclass(frozen=True, init=False, eq=False, repr=False)
+class Layout(metaclass=Brief):
     """A table on a chip: the place of every field in an entry, and the addresses. See layout().
-
     table, purpose       class name such as "VlanEntry", and its contents in a few words
     chip, variant        name such as "BCM56990_B0"; table variant
     kind                 "table" or "register array"
-    fields               tuple of Field, in the order of the table
+    fields, families     tuples of Field and of Family, in the order of the table
     entry_bytes, words   size of an entry in bytes, and in words of 32 bits
-    entries, elements    number of entries of a table, or of elements of a register array; the other
-                         is 1
-    identifiers          number of instance identifiers
+    entries, elements, identifiers
+                         how many a table has: of entries or elements one is 1
     base, element_step, identifier_step
-                         S-channel address of the first entry; what an element, and an identifier,
-                         add to it
+                         S-channel address of the first entry; what an element, an identifier add to it
     access_type, block   S-channel access code; pipeline block: 1 ingress, 2 egress
 
-    An entry is `entry_bytes` bytes as they were read from the chip: bit n of the entry is bit n % 8 of
-    byte n // 8. Data are such entries without gaps, in bytes, bytearray, memoryview or a numpy array, or
-    a Dump; text is for load(). Items of an array are bytes, or little-endian words of 32 bits. They must
-    be whole entries, at most as many as the table has, otherwise Error is raised.
+    An entry is `entry_bytes` bytes as they were read from the chip: bit n is bit n % 8 of byte n // 8.
+    Data are whole entries without gaps, at most as many as the table has: bytes, or an array of bytes or
+    of little-endian words of 32 bits, whose rows are entries if it has several dimensions; or a Dump.
+    Names of fields are accessors, hardware names or identifiers, and may stand for several fields:
+    "spTreePort", which is a family, "spTreePort0-3", "*Ptr".
     """
 
-    def __init__(self, table: str, chip: Union[str, int], variant: int = 0):
-        handle = ctypes.c_void_p()
-        call("velmar_find_layout", text(table), text(str(chip)), unsigned(variant, "variant"),
-             ctypes.byref(handle))
-        self._handle = handle
+    table: str
+    chip: str
+    variant: int
+    purpose: str
+    kind: str
+    fields: Tuple[Field, ...]
+    families: Tuple[Family, ...]
+    entry_bytes: int
+    words: int
+    entries: int
+    elements: int
+    identifiers: int
+    base: int
+    element_step: int
+    identifier_step: int
+    access_type: int
+    block: int
+    _handle: int
+    _key: Tuple[int, int]
+    _reserved: int
+    _parts: Tuple[Part, ...]
+    _by_index: Mapping[int, Field]
+    _by_name: Mapping[str, Part]
+    _members: Mapping[str, Any]
+
+    def __init__(self, table: TableName, chip: ChipName, variant: int = 0):
+        made = ctypes.c_void_p()
+        variant = unsigned(variant, "variant")
+        call("velmar_find_layout", text(name_of(table, "table")), text(name_of(chip, "chip")), variant,
+             ctypes.byref(made))
+        handle = made.value or 0
         facts = info("velmar_layout_info", _library.velmar_layout_facts, handle)
         of_table = info("velmar_table_info", _library.velmar_table, facts.table)
         of_chip = info("velmar_chip_info", _library.velmar_chip, facts.chip)
-        self.table: str = of_table.name.decode()
-        self.purpose: str = of_table.purpose.decode()
-        self.kind: str = _library.KINDS[of_table.kind]
-        self.chip: str = of_chip.name.decode()
-        self.variant = variant
-        self.entry_bytes: int = facts.entry_bytes
-        self.words: int = facts.words
-        self.entries: int = facts.entries
-        self.elements: int = facts.elements
-        self.identifiers: int = facts.identifiers
-        self.base: int = facts.base
-        self.element_step: int = facts.element_step
-        self.identifier_step: int = facts.identifier_step
-        self.access_type: int = facts.access_type
-        self.block: int = facts.block
-        self.fields: Tuple[Field, ...] = tuple(self._own_fields(of_table.field_count))
-        self._by_index = {field.index: field for field in self.fields}
-        self._by_name = {field.name: field for field in self.fields}
-        self._reserved = self._reserved_bits()
+        own = vars(self)
+        own.update({name: getattr(facts, name) for name, _ in facts._fields_})
+        own.update(table=of_table.name.decode(), purpose=of_table.purpose.decode(),
+                   kind=_library.KINDS[of_table.kind], chip=of_chip.name.decode(), variant=variant,
+                   fields=_fields_of(handle, facts.fields), _handle=handle, _key=(handle, variant))
+        own["families"] = tuple(_families(self.fields))
+        families = {family.name: family for family in self.families}
+        parts = {field.family or field.name: families.get(field.family, field) for field in self.fields}
+        own["_members"] = {name: (ctypes.c_uint32 * len(family.fields))(
+            *(field.index for field in family.fields)) for name, family in families.items()}
+        own.update(_parts=tuple(parts.values()), _reserved=self._reserved_bits(),
+                   _by_index={field.index: field for field in self.fields},
+                   _by_name={**parts, **{field.name: field for field in self.fields}})
 
     def __repr__(self) -> str:
         variant = f", {self.variant}" if self.variant else ""
@@ -138,92 +172,133 @@ class Layout:
     def __reduce__(self) -> Any:
         return layout, (self.table, self.chip, self.variant)
 
-    def field(self, name: str) -> Field:
-        """The field of an accessor, hardware name or identifier, such as "fidId", "FID_ID" or "90".
+    def _repr_html_(self) -> str:
+        return _show.layout(self)
 
-        Error: no field has the name, a family of fields has it, or only other chips have the field.
-        """
-        if name in self._by_name:
-            return self._by_name[name]
-        return self._by_index[find("velmar_find_field", self._handle, text(name))]
+    def field(self, name: FieldName) -> Field:
+        """The one field of a name or identifier, such as "fidId", "FID_ID" or 90."""
+        found = self._by_name.get(name_of(name, "field"))
+        if isinstance(found, Field):
+            return found
+        return self._by_index[find("velmar_find_field", self._handle, text(name_of(name, "field")))]
 
-    def decode(self, data: Data) -> List[Entry]:
-        """A dict for each entry of the data: field name -> int, for a bitmap -> sorted list of ports.
-
-        If an entry has bits set outside all fields, its dict also has "outsideFields": an int with
-        those bits at their places in the entry. encode() makes the same bytes of each dict again.
+    def decode(self, data: Data, expand: bool = False) -> List[Entry]:
+        """A dict for each entry: name -> int; for a bitmap a sorted list of ports; for a family a list
+        of ints, or with `expand` each of its fields by itself. If bits outside all fields are set, it
+        also has "outsideFields": an int with those bits at their places. encode() makes the same bytes.
         """
         _, raw = self._entries(data)
-        columns = [self._values(field, raw) for field in self.fields]
-        entries = [dict(zip(self._by_name, row)) for row in zip(*columns)]
+        parts = self.fields if expand else self._parts
+        names = [part.name for part in parts]
+        entries = [dict(zip(names, row)) for row in zip(*(self._values(part, raw) for part in parts))]
         for entry, outside in zip(entries, self._outside(raw)):
             if outside:
                 entry[OUTSIDE] = outside
         return entries
 
-    def columns(self, data: Data,
-                fields: Optional[Iterable[str]] = None) -> Dict[str, numpy.ndarray[Any, Any]]:
-        """A numpy array for each field, or for each of the named ones: field name -> column.
-
-        Item i of a column is of entry i of the data. Shapes, with n entries:
-          field up to 63 bits   (n,)       int64; of 64 bits uint64
+    def columns(self, data: Data, fields: Union[FieldName, Iterable[FieldName], None] = None,
+                dtype: Optional[str] = None,
+                expand: bool = False) -> Dict[str, numpy.ndarray[Any, Any]]:
+        """A numpy array for each field and family, or for the named ones: name -> column of n entries.
+          field up to 63 bits   (n,)       int64, of 64 bits uint64; dtype="smallest": uint8 to uint64
           wider field           (n, words) uint32, the lowest bits first
           bitmap                (n, ports) bool: column[i, p] says whether entry i has port p
+          family                (n, fields) uint8; with `expand` each field by itself
         Bits outside all fields are in no column; decode() shows them. ImportError: there is no numpy.
         """
-        if isinstance(fields, str):
-            fields = [fields]
-        chosen = self.fields if fields is None else [self.field(name) for name in fields]
         import numpy
+        if dtype not in (None, "smallest"):
+            raise Error(f"dtype has no choice {dtype!r}; give \"smallest\" or None")
         _, raw = self._entries(data)
-        if not chosen:
-            self._numbers(self.fields[0], raw)  # refuses what is not whole entries
-        # One piece of memory: the system gives many small ones anew each time, which takes longer than
-        # to read the fields.
-        count = sum(_is_number(field) for field in chosen)
-        rows = iter(numpy.empty((count, len(raw) // self.entry_bytes), numpy.uint64))
-        return {field.name: self._number_column(field, raw, next(rows)) if _is_number(field) else
-                self._word_column(field, raw) for field in chosen}
+        if fields is None:
+            chosen: Iterable[Part] = self.fields if expand else self._parts
+        elif isinstance(fields, str) or not is_list(fields):
+            chosen = self._named(cast(FieldName, fields), expand)
+        else:
+            names = cast(Iterable[FieldName], fields)
+            chosen = [part for name in names for part in self._named(name, expand)]
+        return {part.name: self._column(numpy, part, raw, dtype) for part in chosen}
 
-    def encode(self, values: Mapping[str, Any], base: Optional[Data] = None) -> bytes:
-        """The bytes of an entry with these values, which are as those of decode().
-
-        values: field name -> int, for a bitmap -> the ports in any order; names as field() takes them.
-        "outsideFields" sets the bits outside all fields.
-        base: an entry; fields that are not given stay as they are there. Without it they are zero.
-        To encode a list of entries: b"".join(map(layout.encode, entries)).
-        Error: unknown field, value or port that the field does not have, fields that share bits and
-        disagree, bits of "outsideFields" inside fields, base that is not one entry.
+    def encode(self, values: Mapping[Any, Any], base: Optional[Data] = None) -> bytes:
+        """The bytes of an entry with these values, which are as those of decode(). Fields that are not
+        given stay as in `base`, an entry, or are zero. Fields that share bits must agree.
+        values: name -> int; for a bitmap the ports in any order, or a row of booleans; for a name of
+        several fields one int, or a list with one for each. Of a port that is named twice the last value
+        counts: {"spTreePort*": 1, "spTreePort0-3": 3}. "outsideFields" sets the bits outside all fields.
         """
         if not isinstance(values, Mapping):
-            raise TypeError(f"{values!r} is not a dict; give field names with their values")
+            raise WrongType(f"{values!r} is not a dict; give field names with their values")
         raw = bytes(self.entry_bytes) if base is None else self._entries(base)[1]
         if len(raw) != self.entry_bytes:
             raise Error(f"the base has {len(raw)} bytes; give one entry of {self.entry_bytes} bytes")
-        entry = ctypes.create_string_buffer(raw, self.entry_bytes)
-        given: Dict[str, int] = {}
+        texts: Dict[Any, bytes] = {}
         for name, value in values.items():
             if name == OUTSIDE:
+                texts[name] = f"{OUTSIDE}={number_text(OUTSIDE, value or 0)}".encode()
                 continue
-            field = self.field(name)
-            number = _number(field, value)
-            if given.get(field.name, number) != number:
-                raise Error(f"{field.name} is given twice, with two values; give it once")
-            self._write(field, entry, number)
-            given[field.name] = number
-            if field.overlaps:
-                self._check_shared(field, entry.raw, given)
-        outside = values.get(OUTSIDE)
-        return entry.raw if outside is None else self._with_outside(entry.raw, outside)
+            known = self._by_name.get(name) if isinstance(name, str) else None
+            given = [(known, value)] if isinstance(known, Field) else self._given(name, value)
+            for field, one in given:
+                key = field.name if field.family else (name, field.name)
+                texts[key] = f"{field.name}={value_text(field, one)}".encode()
+        entry = ctypes.create_string_buffer(raw, self.entry_bytes)
+        array = (ctypes.c_char_p * len(texts))(*texts.values())
+        call("velmar_encode", self._handle, array, len(texts), entry, self.entry_bytes)
+        return entry.raw
+
+    def encode_columns(self, columns: Mapping[Any, Any], base: Optional[Data] = None) -> Any:
+        """The bytes of many entries with these columns: name -> array as columns() gives it, or one
+        number for all entries. Other fields stay as in `base`, entries, or are zero. A Dump with the same
+        indexes if the base is one.
+        """
+        import numpy
+        if not isinstance(columns, Mapping):
+            raise WrongType(f"{columns!r} is not a dict; give field names with their columns")
+        given = [(part, numpy.asarray(value)) for name, value in columns.items()
+                 for part in self._named(name)]
+        indexes: Sequence[int]
+        if base is None:
+            count = max((array.shape[0] for _, array in given if array.ndim), default=None)
+            if count is None:
+                raise Error("there is no column that says how many entries there are; give an array, "
+                            "or base")
+            raw = bytes(count * self.entry_bytes)
+        else:
+            indexes, raw = self._entries(base)
+        entries = numpy.frombuffer(raw, numpy.uint8).copy()
+        written: Dict[str, Tuple[Part, numpy.ndarray[Any, Any]]] = {}
+        for part, array in given:
+            if isinstance(part, Field) and not part.family and part.name in written:
+                raise Error(f"{part.name} is given twice; give it once")
+            written[part.name] = part, self._write_column(numpy, part, array, entries)
+        for part, column in written.values():
+            if isinstance(part, Field) and part.overlaps and not numpy.array_equal(
+                    self._column(numpy, part, entries.tobytes(), None), column):
+                raise Error(f"{part.name} shares bits with another field and their values disagree; give "
+                            "one of them, or values that agree")
+        changed = entries.tobytes()
+        return Dump(self, indexes, changed, base.notes) if isinstance(base, Dump) else changed
+
+    def frame(self, data: Data, fields: Union[FieldName, Iterable[FieldName], None] = None,
+              long: bool = False) -> pandas.DataFrame:
+        """A pandas frame: a row for each entry, by its index; bitmaps are texts such as "0-3,17", each
+        field of a family is a column. `long`: a row for each entry and port of the families instead.
+        """
+        return _show.frame(self, data, fields, long)
+
+    def text(self, entry: Data) -> str:
+        """An entry for people: lines such as "stg = 5", "spTreePort = {3: 0-7  0: 8-159}"."""
+        _, raw = self._entries(entry)
+        return _library.made_text("velmar_entry_text", self._handle, raw, len(raw)).decode()
 
     def diff(self, old: Data, new: Data) -> List[Dict[str, Any]]:
-        """What changed between two data, as rows like those of "velmar diff --format json".
-
-        A row for each entry that differs: {"index": 20, "change": "changed", "fields": {"stg":
-        {"old": 2, "new": 7}}}, with values as decode() gives them; "outsideFields" is among the fields
-        if such bits differ. For an entry that only one has, "change" is "only in OLD" or "only in
-        NEW", and there are no "fields". Entries are matched by index.
+        """What changed between two data, matched by index, as rows of "velmar diff --format json":
+        {"index": 20, "change": "changed", "fields": {"stg": {"old": 2, "new": 7}}} for an entry that
+        differs, with values as decode(expand=True) gives them, also "outsideFields". For an entry that
+        only one has, "change" is "only in OLD" or "only in NEW", and there are no "fields".
         """
+        if self._entries(old) == self._entries(new):
+            return []
         with self._as_dump(old) as before, self._as_dump(new) as after:
             rows: List[Dict[str, Any]] = _library.document("velmar_diff", before,
                                                            after)["entries"]
@@ -234,20 +309,19 @@ class Layout:
 
     def select(self, data: Data, where: Union[str, Iterable[str]] = (), *,
                indexes: Optional[str] = None, nonzero: bool = False) -> Dump:
-        """The entries of the data that fit, with their indexes.
-
-        where: conditions that must all hold, or one: "stg=3", "fidId>=0x10", "stg!=1,2", for a bitmap
-        "portBitmap~20-22" (it has these ports) and "!~" (none of them), for a family "spTreePort0-3=2".
-        indexes: those that are taken, such as "5,100-199". nonzero: only entries that are not zero.
-        Error: no condition, unknown field, value that the field does not have, and an index that the
-        data do not have.
+        """The entries that fit: conditions that must all hold, or one; `indexes` such as "5,100-199", which
+        the data must have; `nonzero`: entries that are not zero.
+        Conditions: "stg=3", "fidId>=0x10", "stg!=1,2"; for a bitmap "portBitmap~20-22" (it has these
+        ports) and "!~" (none of them); for a family "spTreePort0-3=2".
         """
-        conditions = [text(each) for each in ([where] if isinstance(where, str) else where)]
+        if not isinstance(where, str) and not is_list(where):
+            raise WrongType(f"{where!r} is not a condition; give a text such as \"stg=3\", or a list")
+        conditions = [text(each, "condition") for each in ([where] if isinstance(where, str) else where)]
         own, raw = self._entries(data)
         positions, count = (ctypes.c_uint32 * len(own))(), ctypes.c_size_t()
         with self._as_dump(data) as handle:
             call("velmar_select", handle, (ctypes.c_char_p * len(conditions))(*conditions),
-                 len(conditions), None if indexes is None else text(indexes), nonzero, positions,
+                 len(conditions), None if indexes is None else text(indexes), bool(nonzero), positions,
                  len(own), ctypes.byref(count))
         size, found = self.entry_bytes, positions[:count.value]
         return Dump(self, [own[i] for i in found],
@@ -255,50 +329,63 @@ class Layout:
                     data.notes if isinstance(data, Dump) else ())
 
     def address(self, index: int, identifier: int = 0) -> int:
-        """The S-channel address of an entry, or of an element of a register array.
-
-        Error: the table does not have the entry, the element or the identifier.
-        """
+        """The S-channel address of an entry, or of an element of a register array."""
         return find("velmar_address", self._handle, unsigned(index, "index"),
                     unsigned(identifier, "identifier"))
-
-    def _own_fields(self, count: int) -> Iterable[Field]:
-        for index in range(count):
-            try:
-                facts = info("velmar_layout_field", _library.velmar_field, self._handle, index)
-            except Error as error:
-                if error.code != _library.NOT_ON_CHIP:
-                    raise
-                continue
-            name = facts.accessor.decode()
-            yield Field(name, facts.hardware_name.decode(), facts.meaning.decode(), index, facts.id,
-                        _library.TYPES[facts.type], facts.first_bit, facts.bits,
-                        bool(facts.overlaps), name[:facts.family_letters],
-                        facts.family_number if facts.family_letters else None)
 
     def _reserved_bits(self) -> int:
         mask = ctypes.create_string_buffer(self.entry_bytes)
         call("velmar_field_mask", self._handle, mask, self.entry_bytes)
         return int.from_bytes(mask.raw, "little") ^ (1 << 8 * self.entry_bytes) - 1
 
+    def _named(self, name: FieldName, expand: bool = False) -> Sequence[Part]:
+        """The parts that a name stands for; all fields of a family are the family."""
+        known = name if isinstance(name, str) else name_of(name, "field")
+        found = self._by_name.get(known)
+        if found is None:
+            indexes, count = (ctypes.c_uint32 * len(self.fields))(), ctypes.c_size_t()
+            call("velmar_find_fields", self._handle, text(known), indexes, len(indexes),
+                 ctypes.byref(count))
+            fields = [self._by_index[index] for index in indexes[:count.value]]
+            found = self._by_name.get(fields[0].family)
+            if not isinstance(found, Family) or list(found.fields) != fields:
+                return fields
+        return found.fields if expand and isinstance(found, Family) else [found]
+
+    def _given(self, name: FieldName, value: Any) -> Iterable[Tuple[Field, Any]]:
+        """The fields of a name, each with its value."""
+        fields = cast(Sequence[Field], self._named(name, expand=True))
+        is_family = len({field.family for field in fields}) == 1 and fields[0].family
+        if not is_family or not is_list(value):
+            return ((field, value) for field in fields)
+        values = list(value)
+        if len(values) != len(fields):
+            raise Error(f"{name}: {len(values)} values; give {len(fields)}, one for each field")
+        return zip(fields, values)
+
     def _entries(self, data: Data) -> Tuple[Sequence[int], bytes]:
-        """Indexes and bytes. The library checks their number when it reads them."""
-        indexes: Optional[Sequence[int]] = None
-        if isinstance(data, Dump):
-            if data.layout._handle.value != self._handle.value:
-                raise Error(f"the dump is of {data.layout.table} on {data.layout.chip}, not of "
-                            f"{self.table} on {self.chip}; use its own layout")
-            indexes, data = data.indexes, data.data
-        raw = _raw(data)
-        count = len(raw) // self.entry_bytes
-        if indexes is None:
+        """Indexes and bytes of whole entries."""
+        if isinstance(data, Dump) and data.layout._handle != self._handle:
+            raise Error(f"the dump is of {data.layout.table} on {data.layout.chip}, not of "
+                        f"{self.table} on {self.chip}; use its own layout")
+        raw = raw_bytes(data.data if isinstance(data, Dump) else data, self.entry_bytes)
+        count, rest = divmod(len(raw), self.entry_bytes)
+        limit = self.entries * self.elements
+        if rest or count > limit:  # the library refuses it
+            call("velmar_dump_of", self._handle, self.variant, None, count, raw, len(raw),
+                 ctypes.byref(ctypes.c_void_p()))
+        if not isinstance(data, Dump):
             return range(count), raw
+        indexes = data.indexes
+        if type(indexes) is not range:
+            if not is_list(indexes):
+                raise WrongType(f"{indexes!r} are not indexes; give a list of them")
+            indexes = tuple(integer(index, "index") for index in indexes)
         if len(indexes) != count or len(set(indexes)) != count:
             raise Error("the dump has not one index for each entry; give each entry once")
-        limit = self.entries * self.elements
-        wrong = [index for index in indexes if not (isinstance(index, int) and 0 <= index < limit)]
-        if wrong:
-            raise Error(f"the dump has the index {wrong[0]!r}; give indexes from 0 to {limit - 1}")
+        for index in (min(indexes, default=0), max(indexes, default=0)):
+            if not 0 <= index < limit:
+                raise Error(f"the dump has the index {index}; give indexes from 0 to {limit - 1}")
         return indexes, raw
 
     def _as_dump(self, data: Data) -> ContextManager[ctypes.c_void_p]:
@@ -329,26 +416,30 @@ class Layout:
             return Dump(self, indexes, raw, tuple(notes))
         return Dump(self, indexes, ctypes.string_at(data.value or 0, size.value), tuple(notes))
 
-    def _numbers(self, field: Field, raw: bytes) -> List[int]:
-        """A column of numbers of any width."""
-        count = len(raw) // self.entry_bytes
-        if field.bits <= 64:
-            numbers = (ctypes.c_uint64 * count)()
-            call("velmar_read_column", self._handle, field.index, raw, len(raw), numbers, count)
-            return numbers[:]
-        size = 4 * _words(field)
-        words = ctypes.create_string_buffer(size * count)
-        call("velmar_read_word_column", self._handle, field.index, raw, len(raw), words,
-             count * _words(field))
-        column = words.raw
-        return [int.from_bytes(column[i:i + size], "little")
-                for i in range(0, size * count, size)]
+    def _move(self, verb: str, part: Part, data: Any, size: int, values: Any, count: int) -> None:
+        """Reads or writes a column of the shape and type of _form()."""
+        if isinstance(part, Family):
+            own = self._members[part.name]
+            call(f"velmar_{verb}_fields", self._handle, own, len(own), data, size, values, count)
+        else:
+            function = "word_column" if _is_words(part) else "column"
+            call(f"velmar_{verb}_{function}", self._handle, part.index, data, size, values, count)
 
-    def _values(self, field: Field, raw: bytes) -> Sequence[Value]:
-        numbers = self._numbers(field, raw)
-        if field.type == "bitmap":
-            return [_ports(number) for number in numbers]
-        return numbers
+    def _values(self, part: Part, raw: bytes) -> Sequence[Value]:
+        entries = len(raw) // self.entry_bytes
+        if isinstance(part, Field) and not _is_words(part):
+            numbers = (ctypes.c_uint64 * entries)()
+            self._move("read", part, raw, len(raw), numbers, entries)
+            return numbers[:]
+        (_, items), kind = _form(part, entries)
+        column = ctypes.create_string_buffer(entries * items * (1 if kind == "uint8" else 4))
+        self._move("read", part, raw, len(raw), column, entries * items)
+        size = len(column) // max(entries, 1)
+        rows = (column.raw[i * size:(i + 1) * size] for i in range(entries))
+        if isinstance(part, Family):
+            return [list(row) for row in rows]
+        wide = (int.from_bytes(row, "little") for row in rows)
+        return [ports_of(number) for number in wide] if part.type == "bitmap" else list(wide)
 
     def _outside(self, raw: bytes) -> Iterable[int]:
         size = self.entry_bytes
@@ -357,67 +448,56 @@ class Layout:
         return (int.from_bytes(raw[i:i + size], "little") & self._reserved
                 for i in range(0, len(raw), size))
 
-    def _number_column(self, field: Field, raw: bytes,
-                       row: numpy.ndarray[Any, Any]) -> numpy.ndarray[Any, Any]:
-        call("velmar_read_column", self._handle, field.index, raw, len(raw), row.ctypes.data, row.size)
-        return row if field.bits == 64 else row.view("int64")
+    def _column(self, numpy: Any, part: Part, raw: bytes, dtype: Optional[str]) -> Any:
+        shape, kind = _form(part, len(raw) // self.entry_bytes)
+        column = numpy.empty(shape, kind)
+        self._move("read", part, raw, len(raw), column.ctypes.data, column.size)
+        if isinstance(part, Family):
+            return column
+        if part.type == "bitmap":
+            bits = numpy.unpackbits(column.view(numpy.uint8), axis=1, count=part.bits,
+                                    bitorder="little")
+            return bits.view(bool)
+        if part.bits > 64 or part.bits == 64 and dtype is None:
+            return column
+        if dtype is None:
+            return column.view(numpy.int64)
+        return column.astype(numpy.min_scalar_type((1 << part.bits) - 1))
 
-    def _word_column(self, field: Field, raw: bytes) -> numpy.ndarray[Any, Any]:
-        import numpy
-        words = numpy.empty((len(raw) // self.entry_bytes, _words(field)), numpy.uint32)
-        call("velmar_read_word_column", self._handle, field.index, raw, len(raw),
-             words.ctypes.data, words.size)
-        if field.type != "bitmap":
-            return words
-        bits = numpy.unpackbits(words.view(numpy.uint8), axis=1, count=field.bits,
-                                bitorder="little")
-        return bits.view(bool)
-
-    def _write(self, field: Field, entry: Any, number: int) -> None:
-        size = (field.bits + 7) // 8
-        where = self._handle, field.index, entry, self.entry_bytes
-        if field.bits <= 64 and number < 1 << 64:
-            call("velmar_write", *where, number)
-        elif number < 1 << 8 * size:
-            call("velmar_write_bytes", *where, number.to_bytes(size, "little"), size)
+    def _write_column(self, numpy: Any, part: Part, given: Any, entries: Any) -> Any:
+        """Writes a column; returns it as it is read again."""
+        shape, kind = _form(part, entries.size // self.entry_bytes)
+        form, most = shape, numpy.iinfo(kind).max
+        is_bitmap = isinstance(part, Field) and part.type == "bitmap"
+        if isinstance(part, Field) and is_bitmap:
+            form, most = (shape[0], part.bits), 1
+        if given.ndim and given.shape != form:
+            raise Error(f"{part.name}: an array of the shape {given.shape}; give one of {form}, or a number")
+        if given.dtype.kind not in "biu" and given.size:
+            raise WrongType(f"{part.name}: an array of {given.dtype}; give one of integers")
+        # What is too large for a field of up to 64 bits, the library says.
+        lowest = given.min() if given.size and given.dtype.kind == "i" else 0
+        highest = given.max() if given.size and kind != "uint64" else 0
+        if lowest < 0 or highest > most:
+            raise Error(f"{part.name}: {min(lowest, 0) or highest} does not fit; give 0 to {most} at most")
+        column = given if given.ndim else numpy.broadcast_to(given, form)
+        if is_bitmap:
+            values = numpy.zeros(shape, kind)
+            packed = numpy.packbits(column.astype(bool), axis=1, bitorder="little")
+            values.view(numpy.uint8)[:, :packed.shape[1]] = packed
         else:
-            raise Error(f"{field.name}: value {number:#x} does not fit; the field has "
-                        f"{field.bits} bits")
-
-    def _check_shared(self, field: Field, raw: bytes, given: Mapping[str, int]) -> None:
-        for name, number in given.items():
-            other = self._by_name[name]
-            if other.overlaps and self._numbers(other, raw)[0] != number:
-                raise Error(f"{name} and {field.name} share bits and their values disagree; give one "
-                            "of them, or values that agree")
-
-    def _with_outside(self, raw: bytes, outside: Any) -> bytes:
-        bits = _index(OUTSIDE, outside)
-        if bits & ~self._reserved:
-            raise Error(f"{OUTSIDE}: {bits:#x} has bits inside fields or beyond the entry; set the "
-                        "fields instead")
-        number = int.from_bytes(raw, "little") & ~self._reserved | bits
-        return number.to_bytes(self.entry_bytes, "little")
+            same = column.view(kind) if column.dtype == numpy.int64 and kind == "uint64" else column
+            values = numpy.ascontiguousarray(same, kind)
+        self._move("write", part, entries.ctypes.data, entries.size, values.ctypes.data, values.size)
+        return column
 
 
-def layout(table: str, chip: Union[str, int], variant: int = 0) -> Layout:
-    """The layout of a table on a chip, such as layout("VlanEntry", "BCM56990_B0").
-
-    Names may be in any case, without underscores and without "Entry"; a chip also by its number.
-    Error: unknown name, the chip does not have the table, or the table does not have the variant.
+def layout(table: TableName, chip: ChipName, variant: int = 0) -> Layout:
+    """The layout of a table on a chip, such as layout("VlanEntry", "BCM56990_B0"); it cannot be changed.
+    Names, here and elsewhere, may be in any case, without underscores and without "Entry", and be what
+    tables(), chips() and fields list; a chip also has a number.
     """
     return _layout(table_name(table), chip_name(chip), unsigned(variant, "variant"))
-
-
-def ranges(ports: Iterable[int]) -> str:
-    """Ports as text, such as "0-3,17"; "none" if there are none."""
-    parts: List[List[int]] = []
-    for port in sorted(set(ports)):
-        if parts and parts[-1][1] == port - 1:
-            parts[-1][1] = port
-        else:
-            parts.append([port, port])
-    return ",".join(f"{a}-{b}" if a < b else f"{a}" for a, b in parts) or "none"
 
 
 @functools.lru_cache(maxsize=None)
@@ -425,64 +505,35 @@ def _layout(table: str, chip: str, variant: int) -> Layout:
     return Layout(table, chip, variant)
 
 
-def _raw(data: Data) -> bytes:
-    """The bytes of entries. Items of other sizes are not bytes of an entry in order."""
-    if isinstance(data, bytes):
-        return data
-    if isinstance(data, str):
-        raise TypeError(f"{data!r} is text; give bytes, or what velmar.load() reads from a file")
-    try:
-        items = memoryview(cast(bytes, data))
-    except TypeError:
-        raise TypeError(f"{data!r} is not data; give bytes, or a numpy array of uint8") from None
-    if items.format not in ("B", "b", "c", "I", "<I"):
-        raise Error(f"the data have items of {items.itemsize} bytes and format {items.format!r}; give "
-                    "bytes (numpy: uint8), or little-endian words of 32 bits (numpy: <u4)")
-    return items.tobytes()
+def _fields_of(handle: int, count: int) -> Tuple[Field, ...]:
+    every = (_library.velmar_field * count)()
+    call("velmar_fields_of", handle, every, ctypes.sizeof(_library.velmar_field), count)
+    return tuple(
+        Field(each.accessor.decode(), each.hardware_name.decode(), each.meaning.decode(), each.index,
+              each.id, _library.TYPES[each.type], each.first_bit, each.bits, bool(each.overlaps),
+              each.accessor.decode()[:each.family_letters],
+              each.family_number if each.family_letters else None)
+        for each in every)
+
+
+def _families(fields: Iterable[Field]) -> Iterator[Family]:
+    names = dict.fromkeys(field.family for field in fields if field.family)
+    for name in names:
+        own = tuple(field for field in fields if field.family == name)
+        yield Family(name, tuple(cast(int, field.number) for field in own), own)
+
+
+def _form(part: Part, entries: int) -> Tuple[Tuple[int, ...], str]:
+    """Shape and type of a column as the library takes it."""
+    if isinstance(part, Family):
+        return (entries, len(part.fields)), "uint8"
+    return ((entries, (part.bits + 31) // 32), "uint32") if _is_words(part) else ((entries,), "uint64")
+
+
+def _is_words(field: Field) -> bool:
+    return field.bits > 64 or field.type == "bitmap"
 
 
 def _plain(value: Mapping[str, Any]) -> Value:
     """A value of a document as decode() gives it."""
     return cast(Value, value["ports"]) if "ports" in value else int(value["hex"], 16)
-
-
-def _is_number(field: Field) -> bool:
-    return field.bits <= 64 and field.type != "bitmap"
-
-
-def _words(field: Field) -> int:
-    return (field.bits + 31) // 32
-
-
-def _ports(number: int) -> List[int]:
-    return [port for port, bit in enumerate(bin(number)[:1:-1]) if bit == "1"]
-
-
-def _index(name: str, value: Any) -> int:
-    try:
-        number = operator.index(value)
-    except TypeError:
-        raise Error(f"{name}: {value!r} is not a number; give an int") from None
-    if number < 0:
-        raise Error(f"{name}: {shown(number)} is negative; give an int from 0 on")
-    return number
-
-
-def _number(field: Field, value: Any) -> int:
-    """A value as a number; for a bitmap the bit of each port."""
-    if field.type != "bitmap":
-        return _index(field.name, value)
-    is_list = isinstance(value, Iterable) and getattr(value, "ndim", 1) == 1
-    if isinstance(value, (str, bytes, bytearray, memoryview, Mapping)) or not is_list:
-        raise Error(f"{field.name}: {value!r} is not ports; give a list of them, such as [0, 17]")
-    number = 0
-    for port in value:
-        # A row of a column has a bool for each port: that is another form.
-        if type(port).__name__ in ("bool", "bool_"):
-            raise Error(f"{field.name}: {port} is not a port; give the numbers of the ports")
-        port = _index(field.name, port)
-        if port >= field.bits:
-            raise Error(f"{field.name}: there is no port {shown(port)}; the field has ports 0 to "
-                        f"{field.bits - 1}")
-        number |= 1 << port
-    return number

@@ -9,7 +9,7 @@ import operator
 import os
 import pathlib
 from ctypes import POINTER, c_char_p, c_int, c_size_t, c_uint32, c_uint64, c_void_p
-from typing import Any, Dict, Iterator, Optional, Tuple, Union
+from typing import Any, Dict, Iterator, List, Optional, Tuple
 
 # velmar_code
 NOT_ON_CHIP = 6
@@ -20,13 +20,19 @@ TYPES = ("U8", "U16", "U32", "U64", "Raw128", "bitmap")
 KINDS = ("table", "register array")
 
 
-class Error(ValueError):
-    """What velmar refuses. The text says what is wrong, and what to do about it.
+class Brief(type):
+    """help() of its classes leaves out what every Python class has."""
 
+    def __dir__(cls) -> List[str]:
+        return [name for name, value in vars(cls).items() if callable(value) and name[0] != "_"]
+
+
+class Error(ValueError, metaclass=Brief):
+    """What velmar refuses: the text says what is wrong, and what to do about it. A wrong type is a TypeError
+    as well, and a position that is not there an IndexError.
     code         the velmar_code of velmar.h; 0 if the module refuses it, not the library
     line, entry, field
-                 of what is read: number of the line, from 1; index of the entry; accessor of the field.
-                 None where it is not known
+                 of what is read: line from 1, index of the entry, accessor; None where it is not known
     choices      the keywords that mend it, with the values that they may have, such as {"hex_order":
                  ("bytes", "words")}; an empty tuple for any value
     """
@@ -38,6 +44,14 @@ class Error(ValueError):
         self.entry: Optional[int] = None
         self.field: Optional[str] = None
         self.choices: Dict[str, Tuple[str, ...]] = {}
+
+
+class WrongType(Error, TypeError):
+    """See Error."""
+
+
+class WrongPosition(Error, IndexError):
+    """See Error."""
 
 
 class velmar_fault(ctypes.Structure):
@@ -58,7 +72,7 @@ class velmar_field(ctypes.Structure):
     _fields_ = [("accessor", c_char_p), ("hardware_name", c_char_p), ("meaning", c_char_p),
                 ("index", c_uint32), ("id", c_uint32), ("type", c_uint32), ("first_bit", c_uint32),
                 ("bits", c_uint32), ("overlaps", c_uint32), ("family_letters", c_uint32),
-                ("family_number", c_uint32)]
+                ("family_number", c_uint32), ("family_first", c_uint32), ("family_fields", c_uint32)]
 
 
 class velmar_layout_facts(ctypes.Structure):
@@ -96,12 +110,16 @@ FUNCTIONS = {
     "velmar_layout_of": (c_int, [c_uint32, c_uint32, c_uint32, POINTER(_layout)]),
     "velmar_find_layout": (c_int, [c_char_p, c_char_p, c_uint32, POINTER(_layout)]),
     "velmar_layout_info": (c_int, [_layout, POINTER(velmar_layout_facts), _size]),
-    "velmar_layout_field": (c_int, [_layout, c_uint32, POINTER(velmar_field), _size]),
+    "velmar_fields_of": (c_int, [_layout, POINTER(velmar_field), _size, _size]),
+    "velmar_find_fields": (c_int, [_layout, c_char_p, _buffer, _size, POINTER(_size)]),
     "velmar_field_mask": (c_int, [_layout, _buffer, _size]),
-    "velmar_write": (c_int, _read + [c_uint64]),
-    "velmar_write_bytes": (c_int, _read + [_buffer, _size]),
+    "velmar_encode": (c_int, [_layout, POINTER(c_char_p), _size, _buffer, _size]),
     "velmar_read_column": (c_int, _read + [_buffer, _size]),
     "velmar_read_word_column": (c_int, _read + [_buffer, _size]),
+    "velmar_read_fields": (c_int, [_layout, _buffer, _size, _buffer, _size, _buffer, _size]),
+    "velmar_write_column": (c_int, _read + [_buffer, _size]),
+    "velmar_write_word_column": (c_int, _read + [_buffer, _size]),
+    "velmar_write_fields": (c_int, [_layout, _buffer, _size, _buffer, _size, _buffer, _size]),
     "velmar_address": (c_int, [_layout, c_uint32, c_uint32, POINTER(c_uint32)]),
     "velmar_entry_at": (c_int, [c_uint32, c_uint32, c_uint32, c_uint32, POINTER(velmar_place),
                                 _size]),
@@ -114,6 +132,7 @@ FUNCTIONS = {
     "velmar_select": (c_int, [_dump, POINTER(c_char_p), _size, c_char_p, c_uint32, _buffer, _size,
                               POINTER(_size)]),
     "velmar_text_free": (None, [c_void_p]),
+    "velmar_entry_text": (c_int, [_layout, _buffer, _size, _made]),
     "velmar_diff": (c_int, [_dump, _dump, _made]),
     "velmar_compare": (c_int, [c_uint32, c_uint32, c_uint32, c_uint32, _made]),
     "velmar_identify": (c_int, [_buffer, _size, _options, c_uint32, c_uint32, _made]),
@@ -181,10 +200,15 @@ def made(function: str, *arguments: Any, free: str = "velmar_dump_free",
         getattr(library, free)(result)
 
 
+def made_text(function: str, *arguments: Any, source: str = "") -> bytes:
+    """The text that a function makes."""
+    with made(function, *arguments, free="velmar_text_free", source=source) as result:
+        return ctypes.string_at(result.value or 0)
+
+
 def document(function: str, *arguments: Any, source: str = "") -> Any:
     """The JSON document that a function makes."""
-    with made(function, *arguments, free="velmar_text_free", source=source) as json_text:
-        return json.loads(ctypes.string_at(json_text.value or 0))
+    return json.loads(made_text(function, *arguments, source=source))
 
 
 def info(function: str, structure: type, *arguments: Any) -> Any:
@@ -194,43 +218,34 @@ def info(function: str, structure: type, *arguments: Any) -> Any:
     return facts
 
 
-def text(name: str) -> bytes:
-    """A name as C takes it."""
-    if not isinstance(name, str):
-        raise TypeError(f"{name!r} is not a name; give a str")
-    if "\0" in name:
-        raise Error(f"{name!r} has a zero character; remove it")
-    return name.encode(errors="backslashreplace")
-
-
-def unsigned(number: int, what: str, bits: int = 32) -> int:
-    """A number as C takes it: ctypes would cut off what is too much, without a word."""
-    number = operator.index(number)
-    if not 0 <= number < 1 << bits:
-        raise Error(f"{what} {shown(number)} is not a number of {bits} bits; give 0 to "
-                    f"{(1 << bits) - 1}")
-    return int(number)
-
-
-def shown(number: int) -> str:
-    """A number for a message; Python refuses to write thousands of decimal digits."""
-    return str(number) if abs(number) < 1 << 64 else f"of {number.bit_length()} bits"
-
-
-def chip_name(chip: Union[str, int]) -> str:
-    """The name of a chip that is given in any form. Error: unknown chip."""
-    index = find("velmar_find_chip", text(str(chip)))
-    return str(info("velmar_chip_info", velmar_chip, index).name.decode())
-
-
-def table_name(table: str) -> str:
-    """The name of a table that is given in any form. Error: unknown table."""
-    index = find("velmar_find_table", text(table))
-    return str(info("velmar_table_info", velmar_table, index).name.decode())
-
-
 def find(function: str, *arguments: Any) -> int:
     """The index, or the address, that a function finds."""
     found = c_uint32()
     call(function, *arguments, ctypes.byref(found))
     return found.value
+
+
+def text(value: Any, what: str = "text") -> bytes:
+    """A text as C takes it."""
+    if not isinstance(value, str):
+        raise WrongType(f"{value!r} is not a {what}; give a str")
+    if "\0" in value:
+        raise Error(f"{value!r} has a zero character; remove it")
+    return value.encode(errors="backslashreplace")
+
+
+def integer(value: Any, what: str) -> int:
+    """Any integer, such as those of numpy."""
+    try:
+        return operator.index(value)
+    except TypeError:
+        raise WrongType(f"{what}: {value!r} is not a number; give an int") from None
+
+
+def unsigned(value: Any, what: str, bits: int = 32) -> int:
+    """A number as C takes it: ctypes would cut off what is too much, without a word."""
+    number = integer(value, what)
+    if not 0 <= number < 1 << bits:
+        shown = number if abs(number) < 1 << 64 else f"of {number.bit_length()} bits"
+        raise Error(f"{what} {shown} is not a number of {bits} bits; give 0 to {(1 << bits) - 1}")
+    return number

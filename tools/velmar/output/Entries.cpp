@@ -10,15 +10,6 @@
 namespace Tool {
 namespace {
 
-/// The values of a family, the fields of one value together: "3: 1-9,11-20  0: 0,10".
-std::string familyText(const FieldGroup& family, const U8* entry, U32 entryBytes) {
-  std::string text;
-  for (const auto& [value, numbers] : family.numbersByValue(entry, entryBytes)) {
-    text += formatText("{}{}: {}", text.empty() ? "" : "  ", value, rangesText(numbers));
-  }
-  return text;
-}
-
 /// For people: a block for each entry, with a line for each field or family of fields.
 class EntryTable {
  public:
@@ -67,7 +58,7 @@ class EntryTable {
     std::string text = line.head;
     bool isZero = false;
     if (line.group.isFamily()) {
-      text += familyText(line.group, bytes, size);
+      text += line.group.valuesOf(bytes, size);
     } else {
       const Value value = Value::read(place, bytes, size);
       isZero = value.isZero();
