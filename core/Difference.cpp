@@ -30,13 +30,14 @@ class Ordered {
 };
 
 /// The next entry of one of the dumps, or of both.
-EntryChange nextPair(Ordered& before, Ordered& after) {
-  EntryChange change{0, EntryChange::Kind::changed, nullptr, nullptr, {}};
+EntryChange nextPair(Ordered& before, Ordered& after, bool isPartial) {
+  using Kind = EntryChange::Kind;
+  EntryChange change{0, Kind::changed, nullptr, nullptr, {}};
   const bool takesOld = before.hasEntry() && (!after.hasEntry() || before.index() <= after.index());
   const bool takesNew = after.hasEntry() && (!before.hasEntry() || after.index() <= before.index());
   change.index = takesOld ? before.index() : after.index();
-  if (!takesNew) change.kind = EntryChange::Kind::onlyInOld;
-  if (!takesOld) change.kind = EntryChange::Kind::onlyInNew;
+  if (!takesNew) change.kind = isPartial ? Kind::unknownInNew : Kind::onlyInOld;
+  if (!takesOld) change.kind = isPartial ? Kind::unknownInOld : Kind::onlyInNew;
   if (takesOld) change.before = before.take();
   if (takesNew) change.after = after.take();
   return change;
@@ -121,6 +122,10 @@ const char* nameOf(EntryChange::Kind kind) {
       return "only in OLD";
     case EntryChange::Kind::onlyInNew:
       return "only in NEW";
+    case EntryChange::Kind::unknownInNew:
+      return "unknown in NEW";
+    case EntryChange::Kind::unknownInOld:
+      return "unknown in OLD";
     case EntryChange::Kind::changed:
       break;
   }
@@ -138,7 +143,7 @@ Difference difference(const Layout& layout, const Dump& before, const Dump& afte
   Ordered now(after);
   while (old.hasEntry() || now.hasEntry()) {
     if (options.stopsAtFirst && !result.entries.empty()) return result;
-    EntryChange change = nextPair(old, now);
+    EntryChange change = nextPair(old, now, options.isPartial);
     if (!isSelected(options.selection, change, size)) continue;
     if (change.kind != EntryChange::Kind::changed) {
       if (options.common) continue;
@@ -172,6 +177,22 @@ std::string differenceText(const Layout& layout, const Difference& difference, R
   }
   rows.end();
   return text;
+}
+
+void addRows(Listing& to, const Layout& layout, U32 identifier, const Difference& difference) {
+  for (const EntryChange& change : difference.entries) {
+    const Row head = {layout.name(), identifier, change.index, nameOf(change.kind)};
+    if (change.kind != EntryChange::Kind::changed) to.add(head);
+    for (const FieldPlace* place : change.fields) {
+      ChangedValue before = valueOf(layout, place, change.before);
+      ChangedValue after = valueOf(layout, place, change.after);
+      Row row = head;
+      row.emplace_back(nameOf(place));
+      row.push_back(Cell::ofJson(std::move(before.json)).shownAs(std::move(before.plain)));
+      row.push_back(Cell::ofJson(std::move(after.json)).shownAs(std::move(after.plain)));
+      to.add(std::move(row));
+    }
+  }
 }
 
 Listing differenceCounts(const Difference& difference) {

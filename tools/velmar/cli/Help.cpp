@@ -90,6 +90,10 @@ const std::vector<Notation> notations = {
     {"logs", "time stamps, levels and names of processes before each line of data are skipped"},
     {"JSON", "what decode prints with --format json or jsonl"},
     {"CSV", "what decode prints with --format csv, also from a spreadsheet"},
+    {"snapshot",
+     "a folder with snapshot.json, which names its chip and its dumps, as velmar snapshot writes "
+     "it. "
+     "Its dumps are files in the folder; links are not followed"},
 };
 
 const std::vector<Notation> conditions = {
@@ -163,6 +167,7 @@ std::string usageOf(const Verb& verb) {
   }
   for (const Option& option : verb.options) {
     if (option.required) usage += formatText(" {} {}", option.longName(), option.value);
+    if (option.isKnownBySnapshot) usage += formatText(" [{} {}]", option.longName(), option.value);
   }
   return usage + " [OPTION...]" + last;
 }

@@ -135,13 +135,15 @@ void writeRows(Output& output, const Layout& layout, Format format,
 }
 
 int run(DecodeRequest& request) {
+  findInSnapshot(request.input, request.table);
+  requireChip(request.table, "--chip");
   const Layout layout = request.table.layout();
   Output output(request.output.file, request.output.color);
   Selected selected(request, layout);
   const std::vector<FieldPlace> fields =
       fieldsOf(layout, request.fields, request.output.isForPeople());
   request.input.options.beyondEnd = request.check;
-  const DumpInput input(request.input.file, layout, request.input.options);
+  const DumpInput input(request.input, layout);
   const std::vector<size_t> positions = selected.in(input.dump);
   const Format format = request.output.format;
   std::vector<Finding> findings;
@@ -177,7 +179,7 @@ Verb decodeVerb() {
           "have up to 64 MiB, with what --stride skips.",
           {{Positionals::table, into(to.table.table)},
            {Positionals::dump, intoOnlyFile(to.input.file)}},
-          {{Options::chip, into(to.table.chip)},
+          {{Options::chipOfDump, into(to.table.chip)},
            {Options::variant, intoVariant(to.table.variant)},
            {Options::index, into(to.entries.index)},
            {Options::fields, into(to.fields)},

@@ -167,7 +167,7 @@ class Encoder {
 
   void changeBase() {
     const InputRequest& base = request_.base;
-    const DumpInput input(base.file, layout_, base.options);
+    const DumpInput input(base, layout_);
     const Dump& dump = input.dump;
     if (dump.count() > 1 && !hasIndexes() && !values_.common().empty()) {
       fail("{}: more than one entry; give --index to choose which to change", base.file);
@@ -213,7 +213,9 @@ std::vector<U8> wholeTable(const Layout& layout, const Dump& dump) {
   return bytes;
 }
 
-int run(const EncodeRequest& request) {
+int run(EncodeRequest& request) {
+  findInSnapshot(request.base, request.table);
+  requireChip(request.table, "--chip");
   const Layout layout = request.table.layout();
   Output output(request.output.file, "never");
   Encoder encoder(request, layout);
@@ -249,7 +251,7 @@ Verb encodeVerb() {
       "gives the same bytes, also with --plain.",
       {{Positionals::table, into(to.table.table)},
        {Positionals::assignments, into(to.assignments)}},
-      {{Options::chip, into(to.table.chip)},
+      {{Options::chipOfDump, into(to.table.chip)},
        {Options::variant, intoVariant(to.table.variant)},
        {Options::base, into(to.base.file)},
        {Options::changeIndex, into(to.index)},

@@ -22,6 +22,7 @@ struct TableRequest {
 /// A dump.
 struct InputRequest {
   std::string file;
+  std::string inSnapshot;  ///< the dump, if `file` is the folder of a snapshot
   ReadOptions options;
 };
 

@@ -14,6 +14,7 @@ Verb exportVerb();
 Verb fieldsVerb();
 Verb identifyVerb();
 Verb layoutVerb();
+Verb snapshotVerb();
 Verb tablesVerb();
 Verb translateVerb();
 
