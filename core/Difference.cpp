@@ -63,21 +63,6 @@ bool differsOutsideFields(const Layout& layout, const EntryChange& change) {
   return false;
 }
 
-/// One of the two values of a field that differs.
-struct ChangedValue {
-  std::string json;
-  std::string plain;
-};
-
-ChangedValue valueOf(const Layout& layout, const FieldPlace* place, const U8* entry) {
-  if (place == nullptr) {
-    const std::string hex = reservedBits(layout, entry);
-    return {formatText(R"({{"hex":"{}"}})", hex), hex};
-  }
-  const Value value = Value::read(*place, entry, layout.entryBytes());
-  return {valueJson(*place, value), plainText(*place, value)};
-}
-
 std::vector<std::string> columnsOf(RowFormat format) {
   if (format == RowFormat::csv) return {"index", "change", "field", "old", "new"};
   if (format == RowFormat::json) return {"index", "change", "fields"};
@@ -88,8 +73,8 @@ void writeCsv(RowWriter& rows, const Layout& layout, const EntryChange& change) 
   const char* const kind = nameOf(change.kind);
   if (change.kind != EntryChange::Kind::changed) return rows.write({change.index, kind});
   for (const FieldPlace* place : change.fields) {
-    rows.write({change.index, kind, nameOf(place), valueOf(layout, place, change.before).plain,
-                valueOf(layout, place, change.after).plain});
+    rows.write({change.index, kind, nameOf(place), changedCell(layout, place, change.before),
+                changedCell(layout, place, change.after)});
   }
 }
 
@@ -99,17 +84,7 @@ void writeObject(RowWriter& rows, const Layout& layout, const EntryChange& chang
   row.emplace_back(change.index);
   row.emplace_back(nameOf(change.kind));
   if (change.kind == EntryChange::Kind::changed) {
-    std::string fields;
-    JsonWriter json(fields);
-    json.openObject();
-    for (const FieldPlace* place : change.fields) {
-      json.key(nameOf(place)).openObject();
-      json.key("old").raw(valueOf(layout, place, change.before).json);
-      json.key("new").raw(valueOf(layout, place, change.after).json);
-      json.closeObject();
-    }
-    json.closeObject();
-    row.push_back(Cell::ofJson(std::move(fields)));
+    row.push_back(Cell::ofJson(changesJson(layout, change.fields, change.before, change.after)));
   }
   rows.write(row);
 }
@@ -130,6 +105,30 @@ const char* nameOf(EntryChange::Kind kind) {
       break;
   }
   return "changed";
+}
+
+std::string changesJson(const Layout& layout, const std::vector<const FieldPlace*>& fields,
+                        const U8* before, const U8* after) {
+  std::string text;
+  JsonWriter json(text);
+  json.openObject();
+  for (const FieldPlace* place : fields) {
+    json.key(nameOf(place)).openObject();
+    json.key("old").raw(before == nullptr ? "null" : changedCell(layout, place, before).json());
+    json.key("new").raw(changedCell(layout, place, after).json());
+    json.closeObject();
+  }
+  json.closeObject();
+  return text;
+}
+
+Cell changedCell(const Layout& layout, const FieldPlace* place, const U8* entry) {
+  if (place == nullptr) {
+    const std::string hex = reservedBits(layout, entry);
+    return Cell::ofJson(formatText(R"({{"hex":"{}"}})", hex)).shownAs(hex);
+  }
+  const Value value = Value::read(*place, entry, layout.entryBytes());
+  return Cell::ofJson(valueJson(*place, value)).shownAs(plainText(*place, value));
 }
 
 Difference difference(const Layout& layout, const Dump& before, const Dump& after,
@@ -184,12 +183,10 @@ void addRows(Listing& to, const Layout& layout, U32 identifier, const Difference
     const Row head = {layout.name(), identifier, change.index, nameOf(change.kind)};
     if (change.kind != EntryChange::Kind::changed) to.add(head);
     for (const FieldPlace* place : change.fields) {
-      ChangedValue before = valueOf(layout, place, change.before);
-      ChangedValue after = valueOf(layout, place, change.after);
       Row row = head;
       row.emplace_back(nameOf(place));
-      row.push_back(Cell::ofJson(std::move(before.json)).shownAs(std::move(before.plain)));
-      row.push_back(Cell::ofJson(std::move(after.json)).shownAs(std::move(after.plain)));
+      row.push_back(changedCell(layout, place, change.before));
+      row.push_back(changedCell(layout, place, change.after));
       to.add(std::move(row));
     }
   }

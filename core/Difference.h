@@ -46,6 +46,13 @@ struct Difference {
 Difference difference(const Layout& layout, const Dump& before, const Dump& after,
                       const DifferenceOptions& options);
 
+/// Fields that differ between two states of an entry, as a JSON object; null: the reserved bits.
+/// `before` null: it is not known.
+std::string changesJson(const Layout& layout, const std::vector<const FieldPlace*>& fields,
+                        const U8* before, const U8* after);
+/// A field of an entry; null: the reserved bits.
+Cell changedCell(const Layout& layout, const FieldPlace* place, const U8* entry);
+
 /// As rows: for CSV a row for each field, otherwise for each entry; in JSON lines with table and chip.
 std::string differenceText(const Layout& layout, const Difference& difference, RowFormat format);
 /// Adds a row for each field: table, identifier, index, change, field, old, new.
