@@ -28,6 +28,9 @@ with open("samples/vlan-bcm56990.bin", "rb") as whole, open(cut, "wb") as part:
     part.write(whole.read(16 * 4000))
 other = os.path.join(work.name, "other")
 run("snapshot", other, "--chip", "33", f"vlan={changed}")
+odd = os.path.join(work.name, "odd.log")
+with open(odd, "w", encoding="utf-8") as log:
+    log.write("W 0x20f80000 1 2\nW 0x12001003 1\nW 0x0c7c0014 0 0 0 ffffffff\nR 0x12001000 0\n")
 commands = [line.split() for line in f"""
 chips
 tables
@@ -55,6 +58,9 @@ diff vlan --chip 33 {cut} {changed}
 diff vlan --chip 33 {cut} {changed} --stat
 diff samples/lab-bcm56990 {other}
 diff vlan samples/lab-bcm56990 {other}
+trace --chip 33 samples/agent-bcm56990.log
+trace --chip 33 {odd}
+trace --chip 33 samples/agent-bcm56990.log --stat
 translate VlanProfile --from 56870 --to 56980 samples/vlan-profile-bcm56870.bin
 """.strip().splitlines()]
 

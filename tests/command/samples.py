@@ -7,6 +7,7 @@ usage: samples.py SOURCE_DIR BUILD_DIR"""
 import os
 import re
 import subprocess
+import sys
 import tempfile
 
 from command import build, check, finish, golden_tables, program, source
@@ -38,13 +39,18 @@ with tempfile.TemporaryDirectory(prefix="velmar test ") as scratch:
     check(exit_code(programs[1], scratch) == 0, "program-tables")
     check(exit_code(os.path.join(source, "examples", "write-snapshot"), program, scratch,
                     os.path.join(scratch, "lab-bcm56990")) == 0, "write-snapshot")
+    check(exit_code(sys.executable, "-B", os.path.join(source, "examples", "write-agent-log.py"), program,
+                    os.path.join(scratch, "agent-bcm56990.log")) == 0, "write-agent-log.py")
     written = files_in(scratch)
 for name in written.keys() | committed.keys():
     check(written.get(name) == committed.get(name), f"samples/{name} is stale; to refresh: "
           "cmake --build --preset release --target samples")
 
 rows = re.findall(r"^\| `(.*?)` *\| `(.*?)` *\| `(.*?)` *\| *(\d+) \| *(\d+) \|", readme, re.M)
-check({row[0] for row in rows} == {name for name in committed if os.sep not in name}, "samples/README.md has other files")
+logs = {"agent-bcm56990.log"}
+check({row[0] for row in rows} | logs == {name for name in committed if os.sep not in name},
+      "samples/README.md has other files")
+check(committed["agent-bcm56990.log"].count(b"\n") == 200, "the log has 200 lines")
 for name, table, chip, size, count in rows:
     check(entry_bytes.get((table, chip)) == int(size) and
           len(committed.get(name, b"")) == int(size) * int(count), f"samples/README.md: {name}")

@@ -173,6 +173,37 @@ inline constexpr OptionText
           Times::isSwitch},
     quiet{"-q,--quiet", nullptr, "print nothing: the exit code is the answer", Times::isSwitch},
     diagram{"--diagram", nullptr, "draw the entry in rows of 32 bits", Times::isSwitch},
+    tables{"--table", "TABLE",
+           "only transactions of this table; may be repeated. An address that two tables share is then "
+           "shown as this one's", Times::many, Proposal::tables},
+    eventWhere{"--where", "CONDITION",
+          "only transactions after which it holds for the entry, such as 'stg=7'; 'changed stg' holds "
+          "if the transaction lists the field; may be repeated: all must hold", Times::many},
+    before{"--before", "TABLE=FILE",
+           "the entries of a table at the start, as a dump in any notation; may be repeated",
+           Times::many},
+    fromTime{"--from", "TIME", "only transactions from this time on, in the form of the log"},
+    untilTime{"--until", "TIME", "stop at the first transaction after this time"},
+    history{"--history", "TABLE:INDEX", "only transactions of this entry or element"},
+    eventLimit{"--limit", "N", "stop after N transactions"},
+    eventStat{"--stat", nullptr,
+              "instead of the transactions, print how often each table was written, and how often "
+              "that changed each field", Times::isSwitch},
+    lineShape{"--line", "SHAPE",
+              "the shape of the lines, such as '{time} {op} addr={address} data={words}'; also {len}, "
+              "{access}, {block}, and {skip} for what has no meaning. Without {op} each line is a write"},
+    wordsApart{"--words-apart", nullptr,
+               "lines of one operation and address follow each other until the entry has its words",
+               Times::isSwitch},
+    unknown{"--unknown", nullptr, "show the lines that are no transactions, on standard error",
+            Times::isSwitch},
+    explainInput{"--explain-input", nullptr,
+                 "say on standard error how the first lines were taken apart", Times::isSwitch},
+    follow{"--follow", nullptr, "show each transaction at once, and wait for more of a file",
+           Times::isSwitch},
+    checkTrace{"--check", nullptr,
+               "exit 1 if a transaction that is shown has a finding, or if a line is no transaction",
+               Times::isSwitch},
     help{"-h,--help", nullptr, "print this help", Times::isSwitch};
 
 /// --format with the formats of a verb; the first is the default.
@@ -188,6 +219,7 @@ namespace Positionals {
 inline constexpr PositionalText
     table{"TABLE", "the table, such as VlanEntry or vlan", Proposal::tables, true},
     tableIfAny{"TABLE", "this table only", Proposal::tables},
+    log{"FILE", "the log; - or nothing: standard input", Proposal::files, false, true},
     dump{"FILE", "the dump, or a snapshot, which is a folder; - or nothing: standard input", Proposal::files, false, true},
     tableOfDumps{"TABLE",
                  "the table, such as VlanEntry or vlan; for two snapshots it may be left out: all "

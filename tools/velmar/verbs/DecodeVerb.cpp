@@ -1,5 +1,3 @@
-#include <limits>
-
 #include "core/Documents.h"
 #include "output/Entries.h"
 #include "output/Listings.h"
@@ -166,10 +164,6 @@ int run(DecodeRequest& request) {
 Verb decodeVerb() {
   const auto request = std::make_shared<DecodeRequest>();
   DecodeRequest& to = *request;
-  const auto takeLimit = [&to](const Texts& texts) {
-    to.limit = numberOf("--limit", texts.front(), std::numeric_limits<U32>::max());
-    if (to.limit == 0U) fail("--limit 0 shows nothing; give 1 or more");
-  };
   return {"decode",
           "Decodes a dump of a table: address and fields of each entry.",
           "A dump is raw binary (little-endian, entries one after another), hex text (one entry "
@@ -185,7 +179,7 @@ Verb decodeVerb() {
            {Options::fields, into(to.fields)},
            {Options::where, into(to.entries.where)},
            {Options::nonzero, into(to.entries.nonzero)},
-           {Options::limit, takeLimit},
+           {Options::limit, intoLimit(to.limit)},
            {Options::plain, into(to.plain)},
            {Options::expand, into(to.expand)},
            {Options::check, into(to.check)},

@@ -16,6 +16,7 @@ Verb identifyVerb();
 Verb layoutVerb();
 Verb snapshotVerb();
 Verb tablesVerb();
+Verb traceVerb();
 Verb translateVerb();
 
 }  // namespace Tool
