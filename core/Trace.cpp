@@ -52,7 +52,7 @@ Trace::Trace(const Catalogue::Chip& chip, U8 variant, Options options, Show show
 TracedTable& Trace::tracedOf(U32 table) {
   if (!tables_[table]) {
     // A table of the map is on the chip.
-    TracedTable traced{*Layout::of(Catalogue::table(table), chip_, variant_), {}};
+    TracedTable traced{*Layout::of(Catalogue::table(table), chip_, variant_), {}, false};
     for (const FieldPlace& place : traced.layout.fields()) {
       traced.wordsOf.push_back(wordsOf(place));
     }
@@ -67,7 +67,9 @@ Trace::Known& Trace::knownOf(U32 address, U32 size) {
   return found->second;
 }
 
-void Trace::know(const Layout& layout, const Dump& dump) {
+void Trace::know(U32 table, const Dump& dump) {
+  tracedOf(table).isTouched = true;
+  const Layout& layout = layoutOf(table);
   for (size_t i = 0; i < dump.count(); ++i) {
     const U32 address = layout.addressOf(dump.index(i)).address;
     Known& known = knownOf(address, layout.entryBytes());
@@ -155,7 +157,8 @@ void Trace::checkAccess(const BusLine& transaction) {
   if (isWrong) event_.findings.add(TraceFinding::accessCode);
 }
 
-void Trace::follow(const BusLine& transaction, const TracedTable& traced) {
+void Trace::follow(const BusLine& transaction, TracedTable& traced) {
+  traced.isTouched = true;
   const U32 size = traced.layout.entryBytes();
   Known& known = knownOf(transaction.address, size);
   U8* const bytes = &bytes_[known.at];
@@ -204,7 +207,7 @@ void Trace::compare(const TracedTable& traced) {
 std::vector<std::pair<const Layout*, Dump>> Trace::state() {
   std::vector<std::pair<const Layout*, Dump>> tables;
   for (U32 table = 0; table < Catalogue::tableCount(); ++table) {
-    if (!tables_[table]) continue;
+    if (!tables_[table] || !tables_[table]->isTouched) continue;
     const Layout& layout = tables_[table]->layout;
     Dump dump(layout.entryBytes());
     for (U32 index = 0; index < layout.indexCount(); ++index) {

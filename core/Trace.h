@@ -46,6 +46,7 @@ class TraceFindings {
 struct TracedTable {
   Layout layout;
   std::vector<U64> wordsOf;  ///< of each field: the words of the entry that have its bits
+  bool isTouched = false;    ///< by the log, or by what is known at the start
 };
 
 /// How the state of an entry came to be known.
@@ -80,7 +81,7 @@ class Trace {
   Trace(const Catalogue::Chip& chip, U8 variant, Options options, Show show);
 
   /// Sets the state at the start.
-  void know(const Layout& layout, const Dump& dump);
+  void know(U32 table, const Dump& dump);
   void take(const BusLine& transaction);
   /// Takes it that the log has ended.
   void finish();
@@ -99,7 +100,7 @@ class Trace {
   void locate(U32 address);
   void interpret(const BusLine& transaction);
   void checkAccess(const BusLine& transaction);
-  void follow(const BusLine& transaction, const TracedTable& traced);
+  void follow(const BusLine& transaction, TracedTable& traced);
   void compare(const TracedTable& traced);
   Known& knownOf(U32 address, U32 size);
 

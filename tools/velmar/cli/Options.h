@@ -180,8 +180,11 @@ inline constexpr OptionText
           "only transactions after which it holds for the entry, such as 'stg=7'; 'changed stg' holds "
           "if the transaction lists the field; may be repeated: all must hold", Times::many},
     before{"--before", "TABLE=FILE",
-           "the entries of a table at the start, as a dump in any notation; may be repeated",
-           Times::many},
+           "the entries of a table at the start, as a dump in any notation, or the folder of a snapshot "
+           "alone; may be repeated", Times::many},
+    writeState{"--write-state", "DIR",
+               "write the entries that are known at the end as a snapshot: a folder that does not exist "
+               "yet", Times::once, Proposal::files},
     fromTime{"--from", "TIME", "only transactions from this time on, in the form of the log"},
     untilTime{"--until", "TIME", "stop at the first transaction after this time"},
     history{"--history", "TABLE:INDEX", "only transactions of this entry or element"},

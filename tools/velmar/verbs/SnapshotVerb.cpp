@@ -1,6 +1,5 @@
 #include "core/Identification.h"
-#include "output/Entries.h"
-#include "output/NewFolder.h"
+#include "output/SnapshotFolder.h"
 #include "verbs/Inputs.h"
 #include "verbs/Requests.h"
 #include "verbs/Verbs.h"
@@ -74,12 +73,6 @@ bool isFromZero(const Dump& dump) {
   return true;
 }
 
-std::string fileNameOf(const SnapshotDump& dump) {
-  std::string name(SimpleName(dump.table.name()).withoutSuffix());
-  if (dump.identifier != 0) name += formatText("-{}", dump.identifier);
-  return name + (dump.notation == Notation::raw ? ".bin" : ".txt");
-}
-
 std::unique_ptr<ReadEntries> readEntries(const SnapshotRequest& request, const Given& given) {
   Input input(given.file);
   const Catalogue::Table table = given.table ? *given.table : identifiedTable(request, input);
@@ -90,7 +83,6 @@ std::unique_ptr<ReadEntries> readEntries(const SnapshotRequest& request, const G
   report(result->dump, result->input.name());
   // Entries without gaps need no indexes.
   if (!isFromZero(result->dump)) result->described.notation = Notation::hex;
-  result->described.file = fileNameOf(result->described);
   return result;
 }
 
@@ -104,22 +96,13 @@ int run(SnapshotRequest& request) {
   const bool isShared = request.dumps.size() > 1;
   options.shared = {isShared, isShared, isShared, isShared, isShared};
   std::vector<std::unique_ptr<ReadEntries>> all;
+  std::vector<const Dump*> dumps;
   for (const std::string& text : request.dumps) {
     all.push_back(readEntries(request, givenDump(text, request.identifies)));
     snapshot.dumps.push_back(all.back()->described);
+    dumps.push_back(&all.back()->dump);
   }
-  check(checkSnapshot(snapshot));
-  NewFolder folder(request.folder);
-  for (const std::unique_ptr<ReadEntries>& one : all) {
-    Output output(folder.pathOf(one->described.file), "never");
-    const bool isRaw = one->described.notation == Notation::raw;
-    writeBytes(output, isRaw ? Format::raw : Format::hex, true, one->dump);
-    output.finish();
-  }
-  Output manifest(folder.pathOf(manifestName), "never");
-  manifest.write(snapshotText(snapshot));
-  manifest.finish();
-  folder.finish();
+  writeSnapshot(request.folder, snapshot, dumps, Format::hex);
   return exitSuccess;
 }
 

@@ -3,7 +3,9 @@
 
 #include "core/TraceText.h"
 #include "core/TraceTime.h"
+#include "files/Files.h"
 #include "output/Listings.h"
+#include "output/SnapshotFolder.h"
 #include "verbs/Inputs.h"
 #include "verbs/LogLines.h"
 #include "verbs/Requests.h"
@@ -15,7 +17,7 @@ namespace {
 struct TraceRequest {
   std::optional<Catalogue::Chip> chip;
   U8 variant = 0;
-  std::string log, line, from, until, history;
+  std::string log, line, from, until, history, writeState;
   Texts tables, before, where;
   ReadOptions beforeOptions;
   OutputRequest output;
@@ -253,12 +255,31 @@ class TraceRun : private TraceSink {
   /// Takes the state of a table at the start.
   void know(const std::string& text) {
     const size_t sign = text.find('=');
+    if (sign == std::string::npos && Velmar::Files::isFolder(text)) return knowSnapshot(text);
     if (sign == std::string::npos) {
       fail("--before {}: no table; give TABLE=FILE, such as vlan=before.bin", inQuotes(text));
     }
-    const Layout& layout = trace_.layoutOf(tableOnChip(request_, text.substr(0, sign)));
-    const DumpInput input({text.substr(sign + 1), "", request_.beforeOptions}, layout);
-    trace_.know(layout, input.dump);
+    TableRequest table{taken(findTable(text.substr(0, sign))), request_.chip, request_.variant};
+    InputRequest input{text.substr(sign + 1), "", request_.beforeOptions};
+    findInSnapshot(input, table);
+    knowDump(tableOnChip(request_, table.table->name()), input);
+  }
+
+  void knowSnapshot(const std::string& folder) {
+    InputRequest input{folder, "", request_.beforeOptions};
+    const Snapshot snapshot =
+        checkSnapshotOptions(input, {std::nullopt, request_.chip, request_.variant});
+    for (const SnapshotDump& dump : snapshot.dumps) {
+      input.inSnapshot = dump.file;
+      input.options = ReadOptions();
+      input.options.notation = dump.notation;
+      knowDump(tableOnChip(request_, dump.table.name()), input);
+    }
+  }
+
+  void knowDump(U32 table, const InputRequest& request) {
+    const DumpInput input(request, trace_.layoutOf(table));
+    trace_.know(table, input.dump);
   }
 
   Done takeTransaction(const BusLine& transaction) override {
@@ -296,7 +317,7 @@ class TraceRun : private TraceSink {
   }
 
   void show(const TraceEvent& event) {
-    if (isEnough_ && isLimitMet()) return;
+    if (isLimitMet()) return;
     const Expected<bool> isShown = filter_.shows(event);
     if (!isShown && !fault_) fault_ = isShown.error();
     if (!isShown || !*isShown) return;
@@ -309,7 +330,8 @@ class TraceRun : private TraceSink {
     } else {
       writeLine(event);
     }
-    if (isLimitMet()) isEnough_ = true;
+    // The state is that after the whole log.
+    if (isLimitMet() && request_.writeState.empty()) isEnough_ = true;
   }
 
   void writeLine(const TraceEvent& event) {
@@ -349,11 +371,27 @@ class TraceRun : private TraceSink {
       output_.writeLine("", shown_.text());
     }
     output_.finish();
+    if (!request_.writeState.empty()) writeState();
     clock_.report(lines_.name());
     if (unknown_ == 0) return;
     note(formatText("{}: {} line{} no transaction{}, the first is line {}{}", lines_.name(),
                     unknown_, unknown_ == 1 ? " is" : "s are", pluralEnd(unknown_), firstUnknown_,
                     request_.unknown ? "" : "; --unknown shows them"));
+  }
+
+  void writeState() {
+    const auto state = trace_.state();
+    if (state.empty())
+      fail("--write-state: no entry is known at the end; check the log with --check");
+    Snapshot snapshot;
+    snapshot.chip = *request_.chip;
+    snapshot.variant = request_.variant;
+    std::vector<const Dump*> dumps;
+    for (const auto& [layout, dump] : state) {
+      snapshot.dumps.push_back({layout->table(), 0, "", Notation::hex});
+      dumps.push_back(&dump);
+    }
+    writeSnapshot(request_.writeState, snapshot, dumps, Format::words);
   }
 
   static constexpr U64 mostExplained = 5;
@@ -413,6 +451,7 @@ Verb traceVerb() {
        {Options::unknown, into(to.unknown)},
        {Options::explainInput, into(to.explainInput)},
        {Options::before, into(to.before)},
+       {Options::writeState, into(to.writeState)},
        Options::input,
        Options::hexOrder,
        Options::byteOrder,
