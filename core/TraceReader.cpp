@@ -6,8 +6,8 @@ namespace Velmar {
 namespace Core {
 namespace {
 
-/// Lines of one transaction stand near each other.
-constexpr size_t mostOpen = 16;
+/// The two lines of one transaction have at most as many lines between them.
+constexpr U64 mostBetween = 16;
 
 }  // namespace
 
@@ -79,6 +79,7 @@ void TraceReader::keep(std::string_view line) {
 Done TraceReader::flush() {
   if (!isPending_) return {};
   isPending_ = false;
+  forget();
   const bool isAnnounced = pending_.part == BusLine::Part::announced && pending_.words.empty();
   if (!isLikeOthers(pending_) || (pending_.words.empty() && !isAnnounced)) {
     style_.addresses = addressesBefore_;
@@ -104,9 +105,15 @@ bool TraceReader::isLikeOthers(const BusLine& transaction) {
 
 void TraceReader::announce() {
   announced_.push_back({pending_.line, pending_.address, pendingText_});
-  if (announced_.size() <= mostOpen) return;
-  sink_.takeUnknown(announced_.front().line, announced_.front().text);
-  announced_.pop_front();
+}
+
+/// Forgets lines that stand too far back.
+void TraceReader::forget() {
+  const auto isFar = [this](const auto& one) { return one.line + mostBetween < line_; };
+  for (; !announced_.empty() && isFar(announced_.front()); announced_.pop_front()) {
+    sink_.takeUnknown(announced_.front().line, announced_.front().text);
+  }
+  while (!written_.empty() && isFar(written_.front())) written_.pop_front();
 }
 
 /// Whether another line has said what the pending one says. Otherwise later ones may confirm it.
@@ -126,10 +133,7 @@ bool TraceReader::isConfirmation() {
     written_.erase(write);
     return true;
   }
-  if (shape_->isConfirmed) {
-    written_.push_back(pending_);
-    if (written_.size() > mostOpen) written_.pop_front();
-  }
+  if (shape_->isConfirmed) written_.push_back(pending_);
   return false;
 }
 

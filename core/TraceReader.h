@@ -39,6 +39,7 @@ class TraceReader {
   void keep(std::string_view line);
   bool isLikeOthers(const BusLine& transaction);
   void announce();
+  void forget();
   bool isConfirmation();
 
   struct Announced {

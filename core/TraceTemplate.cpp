@@ -70,7 +70,8 @@ bool put(std::string_view name, std::string_view value, LogStyle& style, BusLine
 /// How much of a line are words: up to what stands behind them.
 size_t sizeOfWords(std::string_view line, std::string_view after) {
   const std::string_view end = trim(after);
-  return end.empty() ? line.size() : std::min(line.find(end), line.size());
+  if (end.empty()) return line.size();
+  return line.substr(0, line.find(end)).find_last_not_of(" \t") + 1;
 }
 
 Taken takeOwn(std::string_view line, LogStyle& style, BusLine& to) {
