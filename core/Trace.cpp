@@ -10,7 +10,10 @@ namespace {
 /// As a dump has them.
 void setBytes(std::vector<U8>& bytes, const std::vector<U32>& words) {
   bytes.resize(4 * words.size());
-  for (size_t i = 0; i < bytes.size(); ++i) bytes[i] = static_cast<U8>(words[i / 4] >> i % 4 * 8);
+  U8* to = bytes.data();
+  for (const U32 word : words) {
+    for (U32 shift = 0; shift < 32; shift += 8) *to++ = static_cast<U8>(word >> shift);
+  }
 }
 
 U64 wordsOf(const FieldPlace& place) {
@@ -182,9 +185,13 @@ void Trace::compare(const TracedTable& traced) {
   const U32 size = layout.entryBytes();
   changes_.resize(size);
   U64 changedWords = 0;
-  for (U32 i = 0; i < size; ++i) {
-    changes_[i] = before_[i] ^ after_[i];
-    if (changes_[i] != 0) changedWords |= U64{1} << i / 4;
+  for (U32 i = 0; i < size; i += 4) {
+    U32 before, after;
+    std::memcpy(&before, &before_[i], 4);
+    std::memcpy(&after, &after_[i], 4);
+    after ^= before;
+    std::memcpy(&changes_[i], &after, 4);
+    if (after != 0) changedWords |= U64{1} << i / 4;
   }
   event_.before = before_.data();
   event_.after = after_.data();

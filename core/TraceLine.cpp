@@ -13,9 +13,27 @@ bool equalsInAnyCase(std::string_view text, std::string_view lower) {
          });
 }
 
+/// What each character is, for the loops that must be fast.
+struct Characters {
+  U8 digit[256];  ///< value of a hexadecimal digit; 16: none
+  bool isOfName[256];
+};
+
+constexpr Characters charactersOf() {
+  Characters all{};
+  for (int i = 0; i < 256; ++i) {
+    const char character = static_cast<char>(i);
+    const int digit = hexDigit(character);
+    all.digit[i] = digit < 0 ? U8{16} : static_cast<U8>(digit);
+    all.isOfName[i] = digit >= 0 || (character >= 'g' && character <= 'z') ||
+                      (character >= 'G' && character <= 'Z') || character == '_';
+  }
+  return all;
+}
+constexpr Characters characters = charactersOf();
+
 bool isNameCharacter(char character) {
-  return isDecimalDigit(character) || (character >= 'a' && character <= 'z') ||
-         (character >= 'A' && character <= 'Z') || character == '_';
+  return characters.isOfName[static_cast<unsigned char>(character)];
 }
 
 std::string_view withoutPrefix(std::string_view number) {
@@ -65,7 +83,7 @@ class PlainRest {
 
   bool takeNamed(std::string& marks) {
     const std::string_view name = cursor_.takeName();
-    const Label label = labelOf(name);
+    const Label label = isDecimalDigit(name[0]) ? Label::none : labelOf(name);
     if (label == Label::none) return takeNumber(name);
     if (label_ != Label::none) return false;
     label_ = label;
@@ -277,7 +295,15 @@ bool BusLine::isSameAs(const BusLine& other) const {
 
 std::optional<U32> Padding::take(std::string_view digits) {
   const size_t size = digits.size();
-  if (size == 0 || size > 8 || hexDigitsOf(digits) != size) return std::nullopt;
+  if (size == 0 || size > 8) return std::nullopt;
+  U32 number = 0;
+  U32 all = 0;  // of the digits' values: 16 stays in it
+  for (const char character : digits) {
+    const U32 digit = characters.digit[static_cast<unsigned char>(character)];
+    all |= digit;
+    number = number << 4 | (digit & 15);
+  }
+  if (all > 15) return std::nullopt;
   const bool hasZero = digits[0] == '0' && size > 1;
   if (width_ != 0) {
     if (size != width_ && (size < width_ || hasZero)) return std::nullopt;
@@ -287,8 +313,6 @@ std::optional<U32> Padding::take(std::string_view digits) {
   }
   fewest_ = std::min(fewest_, size);
   most_ = std::max(most_, size);
-  U32 number = 0;
-  for (const char digit : digits) number = number << 4 | static_cast<U32>(hexDigit(digit));
   return number;
 }
 

@@ -29,8 +29,8 @@ Done TraceReader::take(std::string_view line) {
   if (shape_ == nullptr) return decide(line);
   const Padding addresses = style_.addresses;
   const Padding words = style_.words;
-  next_.clear();
-  const Taken taken = shape_->take(line, style_, next_);
+  pending_.clear();
+  const Taken taken = shape_->take(line, style_, pending_);
   if (taken == Taken::transaction) {
     addressesBefore_ = addresses;
     wordsBefore_ = words;
@@ -51,7 +51,7 @@ Done TraceReader::decide(std::string_view line) {
     BusLine transaction;
     const Taken now = candidate.take(line, style, transaction);
     if (now == Taken::no) continue;
-    if (taken != Taken::no && !(taken == now && transaction.isSameAs(next_))) {
+    if (taken != Taken::no && !(taken == now && transaction.isSameAs(pending_))) {
       return failed(Fault(Code::ambiguous,
                           "the line is of two shapes, {} and {}; give the shape with --line, such "
                           "as --line '{{op}} {{address}} {{words}}'",
@@ -62,7 +62,7 @@ Done TraceReader::decide(std::string_view line) {
     taken = now;
     shape_ = &candidate;
     style_ = style;
-    next_ = std::move(transaction);
+    pending_ = std::move(transaction);
   }
   if (taken == Taken::no) sink_.takeUnknown(line_, line);
   if (taken == Taken::transaction) keep(line);
@@ -70,7 +70,6 @@ Done TraceReader::decide(std::string_view line) {
 }
 
 void TraceReader::keep(std::string_view line) {
-  std::swap(pending_, next_);
   pending_.line = line_;
   pendingText_ = line;
   isPending_ = true;

@@ -52,8 +52,7 @@ class TraceReader {
   const LogShape* shape_ = nullptr;
   LogStyle style_;
   U64 line_ = 0;
-  BusLine next_;  ///< of the line that is being taken
-  BusLine pending_;
+  BusLine pending_;  ///< the last one, which may go on
   std::string pendingText_;
   Padding addressesBefore_, wordsBefore_;  ///< before the pending transaction
   bool isPending_ = false;

@@ -24,77 +24,19 @@ std::string accessText(const Layout& layout) {
   return formatText("the table has access {}, block {}", geometry.accessType, geometry.block);
 }
 
-/// The fields that differ, in the order of their bits.
-class Changes {
- public:
-  Changes(TextBuffer& to, const TraceEvent& event)
-      : to_(to), event_(event), size_(event.layout->entryBytes()), fields_(event.fields) {
-    const auto offsetOf = [](const FieldPlace* place) {
-      return place == nullptr ? ~U32{0} : place->offset;
-    };
-    const auto isBefore = [&offsetOf](const FieldPlace* a, const FieldPlace* b) {
-      return offsetOf(a) < offsetOf(b);
-    };
-    if (!std::is_sorted(fields_.begin(), fields_.end(), isBefore)) {
-      std::stable_sort(fields_.begin(), fields_.end(), isBefore);
-    }
-  }
+bool changeAlike(const TraceEvent& event, const FieldPlace& a, const FieldPlace& b) {
+  const U32 size = event.layout->entryBytes();
+  return Value::read(a, event.before, size) == Value::read(b, event.before, size) &&
+         Value::read(a, event.after, size) == Value::read(b, event.after, size);
+}
 
-  void write() {
-    std::vector<bool> isDone(fields_.size());
-    const char* separator = "";
-    for (size_t i = 0; i < fields_.size(); ++i) {
-      if (isDone[i]) continue;
-      to_.add(separator);
-      separator = ", ";
-      writeName(i, isDone);
-      if (isKnown(event_)) writeValue(to_.add(' '), fields_[i], event_.before);
-      writeValue(to_.add(isKnown(event_) ? " -> " : " = "), fields_[i], event_.after);
-    }
+void addValue(TextBuffer& to, const TraceEvent& event, const FieldPlace* place, const U8* entry) {
+  if (place != nullptr && place->isScalar() && place->width <= exactBits) {
+    to.addDecimal(readScalar(*place, entry, event.layout->entryBytes()));
+  } else {
+    to.add(changedCell(*event.layout, place, entry).text());
   }
-
- private:
-  /// The name of a field, or of those of its family that change like it.
-  void writeName(size_t i, std::vector<bool>& isDone) {
-    const FieldPlace* const first = fields_[i];
-    if (first == nullptr) {
-      to_.add(nameOf(first));
-      return;
-    }
-    FieldGroup group{{}};
-    for (size_t j = i + 1; first->isOfFamily() && j < fields_.size(); ++j) {
-      const FieldPlace* const other = fields_[j];
-      if (isDone[j] || other == nullptr || !other->isOfFamilyOf(*first)) continue;
-      if (other->width != first->width || !changeAlike(*first, *other)) continue;
-      if (group.members.empty()) group.members.push_back(*first);
-      group.members.push_back(*other);
-      isDone[j] = true;
-    }
-    if (group.members.empty()) {
-      to_.add(first->name());
-    } else {
-      to_.add(group.name());
-    }
-  }
-
-  bool changeAlike(const FieldPlace& a, const FieldPlace& b) const {
-    return Value::read(a, event_.before, size_) == Value::read(b, event_.before, size_) &&
-           Value::read(a, event_.after, size_) == Value::read(b, event_.after, size_);
-  }
-
-  void writeValue(TextBuffer& to, const FieldPlace* place, const U8* entry) const {
-    if (place != nullptr && place->isScalar() && place->width <= exactBits) {
-      to.addDecimal(readScalar(*place, entry, size_));
-    } else {
-      to.add(changedCell(*event_.layout, place, entry).text());
-    }
-  }
-
-  TextBuffer& to_;
-  const TraceEvent& event_;
-  U32 size_;
-  std::vector<const FieldPlace*> fields_;
-};
+}
 
 const char* asKnown(Origin origin) {
   return origin == Origin::written ? "as written"
@@ -104,24 +46,6 @@ const char* asKnown(Origin origin) {
 
 void addWords(TextBuffer& to, size_t count) {
   to.addDecimal(count).add(" word").add(pluralEnd(count));
-}
-
-/// What became of an entry.
-void addOutcome(TextBuffer& to, const TraceEvent& event) {
-  if (!hasEntry(event)) {
-    addWords(to, event.bus->words.size());
-    to.add(": the entry has ").addDecimal(event.layout->geometry().words);
-  } else if (event.findings.has(TraceFinding::unchanged)) {
-    to.add("unchanged");
-  } else if (!event.fields.empty()) {
-    Changes(to, event).write();
-    if (event.findings.has(TraceFinding::readDiffers)) to.add("; not ").add(asKnown(event.origin));
-  } else {
-    to.add(isKnown(event) ? asKnown(event.origin) : "all zero");
-  }
-  if (event.findings.has(TraceFinding::reservedBits)) to.add("; bits outside all fields");
-  if (event.findings.has(TraceFinding::accessCode)) to.add("; ").add(accessText(*event.layout));
-  for (const U32 table : event.others) to.add("; also ").add(Catalogue::table(table).name());
 }
 
 void addNoTable(TextBuffer& to, const Catalogue::Chip& chip, U8 variant, const BusLine& bus) {
@@ -158,14 +82,13 @@ void addNumber(JsonWriter& json, const char* key, std::optional<U32> number) {
 
 }  // namespace
 
-void addTraceLine(std::string& to, const Catalogue::Chip& chip, U8 variant,
-                  const TraceEvent& event) {
+void TraceLines::add(std::string& to, const TraceEvent& event) {
   TextBuffer text(to);
   const BusLine& bus = *event.bus;
   if (!bus.time.empty()) text.add(bus.time).add("  ");
   text.add(bus.isRead ? "read   " : "write  ");
   if (event.layout == nullptr) {
-    addNoTable(text, chip, variant, bus);
+    addNoTable(text, chip_, variant_, bus);
   } else {
     const Layout& layout = *event.layout;
     if (layout.isRegisterArray()) text.add("element ").addDecimal(event.index).add(" of ");
@@ -174,6 +97,61 @@ void addTraceLine(std::string& to, const Catalogue::Chip& chip, U8 variant,
     addOutcome(text.add("  "), event);
   }
   text.add('\n').flush();
+}
+
+/// What became of an entry.
+void TraceLines::addOutcome(TextBuffer& to, const TraceEvent& event) {
+  if (!hasEntry(event)) {
+    addWords(to, event.bus->words.size());
+    to.add(": the entry has ").addDecimal(event.layout->geometry().words);
+  } else if (event.findings.has(TraceFinding::unchanged)) {
+    to.add("unchanged");
+  } else if (!event.fields.empty()) {
+    addChanges(to, event);
+    if (event.findings.has(TraceFinding::readDiffers)) to.add("; not ").add(asKnown(event.origin));
+  } else {
+    to.add(isKnown(event) ? asKnown(event.origin) : "all zero");
+  }
+  if (event.findings.has(TraceFinding::reservedBits)) to.add("; bits outside all fields");
+  if (event.findings.has(TraceFinding::accessCode)) to.add("; ").add(accessText(*event.layout));
+  for (const U32 table : event.others) to.add("; also ").add(Catalogue::table(table).name());
+}
+
+/// The fields that differ, in the order of their bits. Those of a family that change alike are one.
+void TraceLines::addChanges(TextBuffer& to, const TraceEvent& event) {
+  const auto isBefore = [](const FieldPlace* a, const FieldPlace* b) {
+    return a != nullptr && (b == nullptr || a->offset < b->offset);
+  };
+  fields_ = event.fields;
+  if (!std::is_sorted(fields_.begin(), fields_.end(), isBefore)) {
+    std::stable_sort(fields_.begin(), fields_.end(), isBefore);
+  }
+  isDone_.assign(fields_.size(), false);
+  for (size_t i = 0; i < fields_.size(); ++i) {
+    if (isDone_[i]) continue;
+    if (i != 0) to.add(", ");
+    addName(to, event, i);
+    if (isKnown(event)) addValue(to.add(' '), event, fields_[i], event.before);
+    addValue(to.add(isKnown(event) ? " -> " : " = "), event, fields_[i], event.after);
+  }
+}
+
+/// The name of a field, or of those of its family that change like it.
+void TraceLines::addName(TextBuffer& to, const TraceEvent& event, size_t i) {
+  const FieldPlace* const first = fields_[i];
+  if (first == nullptr || !first->isOfFamily()) {
+    to.add(nameOf(first));
+    return;
+  }
+  FieldGroup group{{*first}};
+  for (size_t j = i + 1; j < fields_.size(); ++j) {
+    const FieldPlace* const other = fields_[j];
+    if (isDone_[j] || other == nullptr || !other->isOfFamilyOf(*first)) continue;
+    if (other->width != first->width || !changeAlike(event, *first, *other)) continue;
+    group.members.push_back(*other);
+    isDone_[j] = true;
+  }
+  to.add(group.name());
 }
 
 TraceDocument::TraceDocument(std::string& to, RowFormat format, const Catalogue::Chip& chip,

@@ -7,9 +7,26 @@
 namespace Velmar {
 namespace Core {
 
-/// Appends an event as a line for people.
-void addTraceLine(std::string& to, const Catalogue::Chip& chip, U8 variant,
-                  const TraceEvent& event);
+class TextBuffer;
+
+/// Writes events as lines for people at the end of a text.
+class TraceLines {
+ public:
+  TraceLines(const Catalogue::Chip& chip, U8 variant) : chip_(chip), variant_(variant) {}
+
+  void add(std::string& to, const TraceEvent& event);
+
+ private:
+  void addOutcome(TextBuffer& to, const TraceEvent& event);
+  void addChanges(TextBuffer& to, const TraceEvent& event);
+  void addName(TextBuffer& to, const TraceEvent& event, size_t i);
+
+  Catalogue::Chip chip_;
+  U8 variant_;
+  // Kept, so that an event needs no memory.
+  std::vector<const FieldPlace*> fields_;
+  std::vector<char> isDone_;
+};
 
 /// Writes events as JSON, JSON lines or CSV at the end of a text.
 class TraceDocument {

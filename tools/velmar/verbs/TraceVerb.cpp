@@ -224,7 +224,8 @@ class TraceRun : private TraceSink {
         trace_(*request.chip, request.variant, {filter_.tables(), request.wordsApart},
                [this](const TraceEvent& event) { show(event); }),
         lines_(request.log, request.follow),
-        reader_(*this, request.line) {
+        reader_(*this, request.line),
+        text_(*request.chip, request.variant) {
     const bool isDocument = !request.stat && request.output.format != Format::table;
     if (isDocument) {
       document_.emplace(output.text(), rowFormatOf(request.output.format), *request.chip,
@@ -335,11 +336,9 @@ class TraceRun : private TraceSink {
   }
 
   void writeLine(const TraceEvent& event) {
-    if (!output_.isTerminal()) {
-      return addTraceLine(output_.text(), *request_.chip, request_.variant, event);
-    }
+    if (!output_.isTerminal()) return text_.add(output_.text(), event);
     std::string line;
-    addTraceLine(line, *request_.chip, request_.variant, event);
+    text_.add(line, event);
     line.pop_back();
     output_.writeLine("", line);
   }
@@ -402,6 +401,7 @@ class TraceRun : private TraceSink {
   Trace trace_;
   LogLines lines_;
   TraceReader reader_;
+  TraceLines text_;
   std::optional<TraceDocument> document_;
   TraceCounts counts_;
   ShownCounts shown_;
