@@ -17,6 +17,7 @@ bool equalsInAnyCase(std::string_view text, std::string_view lower) {
 struct Characters {
   U8 digit[256];  ///< value of a hexadecimal digit; 16: none
   bool isOfName[256];
+  bool isOfTime[256];
 };
 
 constexpr Characters charactersOf() {
@@ -27,6 +28,9 @@ constexpr Characters charactersOf() {
     all.digit[i] = digit < 0 ? U8{16} : static_cast<U8>(digit);
     all.isOfName[i] = digit >= 0 || (character >= 'g' && character <= 'z') ||
                       (character >= 'G' && character <= 'Z') || character == '_';
+    all.isOfTime[i] = isDecimalDigit(character) || character == '.' || character == ',' ||
+                      character == ':' || character == '+' || character == '-' ||
+                      character == 'T' || character == 'Z' || character == ' ';
   }
   return all;
 }
@@ -129,7 +133,7 @@ bool takeHead(LineCursor& cursor, BusLine& to) {
   for (U32 parts = 0; parts < 3; ++parts) {
     cursor.skipBlanks();
     LineCursor rest = cursor;
-    if (takeOperation(rest.takeName(), to)) {
+    if (!isDecimalDigit(cursor.peek()) && takeOperation(rest.takeName(), to)) {
       cursor = rest;
       return true;
     }
@@ -370,7 +374,9 @@ bool takeCount(std::string_view text, std::optional<U64>& to) {
 
 bool isTime(std::string_view text) {
   return !text.empty() && isDecimalDigit(text[0]) &&
-         text.find_first_not_of("0123456789.,:+-TZ ") == std::string_view::npos;
+         std::all_of(text.begin(), text.end(), [](char character) {
+           return characters.isOfTime[static_cast<unsigned char>(character)];
+         });
 }
 
 }  // namespace Core
