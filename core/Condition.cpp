@@ -44,8 +44,8 @@ Expected<std::array<U64, 2>> parseNumberOf(const FieldPlace& place, std::string_
 /// Takes a text apart. Each part begins where the one before it ends.
 class ConditionReader {
  public:
-  ConditionReader(const Layout& layout, std::string_view text)
-      : layout_(layout), text_(text), rest_(text) {}
+  ConditionReader(const Layout& layout, std::string_view text, Condition::Words words)
+      : layout_(layout), text_(text), words_(words), rest_(text) {}
 
   Expected<Condition> read() {
     Expected<Condition> condition = readGroups();
@@ -150,6 +150,7 @@ class ConditionReader {
   Expected<Condition> readComparison() {
     if (takeIf("nonzero")) return readBits("nonzero", {});
     if (takeIf("reserved")) return readBits("reserved", layout_.reservedMask());
+    if (words_ == Condition::Words::ofChanges && takeIf("changed")) return readChanged();
     const bool isAny = takeIf("any");
     const bool isForFamily = isAny || takeIf("all");
     isAtEnd();
@@ -184,6 +185,27 @@ class ConditionReader {
     return condition;
   }
 
+  /// Holds if one of the fields of a name has changed.
+  Expected<Condition> readChanged() {
+    isAtEnd();
+    const std::string_view name = take(std::min(rest_.find_first_of(nameEnds), rest_.size()));
+    if (name.empty()) return failed(wrong("no field after changed; give changed FIELD"));
+    auto places = findMembers(layout_, name);
+    if (!places) return failed(places);
+    if (isAtSign()) {
+      return failed(
+          wrong("changed takes no value; give changed {} and a condition on {}", name, name));
+    }
+    Condition condition(Kind::changed);
+    condition.entryBytes_ = layout_.entryBytes();
+    condition.places_ = std::move(*places);
+    return condition;
+  }
+
+  bool isAtSign() {
+    return !isAtEnd() && std::string_view("=!<>~").find(rest_[0]) != std::string_view::npos;
+  }
+
   Fault noCondition() const {
     if (rest_.empty())
       return wrong("no condition at the end; give FIELD=VALUE, or another of != < <= > >= ~ !~");
@@ -193,7 +215,7 @@ class ConditionReader {
 
   /// Holds for an entry that has a bit of the mask; without one any bit.
   Expected<Condition> readBits(const char* name, std::vector<U8> mask) {
-    if (!isAtEnd() && std::string_view("=!<>~").find(rest_[0]) != std::string_view::npos) {
+    if (isAtSign()) {
       return failed(wrong("{} takes no value; give {}, or not {}", name, name, name));
     }
     Condition condition(Kind::bits);
@@ -295,16 +317,17 @@ class ConditionReader {
 
   const Layout& layout_;
   std::string_view text_;
+  Condition::Words words_;
   std::string_view rest_;  ///< of the text
   U32 depth_ = 0;
 };
 
-Expected<Condition> Condition::of(const Layout& layout, std::string_view text) {
-  return ConditionReader(layout, text).read();
+Expected<Condition> Condition::of(const Layout& layout, std::string_view text, Words words) {
+  return ConditionReader(layout, text, words).read();
 }
 
-bool Condition::holdsFor(U32 index, const U8* entry) const {
-  const auto holds = [&](const Condition& part) { return part.holdsFor(index, entry); };
+bool Condition::holdsFor(U32 index, const U8* entry, const U8* changes) const {
+  const auto holds = [&](const Condition& part) { return part.holdsFor(index, entry, changes); };
   const auto holdsForPlace = [&](const FieldPlace& place) { return holdsForField(place, entry); };
   switch (kind_) {
     case Kind::allOf:
@@ -318,6 +341,10 @@ bool Condition::holdsFor(U32 index, const U8* entry) const {
                          [&entry](U8 mask) { return (*entry++ & mask) != 0; });
     case Kind::index:
       return isAmong({0, index}) != isNegated_;
+    case Kind::changed:
+      return std::any_of(places_.begin(), places_.end(), [&](const FieldPlace& place) {
+        return !Value::read(place, changes, entryBytes_).isZero();
+      });
     case Kind::fields:
       break;
   }
@@ -341,23 +368,24 @@ bool Condition::isAmong(const Number& number) const {
   });
 }
 
-Expected<Selection> Selection::of(const Layout& layout,
-                                  const std::vector<std::string>& conditions) {
+Expected<Selection> Selection::of(const Layout& layout, const std::vector<std::string>& conditions,
+                                  Condition::Words words) {
   Selection selection;
   for (const std::string& text : conditions) {
-    const Expected<Condition> condition = Condition::of(layout, text);
+    const Expected<Condition> condition = Condition::of(layout, text, words);
     if (!condition) return failed(condition);
     selection.conditions_.push_back(*condition);
   }
   return selection;
 }
 
-bool Selection::fits(U32 index, const U8* entry, U32 entryBytes) const {
+bool Selection::fits(U32 index, const U8* entry, U32 entryBytes, const U8* changes) const {
   if (nonzero && std::all_of(entry, entry + entryBytes, [](U8 byte) { return byte == 0; })) {
     return false;
   }
-  return std::all_of(conditions_.begin(), conditions_.end(),
-                     [&](const Condition& condition) { return condition.holdsFor(index, entry); });
+  return std::all_of(conditions_.begin(), conditions_.end(), [&](const Condition& condition) {
+    return condition.holdsFor(index, entry, changes);
+  });
 }
 
 std::vector<size_t> Selection::in(const Dump& dump) const {

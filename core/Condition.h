@@ -15,14 +15,19 @@ namespace Core {
 /// which means "and" too.
 class Condition {
  public:
-  static Expected<Condition> of(const Layout& layout, std::string_view text);
+  /// What entries are asked about: only those of a trace have changed, so that "changed stg" is of use.
+  enum class Words : U8 { ofEntries, ofChanges };
 
-  bool holdsFor(U32 index, const U8* entry) const;
+  static Expected<Condition> of(const Layout& layout, std::string_view text,
+                                Words words = Words::ofEntries);
+
+  /// `changes`: the bits that have changed, for Words::ofChanges.
+  bool holdsFor(U32 index, const U8* entry, const U8* changes = nullptr) const;
 
  private:
   friend class ConditionReader;
 
-  enum class Kind { allOf, anyOf, noneOf, bits, index, fields };
+  enum class Kind { allOf, anyOf, noneOf, bits, index, fields, changed };
   enum class Relation { among, has, equal };
   /// A number of up to 128 bits: the upper half, then the lower one, so that it compares as a number.
   using Number = std::array<U64, 2>;
@@ -52,10 +57,11 @@ class Selection {
  public:
   Selection() = default;
   /// Conditions that must all hold.
-  static Expected<Selection> of(const Layout& layout, const std::vector<std::string>& conditions);
+  static Expected<Selection> of(const Layout& layout, const std::vector<std::string>& conditions,
+                                Condition::Words words = Condition::Words::ofEntries);
 
   /// Whether an entry is meant, as far as its bytes and the conditions say.
-  bool fits(U32 index, const U8* entry, U32 entryBytes) const;
+  bool fits(U32 index, const U8* entry, U32 entryBytes, const U8* changes = nullptr) const;
   /// The entries, as positions in the dump, in its order.
   std::vector<size_t> in(const Dump& dump) const;
   bool hasConditions() const { return !conditions_.empty(); }

@@ -37,13 +37,14 @@ class Ordered {
 };
 
 /// The next entry of one of the dumps, or of both.
-EntryChange nextPair(Ordered& before, Ordered& after) {
-  EntryChange change{0, EntryChange::Kind::changed, nullptr, nullptr, {}};
+EntryChange nextPair(Ordered& before, Ordered& after, bool isPartial) {
+  using Kind = EntryChange::Kind;
+  EntryChange change{0, Kind::changed, nullptr, nullptr, {}};
   const bool takesOld = before.hasEntry() && (!after.hasEntry() || before.index() <= after.index());
   const bool takesNew = after.hasEntry() && (!before.hasEntry() || after.index() <= before.index());
   change.index = takesOld ? before.index() : after.index();
-  if (!takesNew) change.kind = EntryChange::Kind::onlyInOld;
-  if (!takesOld) change.kind = EntryChange::Kind::onlyInNew;
+  if (!takesNew) change.kind = isPartial ? Kind::unknownInNew : Kind::onlyInOld;
+  if (!takesOld) change.kind = isPartial ? Kind::unknownInOld : Kind::onlyInNew;
   if (takesOld) change.before = before.take();
   if (takesNew) change.after = after.take();
   return change;
@@ -69,21 +70,6 @@ bool differsOutsideFields(const Layout& layout, const EntryChange& change) {
   return false;
 }
 
-/// One of the two values of a field that differs.
-struct ChangedValue {
-  std::string json;
-  std::string plain;
-};
-
-ChangedValue valueOf(const Layout& layout, const FieldPlace* place, const U8* entry) {
-  if (place == nullptr) {
-    const std::string hex = reservedBits(layout, entry);
-    return {formatText(R"({{"hex":"{}"}})", hex), hex};
-  }
-  const Value value = Value::read(*place, entry, layout.entryBytes());
-  return {valueJson(*place, value), plainText(*place, value)};
-}
-
 std::vector<std::string> columnsOf(RowFormat format) {
   if (format == RowFormat::csv) return {"index", "change", "field", "old", "new"};
   if (format == RowFormat::json) return {"index", "change", "fields"};
@@ -94,8 +80,8 @@ void writeCsv(RowWriter& rows, const Layout& layout, const EntryChange& change) 
   const char* const kind = nameOf(change.kind);
   if (change.kind != EntryChange::Kind::changed) return rows.write({change.index, kind});
   for (const FieldPlace* place : change.fields) {
-    rows.write({change.index, kind, nameOf(place), valueOf(layout, place, change.before).plain,
-                valueOf(layout, place, change.after).plain});
+    rows.write({change.index, kind, nameOf(place), changedCell(layout, place, change.before),
+                changedCell(layout, place, change.after)});
   }
 }
 
@@ -105,17 +91,7 @@ void writeObject(RowWriter& rows, const Layout& layout, const EntryChange& chang
   row.emplace_back(change.index);
   row.emplace_back(nameOf(change.kind));
   if (change.kind == EntryChange::Kind::changed) {
-    std::string fields;
-    JsonWriter json(fields);
-    json.openObject();
-    for (const FieldPlace* place : change.fields) {
-      json.key(nameOf(place)).openObject();
-      json.key("old").raw(valueOf(layout, place, change.before).json);
-      json.key("new").raw(valueOf(layout, place, change.after).json);
-      json.closeObject();
-    }
-    json.closeObject();
-    row.push_back(Cell::ofJson(std::move(fields)));
+    row.push_back(Cell::ofJson(changesJson(layout, change.fields, change.before, change.after)));
   }
   rows.write(row);
 }
@@ -128,10 +104,38 @@ const char* nameOf(EntryChange::Kind kind) {
       return "only in OLD";
     case EntryChange::Kind::onlyInNew:
       return "only in NEW";
+    case EntryChange::Kind::unknownInNew:
+      return "unknown in NEW";
+    case EntryChange::Kind::unknownInOld:
+      return "unknown in OLD";
     case EntryChange::Kind::changed:
       break;
   }
   return "changed";
+}
+
+std::string changesJson(const Layout& layout, const std::vector<const FieldPlace*>& fields,
+                        const U8* before, const U8* after) {
+  std::string text;
+  JsonWriter json(text);
+  json.openObject();
+  for (const FieldPlace* place : fields) {
+    json.key(nameOf(place)).openObject();
+    json.key("old").raw(before == nullptr ? "null" : changedCell(layout, place, before).json());
+    json.key("new").raw(changedCell(layout, place, after).json());
+    json.closeObject();
+  }
+  json.closeObject();
+  return text;
+}
+
+Cell changedCell(const Layout& layout, const FieldPlace* place, const U8* entry) {
+  if (place == nullptr) {
+    const std::string hex = reservedBits(layout, entry);
+    return Cell::ofJson(formatText(R"({{"hex":"{}"}})", hex)).shownAs(hex);
+  }
+  const Value value = Value::read(*place, entry, layout.entryBytes());
+  return Cell::ofJson(valueJson(*place, value)).shownAs(plainText(*place, value));
 }
 
 Difference difference(const Layout& layout, const Dump& before, const Dump& after,
@@ -145,7 +149,7 @@ Difference difference(const Layout& layout, const Dump& before, const Dump& afte
   Ordered now(after);
   while (old.hasEntry() || now.hasEntry()) {
     if (options.stopsAtFirst && !result.entries.empty()) return result;
-    EntryChange change = nextPair(old, now);
+    EntryChange change = nextPair(old, now, options.isPartial);
     if (!isSelected(options.selection, change, size)) continue;
     if (change.kind != EntryChange::Kind::changed) {
       if (options.common) continue;
@@ -179,6 +183,20 @@ std::string differenceText(const Layout& layout, const Difference& difference, R
   }
   rows.end();
   return text;
+}
+
+void addRows(Listing& to, const Layout& layout, U32 identifier, const Difference& difference) {
+  for (const EntryChange& change : difference.entries) {
+    const Row head = {layout.name(), identifier, change.index, nameOf(change.kind)};
+    if (change.kind != EntryChange::Kind::changed) to.add(head);
+    for (const FieldPlace* place : change.fields) {
+      Row row = head;
+      row.emplace_back(nameOf(place));
+      row.push_back(changedCell(layout, place, change.before));
+      row.push_back(changedCell(layout, place, change.after));
+      to.add(std::move(row));
+    }
+  }
 }
 
 Listing differenceCounts(const Difference& difference) {

@@ -8,7 +8,7 @@ namespace Core {
 
 /// How an entry differs. It borrows the bytes of the dumps.
 struct EntryChange {
-  enum class Kind : U8 { changed, onlyInOld, onlyInNew };
+  enum class Kind : U8 { changed, onlyInOld, onlyInNew, unknownInNew, unknownInOld };
 
   U32 index;
   Kind kind;
@@ -16,7 +16,7 @@ struct EntryChange {
   const U8* after;
   std::vector<const FieldPlace*> fields;  ///< that differ; null: the reserved bits
 };
-/// As JSON and CSV say it: "changed", "only in OLD", "only in NEW".
+/// As JSON and CSV say it: "changed", "only in OLD", "only in NEW", "unknown in NEW", "unknown in OLD".
 const char* nameOf(EntryChange::Kind kind);
 /// Such as "stg"; the reserved bits are the field "outsideFields".
 inline const char* nameOf(const FieldPlace* changed) {
@@ -28,6 +28,7 @@ struct DifferenceOptions {
   bool reservedBits = false;       ///< compared too
   Selection selection;             ///< entries that fit it in one dump or both
   bool common = false;             ///< only entries that both dumps have
+  bool isPartial = false;          ///< entries that one dump does not have are unknown there
   bool stopsAtFirst = false;       ///< the first difference is enough
 };
 
@@ -45,8 +46,17 @@ struct Difference {
 Difference difference(const Layout& layout, const Dump& before, const Dump& after,
                       const DifferenceOptions& options);
 
+/// Fields that differ between two states of an entry, as a JSON object; null: the reserved bits.
+/// `before` null: it is not known.
+std::string changesJson(const Layout& layout, const std::vector<const FieldPlace*>& fields,
+                        const U8* before, const U8* after);
+/// A field of an entry; null: the reserved bits.
+Cell changedCell(const Layout& layout, const FieldPlace* place, const U8* entry);
+
 /// As rows: for CSV a row for each field, otherwise for each entry; in JSON lines with table and chip.
 std::string differenceText(const Layout& layout, const Difference& difference, RowFormat format);
+/// Adds a row for each field: table, identifier, index, change, field, old, new.
+void addRows(Listing& to, const Layout& layout, U32 identifier, const Difference& difference);
 /// How many entries differ in each field.
 Listing differenceCounts(const Difference& difference);
 

@@ -1,96 +1,9 @@
-#include <rapidjson/document.h>
-
-#include <algorithm>
-#include <cstring>
-#include <new>
-
-#include "core/Json.h"
+#include "core/JsonTree.h"
 #include "core/ValuesReading.h"
-
-// A text is parsed in place, document by document: names and texts are parts of it.
 
 namespace Velmar {
 namespace Core {
 namespace {
-
-/// RapidJSON ignores failed allocations; these do not fail.
-struct JsonMemory {
-  [[maybe_unused]] static constexpr bool kNeedFree = true;
-  void* Malloc(size_t size) { return size == 0 ? nullptr : ::operator new(size); }
-  void* Realloc(void* memory, size_t old, size_t size) {
-    void* const result = Malloc(size);
-    if (memory != nullptr && result != nullptr) std::memcpy(result, memory, std::min(old, size));
-    Free(memory);
-    return result;
-  }
-  static void Free(void* memory) { ::operator delete(memory); }
-};
-
-using JsonPool = rapidjson::MemoryPoolAllocator<JsonMemory>;
-using JsonValue = rapidjson::GenericValue<rapidjson::UTF8<>, JsonPool>;
-using JsonDocument = rapidjson::GenericDocument<rapidjson::UTF8<>, JsonPool, JsonMemory>;
-constexpr unsigned parseFlags = rapidjson::kParseInsituFlag | rapidjson::kParseStopWhenDoneFlag |
-                                rapidjson::kParseIterativeFlag;
-
-std::string_view textOf(const JsonValue& text) {
-  return {text.GetString(), text.GetStringLength()};
-}
-
-/// A text as it is, any other value as messages show it.
-std::string shown(const JsonValue& value) {
-  if (value.IsString()) return std::string(textOf(value));
-  if (value.IsUint64()) return std::to_string(value.GetUint64());
-  if (value.IsInt64()) return std::to_string(value.GetInt64());
-  if (value.IsBool()) return value.GetBool() ? "true" : "false";
-  if (value.IsNull()) return "null";
-  return value.IsObject() ? "an object" : value.IsArray() ? "a list" : "another number";
-}
-
-const char* expectedAt(rapidjson::ParseErrorCode code) {
-  switch (code) {
-    case rapidjson::kParseErrorObjectMissName:
-      return "a name in quotes is expected";
-    case rapidjson::kParseErrorObjectMissColon:
-      return "a colon is expected after the name";
-    case rapidjson::kParseErrorObjectMissCommaOrCurlyBracket:
-      return "a comma or } is expected";
-    case rapidjson::kParseErrorArrayMissCommaOrSquareBracket:
-      return "a comma or ] is expected";
-    case rapidjson::kParseErrorStringUnicodeEscapeInvalidHex:
-    case rapidjson::kParseErrorStringUnicodeSurrogateInvalid:
-      return "\\u needs four hexadecimal digits";
-    case rapidjson::kParseErrorStringEscapeInvalid:
-      return "one of \" \\ / b f n r t u is expected after a backslash";
-    case rapidjson::kParseErrorStringMissQuotationMark:
-      return "a closing quotation mark is expected";
-    case rapidjson::kParseErrorNumberTooBig:
-      return "the number is too large";
-    case rapidjson::kParseErrorNumberMissFraction:
-    case rapidjson::kParseErrorNumberMissExponent:
-      return "a digit is expected";
-    default:
-      return "a value is expected";
-  }
-}
-
-/// A name that an object has twice; empty if there is none.
-std::string_view nameGivenTwice(const JsonValue& object) {
-  std::vector<std::string_view> names;
-  names.reserve(object.MemberCount());
-  for (const auto& [name, member] : object.GetObject()) names.push_back(textOf(name));
-  // In order, equal names are neighbours.
-  std::sort(names.begin(), names.end());
-  const auto twice = std::adjacent_find(names.begin(), names.end());
-  return twice == names.end() ? std::string_view() : *twice;
-}
-
-/// An object has each name once.
-Done checkNames(const JsonValue& object) {
-  const std::string_view twice = nameGivenTwice(object);
-  if (twice.empty()) return succeeded();
-  return failed(
-      Fault(Code::input, "the name {} is given twice; give it once", quoted(twice).view()));
-}
 
 Done badValue(const FieldPlace& place, const char* what) {
   return failed(
@@ -150,64 +63,32 @@ Done readForms(const FieldPlace& place, const JsonValue& object, Value& value) {
 class JsonReader {
  public:
   JsonReader(std::string_view text, EntryReader& reader)
-      : text_(text),
-        parsed_(text),
+      : texts_(text),
         reader_(reader),
         layout_(reader.layout()),
         form_(reader.result.entries.jsonForm) {}
 
   Done read() {
-    rapidjson::InsituStringStream stream(parsed_.data());
-    rapidjson::SkipWhitespace(stream);
-    form_ = {stream.Peek() != '[', true, false};
+    form_ = {texts_.peek() != '[', true, false};
     bool hasEntries = false;
-    for (; stream.Peek() != '\0'; rapidjson::SkipWhitespace(stream)) {
+    for (; texts_.peek() != '\0'; hasEntries = true) {
       JsonDocument document;
-      document.ParseStream<parseFlags>(stream);
-      if (document.HasParseError()) {
-        return failed(syntaxFault(document));
+      Done done = texts_.parse(document);
+      if (done) {
+        done = document.IsArray() ? readEntries(document) : checked(document, readTop(document));
       }
-      hasEntries = true;
-      const Done done =
-          document.IsArray() ? readEntries(document) : checked(document, readTop(document));
       if (!done) return done;
     }
-    if (stream.Tell() < parsed_.size()) return failed(faultAt(stream.Tell(), "NUL byte in JSON"));
+    if (const Done done = texts_.checkEnd(); !done) return done;
     if (!hasEntries) return failed(Fault(Code::input, "no entry; check the file"));
     form_.isPlain = form_.isPlain && hasValues_;
     return succeeded();
   }
 
  private:
-  Fault syntaxFault(const JsonDocument& document) const {
-    const size_t at = document.GetErrorOffset();
-    rapidjson::ParseErrorCode code = document.GetParseError();
-    const bool isEscape = at < text_.size() && text_[at] == '\\';
-    // A text goes on in the next line.
-    if (code == rapidjson::kParseErrorStringEscapeInvalid && !isEscape) {
-      code = rapidjson::kParseErrorStringMissQuotationMark;
-    }
-    return faultAt(at, expectedAt(code));
-  }
-  Fault faultAt(size_t at, const char* what) const {
-    const size_t column = at - (text_.substr(0, at).rfind('\n') + 1) + 1;
-    const char* const advice = at == text_.size() ? "the JSON ends too early" : "check the JSON";
-    return Fault(Code::input, "{}; {}", what, advice).onLine(lineAt(at), column);
-  }
-  U64 lineAt(size_t at) const {
-    const std::string_view before = text_.substr(0, at);
-    return static_cast<U64>(std::count(before.begin(), before.end(), '\n')) + 1;
-  }
-
   /// A fault of what an object says has the line on which that begins.
   Done checked(const JsonValue& object, Done done) const {
-    if (done || done.error().place.line != 0) return done;
-    size_t at = 0;
-    if (object.IsObject() && object.MemberCount() != 0) {
-      at = static_cast<size_t>(object.MemberBegin()->name.GetString() - parsed_.data());
-      at = text_.rfind('{', at);
-    }
-    done.error().onLine(lineAt(at));
+    if (!done && done.error().place.line == 0) done.error().onLine(texts_.lineOf(object));
     return done;
   }
 
@@ -324,8 +205,7 @@ class JsonReader {
     return checkNames(values);
   }
 
-  std::string_view text_;
-  std::string parsed_;  ///< the text, changed in place
+  JsonTexts texts_;
   EntryReader& reader_;
   const Layout& layout_;
   JsonForm& form_;

@@ -10,22 +10,6 @@ namespace Velmar {
 namespace Core {
 namespace {
 
-/// The bits outside all fields, from the hexadecimal number of a whole entry.
-Expected<std::vector<U8>> parseReservedBits(const Layout& layout, std::string_view text) {
-  FieldPlace whole = layout.wholeEntry();
-  whole.field.accessor = "outsideFields";
-  const Expected<Value> value = parseValue(whole, text);
-  if (!value) return failed(value);
-  std::vector<U8> bits(layout.entryBytes());
-  value->write(whole, bits.data(), layout.entryBytes());
-  for (size_t i = 0; i < bits.size(); ++i) {
-    if ((bits[i] & ~layout.reservedMask()[i]) == 0) continue;
-    return failed(Fault(Code::value,
-                        "outsideFields: {} has bits inside fields; set the fields instead", text));
-  }
-  return bits;
-}
-
 std::vector<std::pair<std::string_view, std::string>> factsOf(const Layout& layout) {
   const Catalogue::Geometry& geometry = layout.geometry();
   return {{"accessType", std::to_string(geometry.accessType)},
@@ -46,6 +30,21 @@ bool isEqual(std::string_view name, std::string_view text, std::string_view expe
 }
 
 }  // namespace
+
+Expected<std::vector<U8>> parseReservedBits(const Layout& layout, std::string_view text) {
+  FieldPlace whole = layout.wholeEntry();
+  whole.field.accessor = "outsideFields";
+  const Expected<Value> value = parseValue(whole, text);
+  if (!value) return failed(value);
+  std::vector<U8> bits(layout.entryBytes());
+  value->write(whole, bits.data(), layout.entryBytes());
+  for (size_t i = 0; i < bits.size(); ++i) {
+    if ((bits[i] & ~layout.reservedMask()[i]) == 0) continue;
+    return failed(Fault(Code::value,
+                        "outsideFields: {} has bits inside fields; set the fields instead", text));
+  }
+  return bits;
+}
 
 EntryReader::EntryReader(const Layout& layout, const DocumentUse& use)
     : result{Dump(layout.entryBytes()), {}},

@@ -74,6 +74,9 @@ class EntryReader {
 Done readJson(std::string_view text, EntryReader& reader);
 Done readCsv(std::string_view text, EntryReader& reader);
 
+/// The bits outside all fields, from the hexadecimal number of a whole entry.
+Expected<std::vector<U8>> parseReservedBits(const Layout& layout, std::string_view text);
+
 /// Whether the first line of a text is the head of a CSV document of entries.
 bool isCsv(std::string_view text);
 

@@ -5,6 +5,7 @@ Whole processes are timed, except the floor of decode, where only the writing co
 usage: report.py SOURCE_DIR BUILD_DIR [RUNS]"""
 
 import os
+import random
 import subprocess
 import sys
 import tempfile
@@ -15,6 +16,23 @@ runs = int(sys.argv[3]) if len(sys.argv) > 3 else 100
 velmar = os.path.join(build, "bin", "velmar")
 dump = os.path.join(source, "samples", "vlan-bcm56990.bin")
 target = ["VlanEntry", "--chip", "BCM56990_B0"]
+
+
+def write_log(path):
+    """A log of writes and reads of 2,000 VLANs, of which one or two fields change."""
+    random.seed(1)
+    entries = [[random.getrandbits(32), random.getrandbits(32), random.getrandbits(32),
+                random.getrandbits(3)] for _ in range(2000)]
+    with open(path, "w", encoding="utf-8") as file:
+        for line in range(100000):
+            index = random.randrange(len(entries))
+            words, kind = entries[index], random.random()
+            if kind < .7:
+                words[1] = words[1] & ~(63 << 10) | random.randrange(64) << 10
+                words[0] ^= (kind < .2) << 30
+            text = " ".join(f"{word:08x}" for word in words)
+            file.write(f"{10 + line / 10000:.6f} {'W' if kind < .8 else 'R'} "
+                       f"{0x0c7c0000 + index:#010x} {text}\n")
 
 
 def timed(command, out):
@@ -68,4 +86,12 @@ with tempfile.TemporaryDirectory() as directory:
         measure(f"decode {form} / jsonl", goal, decode[:-3] + ["--format", form, full], decode)
     measure("encode jsonl / jq", 0.4, [velmar, "encode", *target, "@" + lines],
             ["jq", "-c", ".fields.stg.decimal", lines])
+    log = os.path.join(directory, "agent.log")
+    write_log(log)
+    trace = [velmar, "trace", "--chip", "BCM56990_B0", log]
+    floor = [os.path.join(build, "bin", "trace-text"), log]
+    if subprocess.run(trace, stdout=subprocess.PIPE).stdout != subprocess.run(
+            floor, stdout=subprocess.PIPE).stdout:
+        sys.exit("trace and its floor write different texts")
+    measure("trace, 100,000 lines", 1.6, trace, floor)
     measure("start-up (chips)", 1.4, [velmar, "chips"], [os.path.join(build, "bin", "empty-program")])

@@ -26,6 +26,11 @@ run("encode", "vlan", "--chip", "33", "--base", "samples/vlan-bcm56990.bin", "--
 cut = os.path.join(work.name, "cut.bin")
 with open("samples/vlan-bcm56990.bin", "rb") as whole, open(cut, "wb") as part:
     part.write(whole.read(16 * 4000))
+other = os.path.join(work.name, "other")
+run("snapshot", other, "--chip", "33", f"vlan={changed}")
+odd = os.path.join(work.name, "odd.log")
+with open(odd, "w", encoding="utf-8") as log:
+    log.write("W 0x20f80000 1 2\nW 0x12001003 1\nW 0x0c7c0014 0 0 0 ffffffff\nR 0x12001000 0\n")
 commands = [line.split() for line in f"""
 chips
 tables
@@ -52,6 +57,11 @@ decode vlan --chip 33 --check {changed}
 diff vlan --chip 33 samples/vlan-bcm56990.bin {changed}
 diff vlan --chip 33 {cut} {changed}
 diff vlan --chip 33 {cut} {changed} --stat
+diff samples/lab-bcm56990 {other}
+diff vlan samples/lab-bcm56990 {other}
+trace --chip 33 samples/agent-bcm56990.log
+trace --chip 33 {odd}
+trace --chip 33 samples/agent-bcm56990.log --stat
 translate VlanProfile --from 56870 --to 56980 samples/vlan-profile-bcm56870.bin
 """.strip().splitlines()]
 
@@ -129,6 +139,12 @@ for command in commands + [["export"]]:
         wide = [line for line in shown.splitlines() if len(line) > columns and " " in line.strip()
                 and not re.search(r"0x[0-9a-f]{20}", line)]
         check(not wide, f"{command} at {columns} columns: {wide[:2]}")
+# The manifest of a snapshot.
+with open("samples/lab-bcm56990/snapshot.json", encoding="utf-8") as file:
+    document = json.load(file)
+used.add(document["format"])
+for error in schemas[document["format"]].iter_errors(document):
+    check(False, f"manifest: {error.json_path}: {error.message[:200]}")
 # Faults, with the place and the remedies that the text has.
 faults = [
     (("decode", "vlan", "-c", "33", "-f", "json"), b"0: 00 11\n", {"line": 1}, []),

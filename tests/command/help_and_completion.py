@@ -7,6 +7,7 @@ usage: help_and_completion.py SOURCE_DIR BUILD_DIR"""
 import os
 import re
 import subprocess
+import tempfile
 
 from command import build, check, finish, golden_tables, run, source
 
@@ -25,6 +26,8 @@ def completions(*words):
 
 
 check(set(completions("")) == {*verbs, "help", "--help", "--version"}, "completion of verbs")
+work = tempfile.TemporaryDirectory()  # the examples may write into the folder with the samples
+os.symlink(os.path.join(source, "samples"), os.path.join(work.name, "samples"))
 for verb in verbs:
     code, text, _ = run(verb, "--help")
     text = text.decode()
@@ -47,7 +50,7 @@ for verb in verbs:
     check(len(examples) in (2, 3), f"help of {verb}: {len(examples)} examples")
     for example in examples:
         path = os.path.join(build, "bin") + ":" + os.environ["PATH"]
-        result = subprocess.run(["bash", "-o", "pipefail", "-c", example], timeout=30, cwd=source,
+        result = subprocess.run(["bash", "-o", "pipefail", "-c", example], timeout=30, cwd=work.name,
                                 env=dict(os.environ, PATH=path), stdin=subprocess.DEVNULL,
                                 stdout=subprocess.PIPE, stderr=subprocess.PIPE)
         allowed = (0, 1) if verb in ("diff", "compare") else (0,)

@@ -7,9 +7,10 @@ usage: samples.py SOURCE_DIR BUILD_DIR"""
 import os
 import re
 import subprocess
+import sys
 import tempfile
 
-from command import build, check, finish, golden_tables, source
+from command import build, check, finish, golden_tables, program, source
 
 folder = os.path.join(source, "samples")
 programs = [os.path.join(build, "bin", name) for name in ("program-vlans", "program-tables")]
@@ -18,9 +19,11 @@ entry_bytes = {(table.name, table.chip): table.entry_bytes for table in golden_t
 
 def files_in(path):
     files = {}
-    for name in os.listdir(path):
-        with open(os.path.join(path, name), "rb") as file:
-            files[name] = file.read()
+    for where, _, names in os.walk(path):
+        for name in names:
+            path_of_file = os.path.join(where, name)
+            with open(path_of_file, "rb") as file:
+                files[os.path.relpath(path_of_file, path)] = file.read()
     return files
 
 
@@ -34,21 +37,28 @@ readme = committed.pop("README.md").decode()
 with tempfile.TemporaryDirectory(prefix="velmar test ") as scratch:
     check(exit_code(programs[0], os.path.join(scratch, "vlan-bcm56990.bin")) == 0, "program-vlans")
     check(exit_code(programs[1], scratch) == 0, "program-tables")
+    check(exit_code(os.path.join(source, "examples", "write-snapshot"), program, scratch,
+                    os.path.join(scratch, "lab-bcm56990")) == 0, "write-snapshot")
+    check(exit_code(sys.executable, "-B", os.path.join(source, "examples", "write-agent-log.py"), program,
+                    os.path.join(scratch, "agent-bcm56990.log")) == 0, "write-agent-log.py")
     written = files_in(scratch)
 for name in written.keys() | committed.keys():
     check(written.get(name) == committed.get(name), f"samples/{name} is stale; to refresh: "
           "cmake --build --preset release --target samples")
 
 rows = re.findall(r"^\| `(.*?)` *\| `(.*?)` *\| `(.*?)` *\| *(\d+) \| *(\d+) \|", readme, re.M)
-check({row[0] for row in rows} == committed.keys(), "samples/README.md has other files")
+logs = {"agent-bcm56990.log"}
+check({row[0] for row in rows} | logs == {name for name in committed if os.sep not in name},
+      "samples/README.md has other files")
+check(committed["agent-bcm56990.log"].count(b"\n") == 200, "the log has 200 lines")
 for name, table, chip, size, count in rows:
     check(entry_bytes.get((table, chip)) == int(size) and
           len(committed.get(name, b"")) == int(size) * int(count), f"samples/README.md: {name}")
 
-for program in programs:
-    check(exit_code(program, "--help") == 0, f"{program} --help")
+for example in programs:
+    check(exit_code(example, "--help") == 0, f"{example} --help")
     for words in ([], [""], ["-x"], ["a", "b"], ["/dev/null"], ["/no/such/place"]):
-        check(exit_code(program, *words) == 2, f"{program} {words}")
+        check(exit_code(example, *words) == 2, f"{example} {words}")
 with tempfile.TemporaryDirectory() as scratch:
     path = os.path.join(scratch, "dump.bin")
     with open(path, "w", encoding="utf-8") as file:

@@ -18,9 +18,10 @@ int main(int count, char** words) {
     isForPrograms = asksForJson(given);
     const VerbList verbs = {
         {"decode", decodeVerb},     {"encode", encodeVerb},       {"diff", diffVerb},
-        {"identify", identifyVerb}, {"translate", translateVerb}, {"addr", addrVerb},
-        {"layout", layoutVerb},     {"compare", compareVerb},     {"chips", chipsVerb},
-        {"tables", tablesVerb},     {"fields", fieldsVerb},       {"export", exportVerb}};
+        {"identify", identifyVerb}, {"translate", translateVerb}, {"snapshot", snapshotVerb},
+        {"trace", traceVerb},       {"addr", addrVerb},           {"layout", layoutVerb},
+        {"compare", compareVerb},   {"chips", chipsVerb},         {"tables", tablesVerb},
+        {"fields", fieldsVerb},     {"export", exportVerb}};
     return runCommandLine(verbs, given);
   } catch (const std::bad_alloc&) {
     std::fputs("velmar: out of memory; free some and try again\n", stderr);

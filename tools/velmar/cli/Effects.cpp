@@ -26,6 +26,10 @@ constexpr Rule rules[] = {
      "with a --format for programs, which has all fields one by one; leave it out"},
     {"--plain,--compact", "--format", "json,jsonl", true,
      "without --format json or jsonl; give both"},
+    {"--follow", "--stat", "", false, "with --stat, which counts at the end; leave it out"},
+    {"--follow", "--output", "", false, "with --output, which writes a whole file; leave it out"},
+    {"--follow", "--format", "json", false,
+     "with --format json, which is one document; give jsonl instead"},
     {"--color", "--format", "json,jsonl,csv,hex,words,raw", false,
      "with a --format for programs; leave it out"},
     {"--hex-order", "--input", "raw,json,csv", false,
@@ -37,6 +41,8 @@ constexpr Rule rules[] = {
     // A verb with --base reads a dump only there.
     {"--input,--hex-order,--byte-order,--stride,--first,--origin", "--base", "", true,
      "without --base; give both"},
+    {"--input,--hex-order,--byte-order,--stride,--first,--origin", "--before", "", true,
+     "without --before; give both"},
 };
 
 bool holds(const Rule& rule, const Verb& verb, const Typed& typed) {

@@ -90,6 +90,10 @@ const std::vector<Notation> notations = {
     {"logs", "time stamps, levels and names of processes before each line of data are skipped"},
     {"JSON", "what decode prints with --format json or jsonl"},
     {"CSV", "what decode prints with --format csv, also from a spreadsheet"},
+    {"snapshot",
+     "a folder with snapshot.json, which names its chip and its dumps, as velmar snapshot writes "
+     "it. "
+     "Its dumps are files in the folder; links are not followed"},
 };
 
 const std::vector<Notation> conditions = {
@@ -104,9 +108,52 @@ const std::vector<Notation> conditions = {
      "names with * without it: all of them"},
     {"nonzero", "a bit is set"},
     {"reserved", "a bit outside all fields is set"},
+    {"changed FIELD",
+     "in trace alone: the transaction changed the field, or one of those that the name stands for"},
     {"not, and, or",
      "join conditions, in any case; not binds first, then and, then or. Parentheses group"},
     {";", "is an and that binds last; each --where is a group of its own, and all must hold"},
+};
+
+const std::vector<Notation> logs = {
+    {"[TIME] W ADDRESS WORD...",
+     "or R, write, read, in any case. The address and the words may have addr=, data=, len=, "
+     "access= "
+     "and block= before them, =, :, <- or -> between them, and brackets or braces around them; all "
+     "lines have the same signs. Further words may stand on lines that begin with blanks"},
+    {"regmap_reg_write, regmap_reg_read", "of ftrace, with reg= and val="},
+    {"rwmmio_write, rwmmio_read",
+     "of ftrace, also _post_, with width=32. A write and its _post_ line are one transaction, and "
+     "so are "
+     "a read without its value and the one with it"},
+    {"W 4 TIME MAP ADDRESS VALUE PC PROCESS", "of mmiotrace, or R"},
+    {"memory_region_ops_write", "or _read, of an emulator, with addr, value and size 4"},
+    {"CSV",
+     "with a header: time, op, address, data; also several columns of data, len, access, block"},
+    {"JSON", "an object on each line, with such members"},
+    {"--line", "any other shape, as the option says it"},
+    {"numbers",
+     "hexadecimal, but for numbers of JSON, and len, access and block without 0x. If words or "
+     "addresses "
+     "have zeros before them, a line with fewer digits is no transaction"},
+    {"words",
+     "an address is that of a whole entry. Lines of ftrace, mmiotrace and emulators have one word "
+     "of 32 "
+     "bits each; --words-apart joins them to entries"},
+    {"TIME",
+     "seconds, hours:minutes:seconds, or a date and these. --from and --until compare times of "
+     "one form"},
+};
+
+const std::vector<Notation> findings = {
+    {"no-table", "no table has the address; nearest names the entry that is nearest"},
+    {"too-short, too-long",
+     "the words are not as many as the entry has; then it is not known any more"},
+    {"unchanged", "a write of what was there"},
+    {"reserved-bits", "bits outside all fields are set"},
+    {"read-differs", "a read of what was not there before"},
+    {"access-code", "another access code or block than the table has"},
+    {"shared-address", "two tables have the address; others names the one that is not shown"},
 };
 
 const std::vector<Notation> outputs = {
@@ -133,7 +180,7 @@ const std::vector<Notation> environment = {
 
 const std::vector<Notation> files = {
     {"share/doc/velmar/docs/recipes.md", "questions and edits that take more than one command"},
-    {"share/doc/velmar/samples/", "the dumps that the examples name"},
+    {"share/doc/velmar/samples/", "the dumps and the log that the examples name"},
     {"share/doc/velmar/docs/schema/", "a JSON Schema for each JSON document"},
 };
 
@@ -163,6 +210,7 @@ std::string usageOf(const Verb& verb) {
   }
   for (const Option& option : verb.options) {
     if (option.required) usage += formatText(" {} {}", option.longName(), option.value);
+    if (option.isKnownBySnapshot) usage += formatText(" [{} {}]", option.longName(), option.value);
   }
   return usage + " [OPTION...]" + last;
 }

@@ -53,6 +53,9 @@ std::string manPage(const VerbList& verbs) {
   for (const Notation& notation : notations) text += item(notation.name, notation.meaning);
   text += ".SH CONDITIONS\nThe language of --where; a shell needs single quotes around it:\n";
   for (const Notation& condition : conditions) text += item(condition.name, condition.meaning);
+  text += ".SH LOGS\nThe shapes of lines that trace reads, and what it finds:\n";
+  for (const Notation& shape : logs) text += item(shape.name, shape.meaning);
+  for (const Notation& finding : findings) text += item(finding.name, finding.meaning);
   text += ".SH OUTPUT\n";
   for (const Notation& form : outputs) text += item(form.name, form.meaning);
   text += formatText(".SH EXIT STATUS\n{}\n.SH ENVIRONMENT\n", escaped(exitCodeText));

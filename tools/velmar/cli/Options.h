@@ -33,6 +33,7 @@ struct OptionText {
   const char* choices = "";  ///< the only values, separated by commas; empty: any
   DumpTaker takeForDump =
       nullptr;  ///< where there are two dumps, --old-NAME and --new-NAME are for one
+  bool isKnownBySnapshot = false;  ///< required, unless the dump is a snapshot
 
   /// The name as the help and the messages use it, such as "--output".
   std::string longName() const { return split(names, ',').back(); }
@@ -79,6 +80,10 @@ constexpr OptionText ofDump(DumpTaker taker, OptionText option) {
   option.takeForDump = taker;
   return option;
 }
+constexpr OptionText unlessSnapshot(OptionText option) {
+  option.isKnownBySnapshot = true;
+  return option;
+}
 
 // For options of dumps.
 void takeNotation(ReadOptions& options, const std::string& text, bool isShared);
@@ -94,6 +99,9 @@ namespace Options {
 inline constexpr OptionText
     chip{"-c,--chip", "CHIP", "the chip: a name such as BCM56990_B0 or 56990, or a number",
          Times::many, Proposal::chips, true},
+    chipOfDump = unlessSnapshot({"-c,--chip", "CHIP",
+           "the chip: a name such as BCM56990_B0 or 56990, or a number; a snapshot knows its own",
+           Times::many, Proposal::chips}),
     chips{"-c,--chip", "OLD --chip NEW", "the two chips", Times::many, Proposal::chips, true},
     chipIfAny{"-c,--chip", "CHIP", "this chip only", Times::many, Proposal::chips},
     variant{"--variant", "N", "table variant, 0 to 255 (default 0)"},
@@ -124,9 +132,14 @@ inline constexpr OptionText
           "or 'any spTreePort=2'; velmar(1) has the whole language under CONDITIONS; may be "
           "repeated: all must hold", Times::many, Proposal::assignments},
     tableOption{"--table", "TABLE", "this table only", Times::once, Proposal::tables},
-    from{"--from", "CHIP", "the chip of the dump", Times::once, Proposal::chips, true},
+    from = unlessSnapshot({"--from", "CHIP", "the chip of the dump; a snapshot knows its own",
+           Times::once, Proposal::chips}),
     to{"--to", "CHIP", "the chip of the result", Times::once, Proposal::chips, true},
     lossy{"--lossy", nullptr, "write the result though something gets lost", Times::isSwitch},
+    identify{"--identify", nullptr, "find the tables of dumps that are given without TABLE=",
+             Times::isSwitch},
+    time{"--time", "TIME", "when the dumps were taken, such as 2026-11-21T08:30:00Z"},
+    label{"--label", "TEXT", "a line of text for people"},
     plain{"--plain", nullptr,
           "JSON with values alone: numbers, bitmaps as lists of ports, wide values as text",
           Times::isSwitch},
@@ -158,12 +171,46 @@ inline constexpr OptionText
           "index of the first entry of a partial dump (default 0)"}),
     origin = ofDump(takeOrigin, {"--origin", "ADDRESS",
            "the address of entry 0, for dumps whose lines begin with addresses"}),
-    base{"--base", "FILE", "change the entries of this dump instead of making new ones",
+    base{"--base", "FILE", "change the entries of this dump or snapshot instead of making new ones",
          Times::once, Proposal::files},
     whole{"--whole", nullptr, "write the whole table: entries that are not given are zero",
           Times::isSwitch},
     quiet{"-q,--quiet", nullptr, "print nothing: the exit code is the answer", Times::isSwitch},
     diagram{"--diagram", nullptr, "draw the entry in rows of 32 bits", Times::isSwitch},
+    tables{"--table", "TABLE",
+           "only transactions of this table; may be repeated. An address that two tables share is then "
+           "shown as this one's", Times::many, Proposal::tables},
+    eventWhere{"--where", "CONDITION",
+          "only transactions after which it holds for the entry, such as 'stg=7'; 'changed stg' holds "
+          "if the transaction lists the field; may be repeated: all must hold", Times::many},
+    before{"--before", "TABLE=FILE",
+           "the entries of a table at the start, as a dump in any notation, or the folder of a snapshot "
+           "alone; may be repeated", Times::many},
+    writeState{"--write-state", "DIR",
+               "write the entries that are known at the end as a snapshot: a folder that does not exist "
+               "yet", Times::once, Proposal::files},
+    fromTime{"--from", "TIME", "only transactions from this time on, in the form of the log"},
+    untilTime{"--until", "TIME", "stop at the first transaction after this time"},
+    history{"--history", "TABLE:INDEX", "only transactions of this entry or element"},
+    eventLimit{"--limit", "N", "stop after N transactions"},
+    eventStat{"--stat", nullptr,
+              "instead of the transactions, print how often each table was written, and how often "
+              "that changed each field", Times::isSwitch},
+    lineShape{"--line", "SHAPE",
+              "the shape of the lines, such as '{time} {op} addr={address} data={words}'; also {len}, "
+              "{access}, {block}, and {skip} for what has no meaning. Without {op} each line is a write"},
+    wordsApart{"--words-apart", nullptr,
+               "lines of one operation and address follow each other until the entry has its words",
+               Times::isSwitch},
+    unknown{"--unknown", nullptr, "show the lines that are no transactions, on standard error",
+            Times::isSwitch},
+    explainInput{"--explain-input", nullptr,
+                 "say on standard error how the first lines were taken apart", Times::isSwitch},
+    follow{"--follow", nullptr, "show each transaction at once, and wait for more of a file",
+           Times::isSwitch},
+    checkTrace{"--check", nullptr,
+               "exit 1 if a transaction that is shown has a finding, or if a line is no transaction",
+               Times::isSwitch},
     help{"-h,--help", nullptr, "print this help", Times::isSwitch};
 
 /// --format with the formats of a verb; the first is the default.
@@ -183,9 +230,17 @@ namespace Positionals {
 inline constexpr PositionalText
     table{"TABLE", "the table, such as VlanEntry or vlan", Proposal::tables, true},
     tableIfAny{"TABLE", "this table only", Proposal::tables},
-    dump{"FILE", "the dump; - or nothing: standard input", Proposal::files, false, true},
+    log{"FILE", "the log; - or nothing: standard input", Proposal::files, false, true},
+    dump{"FILE", "the dump, or a snapshot, which is a folder; - or nothing: standard input", Proposal::files, false, true},
+    tableOfDumps{"TABLE",
+                 "the table, such as VlanEntry or vlan; for two snapshots it may be left out: all "
+                 "tables", Proposal::tables},
+    newFolder{"DIR", "the folder, which does not exist yet", Proposal::files, true},
+    dumps{"TABLE=FILE",
+          "the dumps, in any notation, such as vlan=vlan.bin; - is standard input; TABLE:N= for the "
+          "identifier N", Proposal::files, true, true},
     oldAndNew{"OLD NEW",
-              "two dumps; - is standard input; --input, --hex-order, --byte-order, --stride, "
+              "two dumps or snapshots; - is standard input; --input, --hex-order, --byte-order, --stride, "
               "--first and --origin are for both, --old-input, --new-input and so on for one of "
               "them", Proposal::files, true, true},
     pattern{"PATTERN",

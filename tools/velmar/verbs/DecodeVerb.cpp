@@ -1,5 +1,3 @@
-#include <limits>
-
 #include "core/Documents.h"
 #include "output/Entries.h"
 #include "output/Listings.h"
@@ -135,13 +133,15 @@ void writeRows(Output& output, const Layout& layout, Format format,
 }
 
 int run(DecodeRequest& request) {
+  findInSnapshot(request.input, request.table);
+  requireChip(request.table, "--chip");
   const Layout layout = request.table.layout();
   Output output(request.output.file, request.output.color);
   Selected selected(request, layout);
   const std::vector<FieldPlace> fields =
       fieldsOf(layout, request.fields, request.output.isForPeople());
   request.input.options.beyondEnd = request.check;
-  const DumpInput input(request.input.file, layout, request.input.options);
+  const DumpInput input(request.input, layout);
   const std::vector<size_t> positions = selected.in(input.dump);
   const Format format = request.output.format;
   std::vector<Finding> findings;
@@ -164,10 +164,6 @@ int run(DecodeRequest& request) {
 Verb decodeVerb() {
   const auto request = std::make_shared<DecodeRequest>();
   DecodeRequest& to = *request;
-  const auto takeLimit = [&to](const Texts& texts) {
-    to.limit = numberOf("--limit", texts.front(), std::numeric_limits<U32>::max());
-    if (to.limit == 0U) fail("--limit 0 shows nothing; give 1 or more");
-  };
   return {"decode",
           "Decodes a dump of a table: address and fields of each entry.",
           "A dump is raw binary (little-endian, entries one after another), hex text (one entry "
@@ -177,13 +173,13 @@ Verb decodeVerb() {
           "have up to 64 MiB, with what --stride skips.",
           {{Positionals::table, into(to.table.table)},
            {Positionals::dump, intoOnlyFile(to.input.file)}},
-          {{Options::chip, into(to.table.chip)},
+          {{Options::chipOfDump, into(to.table.chip)},
            {Options::variant, intoVariant(to.table.variant)},
            {Options::index, into(to.entries.index)},
            {Options::fields, into(to.fields)},
            {Options::where, into(to.entries.where)},
            {Options::nonzero, into(to.entries.nonzero)},
-           {Options::limit, takeLimit},
+           {Options::limit, intoLimit(to.limit)},
            {Options::plain, into(to.plain)},
            {Options::compact, into(to.compact)},
            {Options::expand, into(to.expand)},

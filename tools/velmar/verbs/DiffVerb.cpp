@@ -2,6 +2,7 @@
 
 #include "core/Difference.h"
 #include "core/Documents.h"
+#include "files/Files.h"
 #include "output/Entries.h"
 #include "output/Listings.h"
 #include "verbs/Inputs.h"
@@ -11,7 +12,11 @@
 namespace Tool {
 namespace {
 
+namespace Files = Velmar::Files;
+
 struct DiffRequest {
+  std::string first;  ///< the table, or the first of two snapshots
+  Texts files;
   TableRequest table;
   InputRequest old, now;
   OutputRequest output;
@@ -123,6 +128,8 @@ class Report {
   bool asFamilies_;
 };
 
+bool isInSnapshot(const InputRequest& input) { return !input.inSnapshot.empty(); }
+
 void checkCompared(const DiffRequest& request, const Difference& difference) {
   const bool isNothing = difference.compared + difference.missing == 0;
   if (isNothing && (request.entries.nonzero || !request.entries.where.empty())) {
@@ -159,11 +166,17 @@ void print(const DiffRequest& request, const Layout& layout, const Difference& d
     output.print("{} of {} entries differ\n", differing, difference.compared);
   }
   if (missing != 0) {
-    output.print("{} {} in one dump only\n", missing, missing == 1 ? "entry is" : "entries are");
+    const bool isUnknown = isInSnapshot(request.old) || isInSnapshot(request.now);
+    output.print("{} {} {}\n", missing, missing == 1 ? "entry is" : "entries are",
+                 isUnknown ? "unknown in one dump" : "in one dump only");
   }
 }
 
-int run(const DiffRequest& request) {
+/// The difference of one table.
+int runForTable(DiffRequest& request) {
+  findInSnapshot(request.old, request.table);
+  findInSnapshot(request.now, request.table);
+  requireChip(request.table, "--chip");
   const Layout layout = request.table.layout();
   request.entries.index.check(layout, "--index");
   DifferenceOptions options;
@@ -171,11 +184,12 @@ int run(const DiffRequest& request) {
   options.reservedBits = startFromAll(request.fields);
   options.selection = request.entries.selection(layout);
   options.common = request.common;
+  options.isPartial = isInSnapshot(request.old) || isInSnapshot(request.now);
   options.stopsAtFirst = request.quiet;
   std::optional<Output> output;
   if (!request.quiet) output.emplace(request.output.file, request.output.color);
-  const DumpInput old(request.old.file, layout, request.old.options);
-  const DumpInput now(request.now.file, layout, request.now.options);
+  const DumpInput old(request.old, layout);
+  const DumpInput now(request.now, layout);
   const Difference result = difference(layout, old.dump, now.dump, options);
   checkCompared(request, result);
   if (output) {
@@ -185,30 +199,148 @@ int run(const DiffRequest& request) {
   return result.entries.empty() ? exitSuccess : exitFinding;
 }
 
+/// The difference of all tables of two snapshots.
+class SnapshotDifference {
+ public:
+  explicit SnapshotDifference(const DiffRequest& request)
+      : request_(request), old_(snapshotIn(request.old.file)), now_(snapshotIn(request.now.file)) {
+    if (old_.chip.number != now_.chip.number || old_.variant != now_.variant) {
+      fail("snapshots of {} variant {} and {} variant {}; name a table to translate first",
+           old_.chip.name, old_.variant, now_.chip.name, now_.variant);
+    }
+    if (request.quiet) return;
+    output_.emplace(request.output.file, request.output.color);
+  }
+
+  int run() {
+    for (const SnapshotDump& dump : old_.dumps) {
+      const SnapshotDump* const other = pairOf(dump, now_);
+      if (other == nullptr) addUnknown(dump, EntryChange::Kind::unknownInNew);
+      if (other != nullptr) compare(dump, *other);
+      if (isDifferent_ && request_.quiet) return exitFinding;
+    }
+    for (const SnapshotDump& dump : now_.dumps) {
+      if (pairOf(dump, old_) == nullptr) addUnknown(dump, EntryChange::Kind::unknownInOld);
+    }
+    if (output_) finish();
+    return isDifferent_ ? exitFinding : exitSuccess;
+  }
+
+ private:
+  bool isForPeople() const { return request_.output.isForPeople(); }
+
+  static const SnapshotDump* pairOf(const SnapshotDump& dump, const Snapshot& in) {
+    for (const SnapshotDump* other : in.dumpsOf(dump.table)) {
+      if (other->identifier == dump.identifier) return other;
+    }
+    return nullptr;
+  }
+
+  static std::string nameOfTable(const SnapshotDump& dump) {
+    if (dump.identifier == 0) return dump.table.name();
+    return formatText("{} identifier {}", dump.table.name(), dump.identifier);
+  }
+
+  /// A table that one snapshot does not have.
+  void addUnknown(const SnapshotDump& dump, EntryChange::Kind kind) {
+    if (request_.common) return;
+    isDifferent_ = true;
+    if (!output_) return;
+    if (isForPeople()) return output_->print("{}  {}\n", nameOfTable(dump), nameOf(kind));
+    rows_.add({dump.table.name(), dump.identifier, nullptr, nameOf(kind)});
+  }
+
+  void compare(const SnapshotDump& dump, const SnapshotDump& other) {
+    const Layout layout = taken(Layout::of(dump.table, old_.chip, old_.variant));
+    DifferenceOptions options;
+    options.isPartial = true;
+    options.common = request_.common;
+    options.stopsAtFirst = request_.quiet;
+    const DumpInput old(inputOf(request_.old, dump), layout);
+    const DumpInput now(inputOf(request_.now, other), layout);
+    const Difference result = difference(layout, old.dump, now.dump, options);
+    isDifferent_ = isDifferent_ || !result.entries.empty();
+    if (!output_ || result.entries.empty()) return;
+    if (!isForPeople()) return addRows(rows_, layout, dump.identifier, result);
+    Report(*output_, layout, !request_.expand).write(result.entries);
+    output_->print("{}: {} of {} entries differ", nameOfTable(dump), result.differing,
+                   result.compared);
+    output_->write(result.missing == 0 ? "\n" : formatText(", {} unknown\n", result.missing));
+  }
+
+  static InputRequest inputOf(const InputRequest& folder, const SnapshotDump& dump) {
+    InputRequest input{folder.file, dump.file, {}};
+    input.options.notation = dump.notation;
+    return input;
+  }
+
+  void finish() {
+    if (!isForPeople()) {
+      const std::string source =
+          formatText("\"chip\": {}, \"variant\": {}", jsonText(old_.chip.name), old_.variant);
+      write(*output_, rows_, request_.output.format, frameOf("snapshot-diff", "changes", source));
+    }
+    output_->finish();
+  }
+
+  const DiffRequest& request_;
+  const Snapshot old_, now_;
+  std::optional<Output> output_;
+  Listing rows_{{"table", "identifier", "index", "change", "field", "old", "new"}};
+  bool isDifferent_ = false;
+};
+
+/// What is asked of the entries of a table needs the table.
+void checkAllTables(const DiffRequest& request) {
+  const auto refuse = [](bool isGiven, const char* option) {
+    if (isGiven) fail("{} is for one table, and none is named; give TABLE before OLD", option);
+  };
+  refuse(!request.entries.index.typed.empty(), "--index");
+  refuse(!request.entries.where.empty(), "--where");
+  refuse(request.entries.nonzero, "--nonzero");
+  refuse(!request.fields.empty(), "--fields");
+  refuse(request.stat, "--stat");
+}
+
+int run(DiffRequest& request) {
+  Texts& files = request.files;
+  const bool namesTable = files.size() > 1 || !Files::isFolder(request.first);
+  if (!namesTable) files.insert(files.begin(), request.first);
+  if (files.size() != 2) {
+    fail("{} dump{} given; give two, OLD and NEW", files.size(), pluralEnd(files.size()));
+  }
+  if (files[0] == "-" && files[1] == "-") {
+    fail("both dumps are standard input; name a file for one of them");
+  }
+  request.old.file = files[0];
+  request.now.file = files[1];
+  if (namesTable) {
+    request.table.table = taken(findTable(request.first));
+    return runForTable(request);
+  }
+  checkAllTables(request);
+  for (const InputRequest* input : {&request.old, &request.now}) {
+    checkSnapshotOptions(*input, request.table);
+  }
+  return SnapshotDifference(request).run();
+}
+
 }  // namespace
 
 Verb diffVerb() {
   const auto request = std::make_shared<DiffRequest>();
   DiffRequest& to = *request;
-  const auto takeFiles = [&to](const Texts& files) {
-    if (files.size() != 2) {
-      fail("{} dump{} given; give two, OLD and NEW", files.size(), pluralEnd(files.size()));
-    }
-    if (files[0] == "-" && files[1] == "-") {
-      fail("both dumps are standard input; name a file for one of them");
-    }
-    to.old.file = files[0];
-    to.now.file = files[1];
-  };
   return {
       "diff",
-      "Prints what changed between two dumps of a table, entry by entry and field by field.",
+      "Prints what changed between two dumps of a table, or between two snapshots, entry by entry "
+      "and field by field.",
       "The dumps may be in different notations; entries are matched by their indexes. Bits "
       "outside all fields count too, unless --fields names fields. --where and --nonzero select "
-      "entries for which they hold in one of the dumps. Exit code 1 says that the dumps "
-      "differ.",
-      {{Positionals::table, into(to.table.table)}, {Positionals::oldAndNew, takeFiles}},
-      {{Options::chip, into(to.table.chip)},
+      "entries for which they hold in one of the dumps. Entries and tables that a snapshot does "
+      "not "
+      "have are unknown there. Exit code 1 says that the dumps differ.",
+      {{Positionals::tableOfDumps, into(to.first)}, {Positionals::oldAndNew, into(to.files)}},
+      {{Options::chipOfDump, into(to.table.chip)},
        {Options::variant, intoVariant(to.table.variant)},
        {Options::index, into(to.entries.index)},
        {Options::fields, into(to.fields)},

@@ -73,9 +73,8 @@ class Encoder {
   Encoder(const EncodeRequest& request, const Layout& layout)
       : request_(request),
         layout_(layout),
-        base_(request.base.file.empty()
-                  ? nullptr
-                  : std::make_unique<DumpInput>(request.base.file, layout, request.base.options)),
+        base_(request.base.file.empty() ? nullptr
+                                        : std::make_unique<DumpInput>(request.base, layout)),
         values_(request, layout, base()),
         builder_(layout),
         made_(layout.entryBytes()) {
@@ -186,7 +185,9 @@ EntryStyle styleOf(const EncodeRequest& request, const Layout& layout, const Dum
   return style;
 }
 
-int run(const EncodeRequest& request) {
+int run(EncodeRequest& request) {
+  findInSnapshot(request.base, request.table);
+  requireChip(request.table, "--chip");
   const Layout layout = request.table.layout();
   Output output(request.file, "never");
   Encoder encoder(request, layout);
@@ -224,7 +225,7 @@ Verb encodeVerb() {
       "of values alone, such as {\"stg\": 5}, is the same as FIELD=VALUE.",
       {{Positionals::table, into(to.table.table)},
        {Positionals::assignments, into(to.assignments)}},
-      {{Options::chip, into(to.table.chip)},
+      {{Options::chipOfDump, into(to.table.chip)},
        {Options::variant, intoVariant(to.table.variant)},
        {Options::base, into(to.base.file)},
        {Options::changeIndex, into(to.index)},

@@ -1,4 +1,5 @@
 #include "core/Identification.h"
+#include "files/Files.h"
 
 #include "verbs/Inputs.h"
 #include "verbs/Requests.h"
@@ -7,6 +8,8 @@
 namespace Tool {
 namespace {
 
+namespace Files = Velmar::Files;
+
 struct IdentifyRequest {
   std::optional<Catalogue::Table> table;
   std::optional<Catalogue::Chip> chip;
@@ -14,8 +17,19 @@ struct IdentifyRequest {
   OutputRequest output;
 };
 
-int run(const IdentifyRequest& request) {
-  const Input input(request.input.file);
+Input inputOf(IdentifyRequest& request) {
+  InputRequest& input = request.input;
+  if (input.file.empty() || !Files::isFolder(input.file)) return Input(input.file);
+  if (!request.table) {
+    fail("{}: a snapshot, whose manifest names its tables; give --table to ask of one", input.file);
+  }
+  TableRequest table{request.table, request.chip};
+  findInSnapshot(input, table);
+  return Input(input);
+}
+
+int run(IdentifyRequest& request) {
+  const Input input = inputOf(request);
   const std::vector<Fit> fits = taken(
       identify(input.bytes(), request.input.options, request.table, request.chip), input.name());
   printIfAny(request.output, listingOf(fits), frameOf("identification", "fits"));

@@ -1,17 +1,61 @@
 #include "verbs/Inputs.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
-#include <cerrno>
 #include <cstdio>
-#include <cstring>
 
 #include "cli/Failure.h"
+#include "files/Files.h"
 
 namespace Tool {
+namespace {
+
+using namespace Velmar;
+
+/// A file that cannot be read is a fault of the command line.
+std::string bytesOf(Expected<std::string> bytes, const std::string& name) {
+  if (bytes) return std::move(*bytes);
+  const Fault& fault = bytes.error();
+  fail("{}: {}; {}", name, fault.what.text(), fault.advice.text());
+}
+
+/// The manifest says how its dumps are read.
+void checkOptions(const InputRequest& input) {
+  const ReadOptions& options = input.options;
+  const auto refuse = [&input](bool isGiven, bool isShared, const char* option) {
+    if (!isGiven || isShared) return;
+    fail("{} has no effect on {}, a snapshot, whose manifest says how to read it; leave it out",
+         option, input.file);
+  };
+  refuse(options.notation != Notation::automatic, false, "--input");
+  refuse(options.hexOrder != HexOrder::byGroups, options.shared.hexOrder, "--hex-order");
+  refuse(options.bigEndian, options.shared.byteOrder, "--byte-order");
+  refuse(options.stride != 0, options.shared.stride, "--stride");
+  refuse(options.first.has_value(), options.shared.first, "--first");
+  refuse(options.origin.has_value(), options.shared.origin, "--origin");
+}
+
+std::string tablesIn(const Snapshot& snapshot) {
+  std::vector<std::string> names;
+  for (const SnapshotDump& dump : snapshot.dumps) names.emplace_back(dump.table.name());
+  return join(names, ", ");
+}
+
+/// The dump of a table. Verbs work with entries of the instance 0.
+const SnapshotDump& dumpIn(const std::string& folder, const Snapshot& snapshot,
+                           const Catalogue::Table& table) {
+  const std::vector<const SnapshotDump*> dumps = snapshot.dumpsOf(table);
+  if (dumps.empty()) {
+    fail("{}: a snapshot without {}; it has {}", folder, table.name(), tablesIn(snapshot));
+  }
+  if (dumps.size() > 1 || dumps.front()->identifier != 0) {
+    fail("{}: {} is there with an identifier; give the dump itself, such as {}, and --chip {}",
+         folder, table.name(), Files::pathIn(folder, dumps.front()->file), snapshot.chip.name);
+  }
+  return *dumps.front();
+}
+
+}  // namespace
 
 Input::Input(const std::string& path) : name_(path) {
   if (path.empty() || path == "-") {
@@ -19,47 +63,61 @@ Input::Input(const std::string& path) : name_(path) {
     if (path.empty() && isatty(STDIN_FILENO) == 1) {
       fail("no FILE given, and standard input is a terminal; name a file, or pipe a dump into it");
     }
-    read(STDIN_FILENO);
+    bytes_ = bytesOf(Files::readAll(STDIN_FILENO), name_);
     return;
   }
-  const int descriptor = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-  if (descriptor < 0) fail("{}: cannot open: {}; check the name", name_, std::strerror(errno));
-  read(descriptor);
-  close(descriptor);
+  bytes_ = bytesOf(Files::readFile(path), name_);
 }
 
-void Input::read(int descriptor) {
-  constexpr size_t piece = size_t{1} << 16;
-  struct stat status;
-  const bool isFile = fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
-  const size_t expected = isFile ? static_cast<size_t>(status.st_size) : 0;
-  if (expected > longestInput) {
-    fail("{}: {} bytes, more than {} MiB; give the dump of one table", name_, expected,
-         longestInput >> 20);
-  }
-  // One byte more, so that the end is found without another piece.
-  bytes_.resize(expected == 0 ? piece : expected + 1);
-  size_t size = 0;
-  for (;;) {
-    const ssize_t count = ::read(descriptor, bytes_.data() + size, bytes_.size() - size);
-    if (count == 0) break;
-    if (count < 0 && errno == EINTR) continue;
-    if (count < 0) fail("{}: cannot read: {}; check the file", name_, std::strerror(errno));
-    size += static_cast<size_t>(count);
-    if (size > longestInput) {
-      fail("{}: more than {} MiB; give the dump of one table", name_, longestInput >> 20);
-    }
-    if (size == bytes_.size()) bytes_.resize(size + std::max(piece, size / 2));
-  }
-  bytes_.resize(size);
+Input::Input(const InputRequest& request)
+    : name_(Files::pathIn(request.file, request.inSnapshot)),
+      bytes_(bytesOf(Files::readInside(request.file, request.inSnapshot), name_)) {}
+
+DumpInput::DumpInput(const InputRequest& request, const Layout& layout)
+    : input(request.inSnapshot.empty() ? Input(request.file) : Input(request)),
+      dump(taken(readDump(layout, request.options, input.bytes()), input.name())) {
+  report(dump, input.name());
 }
 
-DumpInput::DumpInput(const std::string& path, const Layout& layout, const ReadOptions& options)
-    : input(path), dump(taken(readDump(layout, options, input.bytes()), input.name())) {
+void report(const Dump& dump, const std::string& name) {
   for (const std::string& note : dump.notes) {
-    std::fprintf(stderr, "velmar: note: %s: %s\n", printable(input.name()).c_str(),
+    std::fprintf(stderr, "velmar: note: %s: %s\n", printable(name).c_str(),
                  printable(note).c_str());
   }
+}
+
+Snapshot snapshotIn(const std::string& folder) {
+  return taken(Files::readManifest(folder), Files::pathIn(folder, manifestName));
+}
+
+Snapshot checkSnapshotOptions(const InputRequest& input, const TableRequest& table) {
+  checkOptions(input);
+  Snapshot snapshot = snapshotIn(input.file);
+  if (table.chip && table.chip->number != snapshot.chip.number) {
+    fail("{}: a snapshot of {}, not of {}; give dumps of one chip, or leave out --chip", input.file,
+         snapshot.chip.name, table.chip->name);
+  }
+  if (table.variant != 0 && table.variant != snapshot.variant) {
+    fail("{}: a snapshot of variant {}, not {}; leave out --variant", input.file, snapshot.variant,
+         table.variant);
+  }
+  return snapshot;
+}
+
+void findInSnapshot(InputRequest& input, TableRequest& table) {
+  if (input.file.empty() || !Files::isFolder(input.file)) return;
+  const Snapshot snapshot = checkSnapshotOptions(input, table);
+  const SnapshotDump& dump = dumpIn(input.file, snapshot, *table.table);
+  table.chip = snapshot.chip;
+  table.variant = snapshot.variant;
+  input.inSnapshot = dump.file;
+  input.options = ReadOptions();
+  input.options.notation = dump.notation;
+}
+
+void requireChip(const TableRequest& table, const char* option) {
+  if (table.chip) return;
+  fail("{} is missing; name the chip, or give a snapshot, which knows its chip", option);
 }
 
 }  // namespace Tool

@@ -62,10 +62,17 @@ Taker intoVariant(U8& to) {
   };
 }
 
-Taker intoOnlyFile(std::string& to) {
-  return [&to](const Texts& texts) {
-    if (texts.size() > 1) fail("more than one dump: {} and {}; give one", texts[0], texts[1]);
+Taker intoOnlyFile(std::string& to, const char* what) {
+  return [&to, what](const Texts& texts) {
+    if (texts.size() > 1) fail("more than one {}: {} and {}; give one", what, texts[0], texts[1]);
     to = texts.front();
+  };
+}
+
+Taker intoLimit(std::optional<U64>& to) {
+  return [&to](const Texts& texts) {
+    to = numberOf("--limit", texts.front(), std::numeric_limits<U32>::max());
+    if (to == 0U) fail("--limit 0 shows nothing; give 1 or more");
   };
 }
 

@@ -22,6 +22,7 @@ struct TableRequest {
 /// A dump.
 struct InputRequest {
   std::string file;
+  std::string inSnapshot;  ///< the dump, if `file` is the folder of a snapshot
   ReadOptions options;
 };
 
@@ -60,8 +61,10 @@ Taker into(IndexRequest& to);
 Taker into(std::optional<Catalogue::Table>& to);
 Taker into(std::optional<Catalogue::Chip>& to);
 Taker intoVariant(U8& to);
-/// The name of one dump.
-Taker intoOnlyFile(std::string& to);
+/// The name of one dump or log.
+Taker intoOnlyFile(std::string& to, const char* what = "dump");
+/// A number of results of 1 or more.
+Taker intoLimit(std::optional<U64>& to);
 
 /// The chips that are meant: one, or all.
 inline std::vector<Catalogue::Chip> meantChips(const std::optional<Catalogue::Chip>& chip) {

@@ -39,12 +39,14 @@ Dump selected(const IndexSet& indexes, const DumpInput& input) {
   fail("{}: no entry has an index in {}; check --index", input.input.name(), unmet);
 }
 
-int run(const TranslateRequest& request) {
+int run(TranslateRequest& request) {
+  findInSnapshot(request.input, request.from);
+  requireChip(request.from, "--from");
   const Layout from = request.from.layout();
   const Layout to = taken(Layout::of(*request.from.table, *request.to, request.from.variant));
   request.index.check(from, "--index");
   Output output(request.output.file, "never");
-  const DumpInput input(request.input.file, from, request.input.options);
+  const DumpInput input(request.input, from);
   const Translation translation = translate(from, to, selected(request.index.set, input));
   print(translation.losses);
   const bool isLossless = translation.losses.empty();

@@ -14,7 +14,9 @@ Verb exportVerb();
 Verb fieldsVerb();
 Verb identifyVerb();
 Verb layoutVerb();
+Verb snapshotVerb();
 Verb tablesVerb();
+Verb traceVerb();
 Verb translateVerb();
 
 }  // namespace Tool
