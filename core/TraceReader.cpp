@@ -34,8 +34,7 @@ Done TraceReader::take(std::string_view line) {
   if (taken == Taken::transaction) {
     addressesBefore_ = addresses;
     wordsBefore_ = words;
-    keep(line);
-    return {};
+    return keep(line);
   }
   style_.addresses = addresses;
   style_.words = words;
@@ -65,14 +64,14 @@ Done TraceReader::decide(std::string_view line) {
     pending_ = std::move(transaction);
   }
   if (taken == Taken::no) sink_.takeUnknown(line_, line);
-  if (taken == Taken::transaction) keep(line);
-  return {};
+  return taken == Taken::transaction ? keep(line) : Done();
 }
 
-void TraceReader::keep(std::string_view line) {
+Done TraceReader::keep(std::string_view line) {
   pending_.line = line_;
   pendingText_ = line;
   isPending_ = true;
+  return shape_->goesOn ? Done() : flush();
 }
 
 Done TraceReader::flush() {

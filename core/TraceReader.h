@@ -36,7 +36,7 @@ class TraceReader {
 
  private:
   Done decide(std::string_view line);
-  void keep(std::string_view line);
+  Done keep(std::string_view line);
   bool isLikeOthers(const BusLine& transaction);
   void announce();
   void forget();

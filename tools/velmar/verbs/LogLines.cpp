@@ -15,7 +15,7 @@
 namespace Tool {
 namespace {
 
-constexpr int tick = 20;  // milliseconds
+constexpr int tick = 10;  // milliseconds
 
 }  // namespace
 

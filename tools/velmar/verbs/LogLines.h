@@ -17,7 +17,7 @@ class LogLines {
   LogLines& operator=(const LogLines&) = delete;
 
   /// The next line without its end, valid until the next call. To follow a log means to learn when
-  /// what has come is used up (drained), and when nothing has come for 20 ms (quiet).
+  /// what has come is used up (drained), and when nothing has come for 10 ms (quiet).
   Got next(std::string_view& line);
   /// For messages.
   const std::string& name() const { return name_; }
