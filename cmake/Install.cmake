@@ -44,6 +44,9 @@ if(IS_ABSOLUTE "${CMAKE_INSTALL_INCLUDEDIR}")
 else()
   set(VELMAR_PC_INCLUDEDIR "\${prefix}/${CMAKE_INSTALL_INCLUDEDIR}")
 endif()
+if(VELMAR_LIBRARY_TYPE STREQUAL "STATIC")
+  set(VELMAR_PC_DEFINES "-DVELMAR_STATIC ")
+endif()
 configure_file(cmake/VelmarMetaInfo.pc.in VelmarMetaInfo.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/VelmarMetaInfo.pc
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
@@ -74,6 +77,8 @@ endif()
 set(VELMAR_DOC_DIR ${CMAKE_INSTALL_DATADIR}/doc/velmar)
 install(FILES README.md CHANGELOG.md DESTINATION ${VELMAR_DOC_DIR} COMPONENT documents)
 install(DIRECTORY docs samples DESTINATION ${VELMAR_DOC_DIR} COMPONENT documents)
+install(DIRECTORY examples/agent DESTINATION ${VELMAR_DOC_DIR}/examples COMPONENT documents)
+install(FILES examples/catch-misuse.cpp DESTINATION ${VELMAR_DOC_DIR}/examples COMPONENT documents)
 
 # Removes what the last installation from this build folder wrote.
 if(PROJECT_IS_TOP_LEVEL)

@@ -58,7 +58,7 @@ struct BitRange {
 };
 
 /// Shape and address of a class on one chip.
-struct Geometry {
+struct VELMAR_EXPORT Geometry {
   Variants variants;   ///< which variants the chip accepts
   U16 words;           ///< size of an entry in 32-bit words
   U32 entries;         ///< number of entries; 1 for a register array

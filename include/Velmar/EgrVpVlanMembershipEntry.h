@@ -13,6 +13,8 @@ namespace Velmar {
 /// A view of one entry of this egress memory. The caller owns the bytes; bit 0 of the entry is bit
 /// 0 of the first byte. On BCM56470_A0: "from" in the comments below follows this order.
 ///
+/// Two threads must not write through views of the same bytes, not even to different fields.
+///
 /// The members of a field F trace at level 8, then check in this order:
 ///  - F() and FIs(): "0" if the chip lacks the field, "variant_ == 0" if only the variant lacks it,
 ///    "len_ >= N" if the buffer ends before the end of the field. FIs() also: "value <= 0x<mask>"
@@ -49,7 +51,8 @@ class VELMAR_EXPORT EgrVpVlanMembershipEntry : public AsicUtils::BcmAsicBase {
   U16 fieldOffset(U32 fieldId) const override;
   /// Whether the view has a field. Never fails.
   VELMAR_NODISCARD bool isFieldValid(U32 fieldId) const override;
-  /// The entry with its reserved bits zero. Fails "len_ >= 8" if the buffer is shorter.
+  /// The entry with its reserved bits zero. Fails "len_ >= 8" if the buffer is shorter, also on
+  /// chips whose entries are shorter.
   U64 getAllFields() const;
   /// A one at every bit of an entry that belongs to a field.
   VELMAR_NODISCARD static Raw8192 allFieldsMask(U32 chipType, U8 variant);

@@ -17,7 +17,7 @@ namespace Velmar {
 static_assert(__cplusplus >= 201703L, "Velmar/Entry.h needs C++17; the view headers do with C++14");
 
 /// What a bus needs to read or write an entry.
-struct EntryAddress {
+struct VELMAR_EXPORT EntryAddress {
   U32 address;     ///< S-channel address
   U32 accessType;  ///< S-channel access code
   U32 block;       ///< 1 ingress, 2 egress
@@ -59,7 +59,7 @@ struct ViewClass<View, std::void_t<decltype(&View::isPrimary)>> {
 /// the bytes of an entry on the chip. Bytes and views are as safe as an array: one thread at a time
 /// may write them.
 template <class View>
-class Entry {
+class VELMAR_EXPORT Entry {
   static_assert(ViewClass<View>::isKnown,
                 "Entry takes a view class, such as Entry<VlanEntry>: a base class does not say "
                 "which table it is");

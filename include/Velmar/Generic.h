@@ -18,7 +18,7 @@ static_assert(__cplusplus >= 201703L, "Velmar/Generic.h needs C++17");
 
 /// A view, with its class as data. Views and entries convert to it where a function below takes
 /// one; it is valid as long as they are.
-class AnyView {
+class VELMAR_EXPORT AnyView {
  public:
   template <class View, class = std::enable_if_t<std::is_base_of<AsicUtils::AsicBase, View>::value>>
   AnyView(const View& view)  // NOLINT(google-explicit-constructor)
@@ -49,7 +49,7 @@ VELMAR_EXPORT std::optional<Catalogue::Chip> findChip(std::string_view name);
 VELMAR_EXPORT std::optional<Catalogue::Table> findTable(std::string_view name);
 
 /// The name of the view's class, such as "VlanEntry".
-inline const char* className(const AnyView& view) { return view.table().name(); }
+VELMAR_EXPORT inline const char* className(const AnyView& view) { return view.table().name(); }
 /// The chip of a view.
 VELMAR_EXPORT Catalogue::Chip chipOf(const AnyView& view);
 /// The variant of a view.
@@ -73,7 +73,7 @@ VELMAR_EXPORT std::string toText(const AnyView& view);
 
 /// Calls `call(field, value)` with each field that the chip has: a Catalogue::Field and a FieldValue.
 template <class Call>
-void forEachField(const AnyView& view, const Call& call) {
+VELMAR_EXPORT void forEachField(const AnyView& view, const Call& call) {
   const Span<U8> bytes = bytesOf(view);
   const U32 chip = chipOf(view).number;
   for (U32 i = 0; i < view.table().fieldCount(); ++i) {
@@ -85,7 +85,7 @@ void forEachField(const AnyView& view, const Call& call) {
 }
 
 /// A field whose value differs.
-struct FieldDifference {
+struct VELMAR_EXPORT FieldDifference {
   const char* accessor;  ///< or "outsideFields", the reserved bits as bits of the whole entry
   Catalogue::ValueType type;
   FieldValue before;
@@ -101,7 +101,7 @@ struct FieldDifference {
 VELMAR_EXPORT std::vector<FieldDifference> differences(const AnyView& before, const AnyView& after);
 
 /// What an entry loses on another chip.
-struct Loss {
+struct VELMAR_EXPORT Loss {
   enum class Reason : U8 { noField, tooLarge, sharesBits, outsideFields };
 
   U32 field;  ///< in the catalogue's table; the table's fieldCount() for reserved bits
@@ -122,14 +122,15 @@ VELMAR_EXPORT std::string lossText(const Catalogue::Table& table, const Loss& lo
 /// Moves the contents of a view to a view of the same class on another chip. Returns whether all of
 /// it has a place there; `losses` gets a sentence for each field that has none, and may be null.
 template <class View>
-bool translate(const View& from, View& to, std::vector<std::string>* losses = nullptr);
+VELMAR_EXPORT bool translate(const View& from, View& to,
+                             std::vector<std::string>* losses = nullptr);
 
 /// Number of ports in a family of fields of the view's chip: portCount(view, "spTreePort"). 0 if the
 /// chip has none of the name.
 VELMAR_EXPORT U32 portCount(const AnyView& view, std::string_view family);
 
 /// The values of consecutive ports. operator[] takes the number of a port.
-class PortStates {
+class VELMAR_EXPORT PortStates {
  public:
   static constexpr U32 mostPorts = 272;
   /// They are read byte by byte, two bits each.

@@ -3,6 +3,7 @@
 #include <cstddef>
 
 #include "AsicUtils/Types.h"
+#include "Velmar/Export.h"
 
 namespace Velmar {
 
@@ -10,7 +11,7 @@ static_assert(__cplusplus >= 201703L, "Velmar/Span.h needs C++17");
 
 /// Consecutive elements that somebody else owns, such as the words of an entry.
 template <class T>
-class Span {
+class VELMAR_EXPORT Span {
  public:
   constexpr Span() = default;
   constexpr Span(const T* data, std::size_t size) : data_(data), size_(size) {}

@@ -119,6 +119,11 @@ std::string classComment(const ClassRows& rows) {
                          ". The caller owns the bytes; bit 0 of the " + part +
                          " is bit 0 of the first byte. On " + join(rows.chips, ", ") +
                          ": \"from\" in the comments below follows this order.") +
+         "///\n" +
+         comment(
+             "",
+             "Two threads must not write through views of the same bytes, not even to different "
+             "fields.") +
          R"(///
 /// The members of a field F trace at level 8, then check in this order:
 ///  - F() and FIs(): "0" if the chip lacks the field, "variant_ == 0" if only the variant lacks it,
@@ -170,7 +175,7 @@ std::string viewMembers(const ClassRows& rows) {
          member("Whether the view has a field. Never fails.",
                 query + "bool isFieldValid(U32 fieldId) const override") +
          member("The entry with its reserved bits zero. Fails \"len_ >= " + rawBytes +
-                    "\" if the buffer is shorter.",
+                    "\" if the buffer is shorter, also on chips whose entries are shorter.",
                 rows.raw + " getAllFields() const") +
          geometry("A one at every bit of an entry that belongs to a field.", "Raw8192",
                   "allFieldsMask") +
