@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/Value.h"
+
 namespace Velmar {
 namespace Core {
 
@@ -89,6 +91,22 @@ Expected<std::vector<FieldPlace>> findFields(const Layout& layout, std::string_v
     found.push_back(**place);
   }
   return found;
+}
+
+std::string familyText(const std::vector<FieldPlace>& members, const U8* entry, U32 entryBytes) {
+  std::vector<std::pair<U64, std::vector<U32>>> values;
+  for (const FieldPlace& place : members) {
+    const U64 value = readScalar(place, entry, entryBytes);
+    auto found = std::find_if(values.begin(), values.end(),
+                              [value](const auto& one) { return one.first == value; });
+    if (found == values.end()) found = values.insert(values.end(), {value, {}});
+    found->second.push_back(place.family.number);
+  }
+  std::string text;
+  for (const auto& [value, numbers] : values) {
+    text += formatText("{}{}: {}", text.empty() ? "" : "  ", value, rangesText(numbers));
+  }
+  return text;
 }
 
 Expected<std::vector<FieldPlace>> findMembers(const Layout& layout, std::string_view name) {

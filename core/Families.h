@@ -35,6 +35,9 @@ std::vector<FieldGroup> grouped(const std::vector<FieldPlace>& fields, bool asFa
 /// The name of such a group, by its first member and the numbers of all.
 std::string familyName(const FieldPlace& member, const std::vector<U32>& numbers);
 
+/// The values of a family, the fields of one value together: "3: 1-9,11-20  0: 0,10".
+std::string familyText(const std::vector<FieldPlace>& members, const U8* entry, U32 entryBytes);
+
 /// Groups items that are alike: `areAlike(i, j)` compares an item with the first of a group. The groups
 /// are in the order of their first items, which need not follow each other.
 template <class AreAlike>

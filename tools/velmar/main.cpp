@@ -19,9 +19,9 @@ int main(int count, char** words) {
     const VerbList verbs = {
         {"decode", decodeVerb},     {"encode", encodeVerb},       {"diff", diffVerb},
         {"identify", identifyVerb}, {"translate", translateVerb}, {"snapshot", snapshotVerb},
-        {"addr", addrVerb},         {"layout", layoutVerb},       {"compare", compareVerb},
-        {"chips", chipsVerb},       {"tables", tablesVerb},       {"fields", fieldsVerb},
-        {"export", exportVerb}};
+        {"sql", sqlVerb},           {"addr", addrVerb},           {"layout", layoutVerb},
+        {"compare", compareVerb},   {"chips", chipsVerb},         {"tables", tablesVerb},
+        {"fields", fieldsVerb},     {"export", exportVerb}};
     return runCommandLine(verbs, given);
   } catch (const std::bad_alloc&) {
     std::fputs("velmar: out of memory; free some and try again\n", stderr);

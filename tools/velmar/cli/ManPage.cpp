@@ -53,6 +53,8 @@ std::string manPage(const VerbList& verbs) {
   for (const Notation& notation : notations) text += item(notation.name, notation.meaning);
   text += ".SH CONDITIONS\nThe language of --where; a shell needs single quotes around it:\n";
   for (const Notation& condition : conditions) text += item(condition.name, condition.meaning);
+  text += ".SH SQL\nWhat a statement of \\fBvelmar sql\\fR can use:\n";
+  for (const Notation& part : sql) text += item(part.name, part.meaning);
   text += ".SH OUTPUT\n";
   for (const Notation& form : outputs) text += item(form.name, form.meaning);
   text += formatText(".SH EXIT STATUS\n{}\n.SH ENVIRONMENT\n", escaped(exitCodeText));

@@ -10,23 +10,6 @@
 namespace Tool {
 namespace {
 
-/// The values of a family, the fields of one value together: "3: 1-9,11-20  0: 0,10".
-std::string familyText(const FieldGroup& family, const U8* entry, U32 entryBytes) {
-  std::vector<std::pair<U64, std::vector<U32>>> values;
-  for (const FieldPlace& place : family.members) {
-    const U64 value = readScalar(place, entry, entryBytes);
-    auto found = std::find_if(values.begin(), values.end(),
-                              [value](const auto& one) { return one.first == value; });
-    if (found == values.end()) found = values.insert(values.end(), {value, {}});
-    found->second.push_back(place.family.number);
-  }
-  std::string text;
-  for (const auto& [value, numbers] : values) {
-    text += formatText("{}{}: {}", text.empty() ? "" : "  ", value, rangesText(numbers));
-  }
-  return text;
-}
-
 /// For people: a block for each entry, with a line for each field or family of fields.
 class EntryTable {
  public:
@@ -75,7 +58,7 @@ class EntryTable {
     std::string text = line.head;
     bool isZero = false;
     if (line.group.isFamily()) {
-      text += familyText(line.group, bytes, size);
+      text += familyText(line.group.members, bytes, size);
     } else {
       const Value value = Value::read(place, bytes, size);
       isZero = value.isZero();
