@@ -39,7 +39,8 @@ inline void fieldMask(const Catalogue::Table& table, const Catalogue::Chip& chip
   for (U32 i = 0; i < table.fieldCount(); ++i) {
     const Catalogue::BitRange range = table.range(i, chip.number);
     for (U32 at = 0; at < range.width; at += 64) {
-      writeBits(mask, bytes, range.offset + at, std::min(range.width - at, 64U), ones, sizeof(ones));
+      writeBits(mask, bytes, range.offset + at, std::min(range.width - at, 64U), ones,
+                sizeof(ones));
     }
   }
 }

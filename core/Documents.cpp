@@ -50,7 +50,7 @@ void addPlain(TextBuffer& to, const FieldPlace& place, const Value& value) {
 
 /// {"0":"4-159","3":"0-3"}: the values, and the numbers of the fields that have them.
 void addFamily(TextBuffer& to, const FieldGroup& family, const U8* entry, U32 entryBytes) {
-  auto values = family.numbersByValue(entry, entryBytes);
+  auto values = numbersByValue(family.members, entry, entryBytes);
   std::sort(values.begin(), values.end());
   for (const auto& each : values) {
     to.add(&each == &values.front() ? "{\"" : ",\"").addDecimal(each.first);

@@ -47,7 +47,7 @@ std::string entryLines(const Layout& layout, const U8* entry) {
   for (const FieldGroup& group : grouped(layout.fields(), true)) {
     if (group.isFamily()) {
       lines += formatText("{} = {{{}}}\n", group.front().prefix(),
-                          group.valuesOf(entry, layout.entryBytes()));
+                          familyText(group.members, entry, layout.entryBytes()));
     } else {
       lines +=
           formatText("{} = {}\n", group.front().name(), valueText(layout, &group.front(), entry));

@@ -41,27 +41,6 @@ std::string FieldGroup::bits() const {
   return all.bits();
 }
 
-std::vector<std::pair<U64, std::vector<U32>>> FieldGroup::numbersByValue(const U8* entry,
-                                                                         U32 entryBytes) const {
-  std::vector<std::pair<U64, std::vector<U32>>> values;
-  for (const FieldPlace& place : members) {
-    const U64 value = readScalar(place, entry, entryBytes);
-    auto found = std::find_if(values.begin(), values.end(),
-                              [value](const auto& one) { return one.first == value; });
-    if (found == values.end()) found = values.insert(values.end(), {value, {}});
-    found->second.push_back(place.family.number);
-  }
-  return values;
-}
-
-std::string FieldGroup::valuesOf(const U8* entry, U32 entryBytes) const {
-  std::string text;
-  for (const auto& [value, numbers] : numbersByValue(entry, entryBytes)) {
-    text += formatText("{}{}: {}", text.empty() ? "" : "  ", value, rangesText(numbers));
-  }
-  return text;
-}
-
 std::vector<FieldGroup> grouped(const std::vector<FieldPlace>& fields, bool asFamilies) {
   std::vector<FieldGroup> groups;
   for (size_t begin = 0; begin < fields.size();) {
@@ -112,6 +91,27 @@ Expected<std::vector<FieldPlace>> findFields(const Layout& layout, std::string_v
     found.push_back(**place);
   }
   return found;
+}
+
+std::vector<std::pair<U64, std::vector<U32>>> numbersByValue(const std::vector<FieldPlace>& members,
+                                                             const U8* entry, U32 entryBytes) {
+  std::vector<std::pair<U64, std::vector<U32>>> values;
+  for (const FieldPlace& place : members) {
+    const U64 value = readScalar(place, entry, entryBytes);
+    auto found = std::find_if(values.begin(), values.end(),
+                              [value](const auto& one) { return one.first == value; });
+    if (found == values.end()) found = values.insert(values.end(), {value, {}});
+    found->second.push_back(place.family.number);
+  }
+  return values;
+}
+
+std::string familyText(const std::vector<FieldPlace>& members, const U8* entry, U32 entryBytes) {
+  std::string text;
+  for (const auto& [value, numbers] : numbersByValue(members, entry, entryBytes)) {
+    text += formatText("{}{}: {}", text.empty() ? "" : "  ", value, rangesText(numbers));
+  }
+  return text;
 }
 
 Expected<std::vector<FieldPlace>> findMembers(const Layout& layout, std::string_view name) {

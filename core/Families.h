@@ -26,11 +26,6 @@ struct FieldGroup {
   std::vector<U32> ids() const;
   /// The bits from the first to the last member's, as FieldPlace::bits() has them.
   std::string bits() const;
-  /// The values in an entry, each with the numbers of its fields, in the order of the first ones.
-  std::vector<std::pair<U64, std::vector<U32>>> numbersByValue(const U8* entry,
-                                                               U32 entryBytes) const;
-  /// The values of a family, the fields of one value together: "3: 1-9,11-20  0: 0,10".
-  std::string valuesOf(const U8* entry, U32 entryBytes) const;
 };
 
 /// Fields as groups, in the order given: those of one family and width that follow each other share
@@ -39,6 +34,13 @@ std::vector<FieldGroup> grouped(const std::vector<FieldPlace>& fields, bool asFa
 
 /// The name of such a group, by its first member and the numbers of all.
 std::string familyName(const FieldPlace& member, const std::vector<U32>& numbers);
+
+/// The values of a family in an entry, each with the numbers of its fields, in the order of the first
+/// ones.
+std::vector<std::pair<U64, std::vector<U32>>> numbersByValue(const std::vector<FieldPlace>& members,
+                                                             const U8* entry, U32 entryBytes);
+/// The same as text: "3: 1-9,11-20  0: 0,10".
+std::string familyText(const std::vector<FieldPlace>& members, const U8* entry, U32 entryBytes);
 
 /// Groups items that are alike: `areAlike(i, j)` compares an item with the first of a group. The groups
 /// are in the order of their first items, which need not follow each other.

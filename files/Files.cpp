@@ -84,6 +84,8 @@ Expected<std::string> readFile(const std::string& path) {
   return readAll(file.number());
 }
 
+bool exists(const std::string& path) { return access(path.c_str(), F_OK) == 0; }
+
 bool isFolder(const std::string& path) {
   struct stat status;
   return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);

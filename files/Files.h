@@ -17,6 +17,8 @@ Expected<std::string> readFile(const std::string& path);
 /// The same of an open file.
 Expected<std::string> readAll(int descriptor);
 
+/// Whether there is a file or folder of that name.
+bool exists(const std::string& path);
 /// Whether there is a folder of that name: a snapshot, if it has a manifest.
 bool isFolder(const std::string& path);
 /// The manifest of a folder.

@@ -139,6 +139,12 @@ for command in commands + [["export"]]:
         wide = [line for line in shown.splitlines() if len(line) > columns and " " in line.strip()
                 and not re.search(r"0x[0-9a-f]{20}", line)]
         check(not wide, f"{command} at {columns} columns: {wide[:2]}")
+code, text, errors = run("sql", "--data", "samples/lab-bcm56990/", "-f", "json",
+                         "select *, 1.5, null, x'00' from vlan")
+document = json.loads(text)
+used.add(document["format"])
+for error in schemas[document["format"]].iter_errors(document):
+    check(False, f"sql: {error.json_path}: {error.message[:200]}")
 # The manifest of a snapshot.
 with open("samples/lab-bcm56990/snapshot.json", encoding="utf-8") as file:
     document = json.load(file)

@@ -16,12 +16,14 @@ int main(int count, char** words) {
   try {
     const std::vector<std::string> given(words + std::min(count, 1), words + count);
     isForPrograms = asksForJson(given);
-    const VerbList verbs = {
-        {"decode", decodeVerb},     {"encode", encodeVerb},       {"diff", diffVerb},
-        {"identify", identifyVerb}, {"translate", translateVerb}, {"snapshot", snapshotVerb},
-        {"trace", traceVerb},       {"addr", addrVerb},           {"layout", layoutVerb},
-        {"compare", compareVerb},   {"chips", chipsVerb},         {"tables", tablesVerb},
-        {"fields", fieldsVerb},     {"export", exportVerb}};
+    const VerbList verbs = {{"decode", decodeVerb},       {"encode", encodeVerb},
+                            {"diff", diffVerb},           {"identify", identifyVerb},
+                            {"translate", translateVerb}, {"snapshot", snapshotVerb},
+                            {"trace", traceVerb},         {"sql", sqlVerb},
+                            {"addr", addrVerb},           {"layout", layoutVerb},
+                            {"compare", compareVerb},     {"chips", chipsVerb},
+                            {"tables", tablesVerb},       {"fields", fieldsVerb},
+                            {"export", exportVerb}};
     return runCommandLine(verbs, given);
   } catch (const std::bad_alloc&) {
     std::fputs("velmar: out of memory; free some and try again\n", stderr);

@@ -31,6 +31,7 @@ extern const std::vector<Notation> notations;  ///< in which dumps are read
 extern const std::vector<Notation> conditions;
 extern const std::vector<Notation> logs;         ///< shapes of their lines
 extern const std::vector<Notation> findings;     ///< of a trace
+extern const std::vector<Notation> sql;          ///< what a statement can use
 extern const std::vector<Notation> outputs;      ///< forms of the result
 extern const std::vector<Notation> environment;  ///< variables
 extern const std::vector<Notation> files;        ///< that are installed

@@ -56,6 +56,8 @@ std::string manPage(const VerbList& verbs) {
   text += ".SH LOGS\nThe shapes of lines that trace reads, and what it finds:\n";
   for (const Notation& shape : logs) text += item(shape.name, shape.meaning);
   for (const Notation& finding : findings) text += item(finding.name, finding.meaning);
+  text += ".SH SQL\nWhat a statement of \\fBvelmar sql\\fR can use:\n";
+  for (const Notation& part : sql) text += item(part.name, part.meaning);
   text += ".SH OUTPUT\n";
   for (const Notation& form : outputs) text += item(form.name, form.meaning);
   text += formatText(".SH EXIT STATUS\n{}\n.SH ENVIRONMENT\n", escaped(exitCodeText));

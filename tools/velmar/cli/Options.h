@@ -102,6 +102,14 @@ inline constexpr OptionText
     chipOfDump = unlessSnapshot({"-c,--chip", "CHIP",
            "the chip: a name such as BCM56990_B0 or 56990, or a number; a snapshot knows its own",
            Times::many, Proposal::chips}),
+    chipOfData{"-c,--chip", "CHIP", "the chip of dumps that are not in a snapshot",
+               Times::many, Proposal::chips},
+    data{"--data", "DATA",
+         "what to ask of: a snapshot, such as lab/, or the dump of a table, such as vlan=vlan.bin; "
+         "{name} in the path stands for any part of a name and is a column: 'fleet/{switch}/{time}/'; "
+         "may be repeated", Times::many, Proposal::files},
+    skipBad{"--skip-bad", nullptr, "leave out files that cannot be read, and count them",
+            Times::isSwitch},
     chips{"-c,--chip", "OLD --chip NEW", "the two chips", Times::many, Proposal::chips, true},
     chipIfAny{"-c,--chip", "CHIP", "this chip only", Times::many, Proposal::chips},
     variant{"--variant", "N", "table variant, 0 to 255 (default 0)"},
@@ -239,6 +247,7 @@ inline constexpr PositionalText
     dumps{"TABLE=FILE",
           "the dumps, in any notation, such as vlan=vlan.bin; - is standard input; TABLE:N= for the "
           "identifier N", Proposal::files, true, true},
+    statement{"STATEMENT", "what is asked, or several statements with semicolons between them"},
     oldAndNew{"OLD NEW",
               "two dumps or snapshots; - is standard input; --input, --hex-order, --byte-order, --stride, "
               "--first and --origin are for both, --old-input, --new-input and so on for one of "

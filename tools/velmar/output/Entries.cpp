@@ -58,7 +58,7 @@ class EntryTable {
     std::string text = line.head;
     bool isZero = false;
     if (line.group.isFamily()) {
-      text += line.group.valuesOf(bytes, size);
+      text += familyText(line.group.members, bytes, size);
     } else {
       const Value value = Value::read(place, bytes, size);
       isZero = value.isZero();

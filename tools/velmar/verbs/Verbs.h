@@ -15,6 +15,7 @@ Verb fieldsVerb();
 Verb identifyVerb();
 Verb layoutVerb();
 Verb snapshotVerb();
+Verb sqlVerb();
 Verb tablesVerb();
 Verb traceVerb();
 Verb translateVerb();
