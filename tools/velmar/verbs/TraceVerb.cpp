@@ -417,6 +417,9 @@ int run(const TraceRequest& request) {
     const std::string wrong = wrongIn(request.line);
     if (!wrong.empty()) fail("--line: {}", wrong);
   }
+  if (Velmar::Files::isFolder(request.writeState)) {
+    fail("{}: exists already; choose another name, or remove it", request.writeState);
+  }
   Output output(request.output.file, request.output.color);
   return TraceRun(request, output).run();
 }
