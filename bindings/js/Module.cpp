@@ -4,7 +4,6 @@
 #include "core/Comparison.h"
 #include "core/Difference.h"
 #include "core/Documents.h"
-#include "core/ValuesReading.h"
 
 using namespace Velmar;
 using namespace Velmar::Binding;
@@ -17,42 +16,12 @@ velmar_code giveText(const std::string& document, char** text) {
   return VELMAR_OK;
 }
 
-Core::Done set(const Core::Layout& layout, std::string_view text, Core::EntryBuilder& entry) {
-  constexpr std::string_view outside = "outsideFields=";
-  if (text.substr(0, outside.size()) == outside) {
-    const auto bits = Core::parseReservedBits(layout, text.substr(outside.size()));
-    if (!bits) return failed(bits);
-    entry.setReservedBits(*bits);
-    return {};
-  }
-  const auto assignments = Core::parseAssignments(layout, std::string(text));
-  if (!assignments) return failed(assignments);
-  for (const Core::Assignment& each : *assignments) {
-    if (const Core::Done done = entry.set(each); !done) return done;
-  }
-  return {};
-}
-
 Core::Difference differenceOf(const velmar_dump* before, const velmar_dump* after,
                               const Core::DifferenceOptions& options) {
   return Core::difference(before->layout, before->entries, after->entries, options);
 }
 
 }  // namespace
-
-velmar_code velmar_encode(const velmar_layout* layout, const char* const* values, size_t count,
-                          void* entry, size_t entry_size) {
-  const auto own = Core::Layout::of(tableOf(layout), chipOf(layout), 0);
-  if (!own) return fail(own.error());
-  if (const auto code = checkSize("the entry", entry_size, own->entryBytes())) return code;
-  Core::EntryBuilder builder(*own);
-  builder.start(static_cast<const U8*>(entry));
-  for (size_t i = 0; i < count; ++i) {
-    if (const auto done = set(*own, values[i], builder); !done) return fail(done.error());
-  }
-  std::memcpy(entry, builder.bytes().data(), entry_size);
-  return VELMAR_OK;
-}
 
 void velmar_places(const velmar_layout* layout, uint32_t* places) {
   const Catalogue::Table table = tableOf(layout);

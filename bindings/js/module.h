@@ -9,12 +9,6 @@
 extern "C" {
 #endif
 
-/// Sets fields of an entry as the verb encode of the command does: `values` are `count` texts such as
-/// "stg=5", "portBitmap=0-3,17", "spTreePort0-3=3" or "outsideFields=0x1", which sets the bits outside
-/// all fields. Other fields stay. VELMAR_VALUE: a value does not fit, or values of fields that share
-/// bits disagree.
-VELMAR_API velmar_code velmar_encode(const velmar_layout* layout, const char* const* values,
-                                     size_t count, void* entry, size_t entry_size);
 /// First bit, width and 1 for an overlap of each field of the table, three numbers each; the width of a
 /// field that the chip lacks is 0.
 VELMAR_API void velmar_places(const velmar_layout* layout, uint32_t* places);
