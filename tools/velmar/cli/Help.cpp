@@ -154,42 +154,42 @@ const std::vector<Notation> findings = {
     {"read-differs", "a read of what was not there before"},
     {"access-code", "another access code or block than the table has"},
     {"shared-address", "two tables have the address; others names the one that is not shown"},
-    const std::vector<Notation> sql = {
-        {"tables",
-         "the classes of the dumps, with or without Entry or Control, in any case. A row is an "
-         "entry "
-         "that "
-         "a dump has. \"pragma table_info(vlan)\" lists the columns of a table"},
-        {"\"index\"", "of the entry; in double quotes, because it is a word of SQL"},
-        {"identifier, address", "of the entry, as numbers; hex(address) is text"},
-        {"nonzero, reserved", "1 if a bit, or a bit outside all fields, is set; otherwise 0"},
-        {"fields",
-         "under their names, as numbers; those of more than 63 bits as hexadecimal text, bitmaps "
-         "as "
-         "text "
-         "such as 0-3,17; NULL where the chip does not have the field"},
-        {"families",
-         "such as spTreePort, as text: \"3: 1-9,11  0: 12-159\", each value with the numbers of "
-         "its "
-         "fields"},
-        {"NAME_blob",
-         "hidden: a bitmap or family as bytes with a bit for each port, the lowest first; of a "
-         "family "
-         "those that are not zero"},
-        {"{name}",
-         "in the path of --data stands for one or more characters of a name, and is a column of "
-         "text"},
-        {"has_port(bitmap, N)",
-         "1 if the bitmap or family, as text or bytes, has port N; otherwise 0"},
-        {"port_count(bitmap)", "the number of its ports"},
-        {"ports(bitmap)",
-         "a table with a row for each port: select port from vlan, ports(portBitmap)"},
-        {"hex(N)", "a number as hexadecimal text after 0x"},
-        {"load_extension",
-         "where SQLite itself runs, \"select load_extension('velmar')\" and \"select "
-         "velmar_data('lab/')\", or velmar_data('vlan=vlan.bin', '56990'), make the same tables "
-         "there"},
-    };
+};
+
+const std::vector<Notation> sql = {
+    {"tables",
+     "the classes of the dumps, with or without Entry or Control, in any case. A row is an "
+     "entry "
+     "that "
+     "a dump has. \"pragma table_info(vlan)\" lists the columns of a table"},
+    {"\"index\"", "of the entry; in double quotes, because it is a word of SQL"},
+    {"identifier, address", "of the entry, as numbers; hex(address) is text"},
+    {"nonzero, reserved", "1 if a bit, or a bit outside all fields, is set; otherwise 0"},
+    {"fields",
+     "under their names, as numbers; those of more than 63 bits as hexadecimal text, bitmaps "
+     "as "
+     "text "
+     "such as 0-3,17; NULL where the chip does not have the field"},
+    {"families",
+     "such as spTreePort, as text: \"3: 1-9,11  0: 12-159\", each value with the numbers of "
+     "its "
+     "fields"},
+    {"NAME_blob",
+     "hidden: a bitmap or family as bytes with a bit for each port, the lowest first; of a "
+     "family "
+     "those that are not zero"},
+    {"{name}",
+     "in the path of --data stands for one or more characters of a name, and is a column of "
+     "text"},
+    {"has_port(bitmap, N)", "1 if the bitmap or family, as text or bytes, has port N; otherwise 0"},
+    {"port_count(bitmap)", "the number of its ports"},
+    {"ports(bitmap)", "a table with a row for each port: select port from vlan, ports(portBitmap)"},
+    {"hex(N)", "a number as hexadecimal text after 0x"},
+    {"load_extension",
+     "where SQLite itself runs, \"select load_extension('velmar')\" and \"select "
+     "velmar_data('lab/')\", or velmar_data('vlan=vlan.bin', '56990'), make the same tables "
+     "there"},
+};
 
 const std::vector<Notation> outputs = {
     {"table",
