@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cstring>
 #include <optional>
 
 #include "Detail/CopyBits.h"
@@ -17,6 +18,28 @@ namespace Core {
   Detail::copyBits(static_cast<U8*>(value), static_cast<int>(valueBytes), entry,
                    static_cast<int>(entryBytes), static_cast<int>(width), 0,
                    static_cast<int>(offset));
+}
+
+/// A range of bits that lies in 8 bytes of an entry, for columns of many entries.
+struct Window {
+  U32 byte;   ///< the first one
+  U32 shift;  ///< of the range in the bytes
+  U64 mask;
+
+  U64 read(const U8* entry) const {
+    U64 bytes;
+    std::memcpy(&bytes, entry + byte, sizeof(bytes));
+    return bytes >> shift & mask;
+  }
+};
+/// Nothing if the entry or the range does not allow it.
+inline std::optional<Window> windowOf(U32 entryBytes, U32 offset, U32 width) {
+  constexpr U32 bytes = sizeof(U64);
+  if (entryBytes < bytes || width > 63) return std::nullopt;
+  const U32 byte = std::min(offset / 8, entryBytes - bytes);
+  const U32 shift = offset - 8 * byte;
+  if (shift + width > 8 * bytes) return std::nullopt;
+  return Window{byte, shift, (U64{1} << width) - 1};
 }
 
 /// Writes the low bits of `value` to a range of bits of an entry.

@@ -176,12 +176,17 @@ std::unique_ptr<Numbers> Entries::numbersOf(const Column& column, const ColumnPl
       });
     case ColumnKind::reserved:
       return make([&](size_t row) { return chip_.layout.hasReservedBits(dump_.bytes(row)); });
-    case ColumnKind::field:
-      return make([&, offset = place.field->offset, width = place.field->width](size_t row) {
-        U64 value = 0;
-        Core::readBits(dump_.bytes(row), size, offset, width, &value, sizeof(value));
-        return value;
-      });
+    case ColumnKind::field: {
+      const U32 offset = place.field->offset, width = place.field->width;
+      const U8* const bytes = dump_.data();
+      const std::optional<Core::Window> window = Core::windowOf(size, offset, width);
+      if (window) {
+        return make(
+            [bytes, size, one = *window](size_t row) { return one.read(bytes + row * size); });
+      }
+      return make(
+          [&](size_t row) { return Core::readScalar(*place.field, dump_.bytes(row), size); });
+    }
     default:
       return make([&](size_t) { return identifier_; });
   }

@@ -26,9 +26,7 @@ Verb sqlVerb() {
        {Options::listFormat, into(to.output.format)},
        {Options::output, into(to.output.file)},
        {Options::color, into(to.output.color)}},
-      {"velmar sql --data samples/lab-bcm56990/ 'select stg, count(*) from vlan where valid group "
-       "by "
-       "stg'",
+      {"velmar sql --data samples/lab-bcm56990/ 'select stg, count(*) from vlan group by stg'",
        "velmar sql --chip 56980 --data egrvlan=samples/egr-vlan-bcm56980.bin --format csv 'select "
        "\"index\", port_count(portBitmap) from egrvlan'"},
       [request] { return runSql(*request); }};
