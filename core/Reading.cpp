@@ -134,7 +134,16 @@ std::optional<Fault> checkEntries(const Layout& layout, const ReadOptions& optio
                  size, entrySizeText(stride, layout))
         .offer("stride");
   }
-  if (end > layout.indexCount() && !options.beyondEnd) return beyondEnd(layout, end - 1, end);
+  const bool isBeyond = end > layout.indexCount() && !options.beyondEnd;
+  if (isBeyond && options.first.value_or(0) != 0 && end - first <= layout.indexCount()) {
+    return Fault(Code::index,
+                 "{} entries from index {} on end beyond {}, which has {}; leave out $1, or give a "
+                 "smaller one",
+                 end - first, first, layout.shown(), layout.indexCount())
+        .ofEntry(end - 1)
+        .offer("first");
+  }
+  if (isBeyond) return beyondEnd(layout, end - 1, end);
   if (end > U64{1} << 32) return beyondEnd(layout, end - 1);
   return std::nullopt;
 }
@@ -285,7 +294,15 @@ Expected<DocumentValues> readValues(const Layout& layout, std::string_view input
   if (const Done done = checkLength(input); !done) return failed(done);
   const ReadOptions options;
   EntryReader reader(layout, {false, base, options});
-  const Done done = isCsv(input) ? readCsv(input, reader) : readJson(input, reader);
+  const size_t start = std::min(input.find_first_not_of(" \t\r\n\xef\xbb\xbf"), input.size());
+  const bool hasJson = start == input.size() || input[start] == '{' || input[start] == '[';
+  if (!hasJson && !isCsv(input)) {
+    return failed(
+        Fault(Code::input,
+              "neither JSON nor CSV with a column \"index\"; give what decode prints with "
+              "--format json, jsonl or csv"));
+  }
+  const Done done = hasJson ? readJson(input, reader) : readCsv(input, reader);
   if (!done) return failed(done);
   if (reader.result.entries.count() == 0 && reader.result.common.empty()) {
     return failed(Fault(

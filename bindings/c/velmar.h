@@ -338,8 +338,8 @@ VELMAR_API velmar_code velmar_dump_bytes(const velmar_dump* dump, const uint8_t*
 /// one. It is good until the dump is freed.
 VELMAR_API velmar_code velmar_dump_note(const velmar_dump* dump, size_t nth, const char** note);
 
-/// The entries that fit, as ascending positions: all `conditions` hold, such as "stg=3",
-/// "fidId>=0x10" or "portBitmap~20-22"; the index is one of `indexes`, such as "5,100-199", or NULL for
+/// The entries that fit, as ascending positions: all `conditions` hold, such as "stg=2-5,9 and not
+/// valid=0", "portBitmap~20-22" or "any spTreePort=2" (CONDITIONS of velmar(1)); the index is one of `indexes`, such as "5,100-199", or NULL for
 /// any; if `nonzero` is not 0, a bit is set. `positions` has room for `room` numbers, at least the
 /// number of entries, otherwise VELMAR_SIZE; `count` is how many are written. VELMAR_INDEX: the dump
 /// has no entry in a part of `indexes`.

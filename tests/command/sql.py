@@ -197,6 +197,9 @@ bad = ["--chip", "33", "--data", "vlan=bad/{switch}/vlan.bin"]
 whole = os.path.join(source, "samples", "vlan-bcm56990.bin")
 for words, part in (
         ([*lab, "select stgg from vlan"], "SQL:1:8: no such column: stgg; did you mean stg"),
+        ([*lab, 'select 1 from vlan where "valld" = 1'], "no such column: valld; did you mean valid"),
+        ([*lab, "select stg from vlanstg"], "it is a column of VlanEntry"),
+        ([*lab, "select index from vlan"], 'write "index" in double quotes'),
         ([*lab, "select 1;\nselect\n  nope(1)"], "SQL:3:3: no such function"),
         ([*lab, "select * from vlann"], "the tables are VlanEntry"), ([*lab, "select"], "SQL"),
         ([*lab, "select stg, stg from vlan", "-f", "json"], "AS"),

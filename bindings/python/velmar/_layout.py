@@ -311,8 +311,8 @@ class Layout(metaclass=Brief):
                indexes: Optional[str] = None, nonzero: bool = False) -> Dump:
         """The entries that fit: conditions that must all hold, or one; `indexes` such as "5,100-199", which
         the data must have; `nonzero`: entries that are not zero.
-        Conditions: "stg=3", "fidId>=0x10", "stg!=1,2"; for a bitmap "portBitmap~20-22" (it has these
-        ports) and "!~" (none of them); for a family "spTreePort0-3=2".
+        Conditions: "stg=2-5,9", "fidId>=0x10"; for a bitmap "portBitmap~20-22" (it has these ports) and
+        "!~" (none of them); for a family "any spTreePort=2"; index, nonzero, reserved; not, and, or, ( ).
         """
         if not isinstance(where, str) and not is_list(where):
             raise WrongType(f"{where!r} is not a condition; give a text such as \"stg=3\", or a list")

@@ -75,6 +75,8 @@ int authorize(void*, int action, const char* first, const char* second, const ch
 }  // namespace
 
 Database::Database(const SqlRequest& request) : handle_(openDatabase()) {
+  // A name in double quotes that is no column would count as a text.
+  sqlite3_db_config(handle_, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
   if (Sqlite::install(handle_, data_) != SQLITE_OK) throw std::bad_alloc();
   data_->skipsBad = request.skipsBad;
   for (const std::string& text : request.data) {

@@ -167,12 +167,29 @@ class Session {
     } else if (message.rfind("no such table: ", 0) == 0) {
       wrong.advise("the tables are {}", tables());
     } else if (isColumn) {
-      wrong.advise("{}\"pragma table_info(vlan)\" lists the columns of a table",
-                   didYouMean(message.substr(message.find_last_of(" .") + 1), columns()));
+      wrong.advise("{}\"pragma table_info(TABLE)\" lists the columns of a table",
+                   columnHint(message.substr(message.find_last_of(" .") + 1)));
+    } else if (message.rfind("ambiguous column name", 0) == 0) {
+      wrong.advise("write the table and a point before it, such as vlan.\"index\"");
+    } else if (message.find("near \"index\"") != message.npos) {
+      wrong.advise("write \"index\" in double quotes, because it is a word of SQL");
     } else {
       wrong.advise("correct the statement");
     }
     return wrong;
+  }
+
+  /// Which tables have a column that a statement does not find, or what it may be called.
+  std::string columnHint(const std::string& name) const {
+    std::vector<std::string> owners;
+    for (const Sqlite::TableData& table : database_.data().tables()) {
+      for (const Sqlite::Column& column : table.columns) {
+        if (sqlite3_stricmp(column.name.c_str(), name.c_str()) == 0)
+          owners.emplace_back(table.table.name());
+      }
+    }
+    if (!owners.empty()) return formatText("it is a column of {}; ", join(owners, ", "));
+    return didYouMean(name, columns());
   }
 
   std::vector<std::string> columns() const {
