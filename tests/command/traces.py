@@ -390,6 +390,7 @@ for lines, options, text in (
         ([""], [], "no line is a bus transaction"), (["what", "W 5"], [], "no line is a bus transaction"),
         (["W 4 35 1 0xfa000100 0x1 0x0 0"], [], "two shapes"), ([small + "5"], ["--from", "1"], "compare"),
         (["1:00:00 " + small + "5"], ["--until", "7.5"], "compare"),
+        ([small + "5"], ["--from", "7.5", "--until", "7.25"], "is before --from"),
         ([small + "5"], ["--where", "stg=64"], "largest value"), ([small + "5"], ["--where", "no=1"], "no field"),
         ([small + "5"], ["--line", "{op} {words}"], "{address} is missing"),
         ([small + "5"], ["--history", "vlan:8192"], "0 to 8191"), ([small + "5"], ["--table", "vlan2"], "exist")):

@@ -58,6 +58,10 @@ class TraceFilter {
     for (const std::string& name : request.tables) tables_.push_back(tableOnChip(request, name));
     from_ = timeOf("--from", request.from);
     until_ = timeOf("--until", request.until);
+    if (from_ && until_ && from_->hasFormOf(*until_) && until_->isBefore(*from_)) {
+      fail("--until {} is before --from {}; give the earlier time to --from", request.until,
+           request.from);
+    }
     if (!request.where.empty()) readConditions();
   }
 
