@@ -90,7 +90,7 @@ class TextBuffer {
 
   std::string& to_;
   char* at_ = text_;
-  char text_[size];
+  char text_[size] = {};
 };
 
 }  // namespace Core
