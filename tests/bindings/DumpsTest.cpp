@@ -221,7 +221,7 @@ TEST(Faults, haveAPlaceAndChoices) {
       {"VlanMpls", stride, "abcd", VELMAR_OPTION, "give at least 4", "", 0},
       {"VlanMpls", variant, "abcd", VELMAR_VARIANT, "give 0 to 255", "", 0},
       {"VlanMpls", noOptions, "", VELMAR_INPUT, "empty; ", "", 0},
-      {"VlanEntry", late, std::string(32, '\1'), VELMAR_INDEX, "8193 entries", "", 0},
+      {"VlanEntry", late, std::string(32, '\1'), VELMAR_INDEX, "from index 8191 on", "first", 0},
       {"VlanEntry", noOptions, std::string(33, '\1'), VELMAR_SIZE, "give stride", "stride", 0},
       {"VlanEntry", noOptions, std::string("\x1f\x8b\x08", 3), VELMAR_INPUT,
        "or give input=\"raw\" if", "input=raw", 0},
