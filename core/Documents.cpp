@@ -75,14 +75,6 @@ std::string valueJson(const FieldPlace& place, const Value& value) {
   return json;
 }
 
-std::string plainJson(const FieldPlace& place, const Value& value) {
-  std::string json;
-  TextBuffer to(json);
-  addPlain(to, place, value);
-  to.flush();
-  return json;
-}
-
 std::string sourceJson(const Layout& layout) {
   return formatText(R"("table": "{}", "chip": "{}", "variant": {})", layout.name(),
                     layout.chip().name, layout.variant());

@@ -59,8 +59,6 @@ class EntryDocument {
 
 /// The value of a field as a JSON object: {"hex": ..., "decimal": ..., "ports": [...]}.
 std::string valueJson(const FieldPlace& place, const Value& value);
-/// The value alone: a number if it is exact, a list of ports, or hexadecimal text.
-std::string plainJson(const FieldPlace& place, const Value& value);
 /// The members that say of which table a document is: "table", "chip" and "variant".
 std::string sourceJson(const Layout& layout);
 
